@@ -1,0 +1,97 @@
+#include "controls/control.h"
+
+#include "controls/form.h"
+
+namespace vicetoll {
+
+Control::Control(Form& form, Identity identity) : form_(form), identity_(std::move(identity)) {}
+
+std::string Control::FullName() const {
+  if (Index() == kNoIndex) return Name();
+  return Name() + "(" + std::to_string(Index()) + ")";
+}
+
+void Control::Changed() {
+  if (FormListener* listener = form_.Listener()) listener->ControlChanged(*this);
+}
+
+void Control::SetEnabled(bool enabled) {
+  if (enabled_ == enabled) return;
+  enabled_ = enabled;
+  Changed();
+}
+
+void Control::SetVisible(bool visible) {
+  if (visible_ == visible) return;
+  visible_ = visible;
+  Changed();
+}
+
+void Control::SetAvailable(bool available) {
+  SetEnabled(available);
+  SetVisible(available);
+}
+
+void Control::SetToolTip(std::string_view text) {
+  toolTip_ = text;
+  Changed();
+}
+
+void Control::SetPlace(const Place& place) {
+  place_ = place;
+  Changed();
+}
+
+bool Control::Reachable() const {
+  if (!form_.Shown()) return false;
+  for (const Control* c = this; c != nullptr; c = c->Container()) {
+    if (!c->Visible() || !c->Enabled()) return false;
+    if (c->Container() != nullptr && !c->Container()->ShowsPage(c->Page())) return false;
+  }
+  return true;
+}
+
+UserOutcome Control::UserFocuses() {
+  if (!Reachable()) return UserOutcome::Refused;
+  if (onFocus) onFocus();
+  return UserOutcome::Done;
+}
+
+void CaptionedControl::SetCaption(std::string_view caption) {
+  if (caption_ == caption) return;
+  caption_ = caption;
+  Changed();
+}
+
+UserOutcome Button::UserClicks() {
+  if (!Reachable()) return UserOutcome::Refused;
+  if (onClick) onClick();
+  return UserOutcome::Done;
+}
+
+UserOutcome Panel::UserClicks() {
+  if (!Reachable()) return UserOutcome::Refused;
+  if (onClick) onClick();
+  return UserOutcome::Done;
+}
+
+void TextBox::SetText(std::string_view text) {
+  if (text_ == text) return;
+  text_ = text;
+  Changed();
+}
+
+void TabControl::SetTab(int tab) {
+  if (tab_ == tab) return;
+  tab_ = tab;
+  Changed();
+  if (onChange) onChange();
+}
+
+UserOutcome TabControl::UserSelects(int tab) {
+  if (!Reachable()) return UserOutcome::Refused;
+  SetTab(tab);
+  return UserOutcome::Done;
+}
+
+}  // namespace vicetoll

@@ -1,0 +1,198 @@
+// What a control is: state with a name, events that a user can raise, a listener that hears of changes.
+//
+// Controls are the model of the windows. The program's rules read and write them; a widget or a test
+// driver shows them and hands on what a user does. Setting something by program raises no user event;
+// the two exceptions, change events of radios and tabs, say so.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace vicetoll {
+
+class Form;
+
+// What a user's action came to.
+enum class UserOutcome {
+  Done,
+  Refused,  // the user could not reach the control; nothing happened
+  NoEntry,  // a list has no such entry; nothing happened
+};
+
+enum class ControlKind {
+  List,
+  TextBox,
+  Button,
+  MenuEntry,
+  Option,
+  Radio,
+  CheckBox,
+  Label,
+  Frame,
+  TabControl,
+  Panel,
+  Grid,
+  DocumentText,
+};
+
+// A rectangle in twips (1440 to the inch), relative to the control's container.
+struct Place {
+  int left = 0, top = 0, width = 0, height = 0;
+};
+
+inline constexpr int kNoIndex = -1;
+inline constexpr int kAnyPage = -1;
+
+// Colours are the numbers blue * 65536 + green * 256 + red.
+inline constexpr int kRed = 255;
+inline constexpr int kGreen = 49152;
+inline constexpr int kBlue = 16711680;
+inline constexpr int kWhite = 16777215;
+
+class Control {
+ public:
+  // What a control is made of. `index` is its place in a control array, kNoIndex if it is in none.
+  // `container` is the frame, panel or tab control it stands in (nullptr: the window itself), `page` the
+  // tab it stands on where the container is a tab control.
+  struct Identity {
+    std::string name;
+    int index = kNoIndex;
+    Control* container = nullptr;
+    int page = kAnyPage;
+  };
+
+  Control(Form& form, Identity identity);
+  virtual ~Control() = default;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  virtual ControlKind Kind() const = 0;
+
+  const std::string& Name() const { return identity_.name; }
+  int Index() const { return identity_.index; }
+  std::string FullName() const;  // "optTimePeriodPast(2)"
+  Control* Container() const { return identity_.container; }
+  int Page() const { return identity_.page; }
+  Form& Window() const { return form_; }
+
+  bool Enabled() const { return enabled_; }
+  bool Visible() const { return visible_; }
+  void SetEnabled(bool enabled);
+  void SetVisible(bool visible);
+
+  // Enables and shows, or disables and hides. What is hidden keeps its text.
+  void SetAvailable(bool available);
+
+  const std::string& ToolTip() const { return toolTip_; }
+  void SetToolTip(std::string_view text);
+
+  const Place& GetPlace() const { return place_; }
+  void SetPlace(const Place& place);
+
+  // Whether a user can get at the control: its window is shown, it and all its containers are visible
+  // and enabled, and it stands on the tab in front.
+  bool Reachable() const;
+
+  // The input focus arrives.
+  UserOutcome UserFocuses();
+  std::function<void()> onFocus;
+
+ protected:
+  void Changed();
+  // Whether children on `page` are in front.
+  virtual bool ShowsPage(int) const { return true; }
+
+ private:
+  Form& form_;
+  Identity identity_;
+  bool enabled_ = true;
+  bool visible_ = true;
+  std::string toolTip_;
+  Place place_;
+};
+
+// A control with a caption: button, menu entry, label, frame, and the base of the choices.
+class CaptionedControl : public Control {
+ public:
+  CaptionedControl(Form& form, Identity identity, std::string_view caption)
+      : Control(form, std::move(identity)), caption_(caption) {}
+
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(std::string_view caption);
+
+ private:
+  std::string caption_;
+};
+
+class Button : public CaptionedControl {
+ public:
+  using CaptionedControl::CaptionedControl;
+  ControlKind Kind() const override { return ControlKind::Button; }
+
+  UserOutcome UserClicks();
+  std::function<void()> onClick;
+};
+
+// An entry of a window's right-click menu.
+class MenuEntry : public Button {
+ public:
+  using Button::Button;
+  ControlKind Kind() const override { return ControlKind::MenuEntry; }
+};
+
+class Label : public CaptionedControl {
+ public:
+  using CaptionedControl::CaptionedControl;
+  ControlKind Kind() const override { return ControlKind::Label; }
+};
+
+class Frame : public CaptionedControl {
+ public:
+  using CaptionedControl::CaptionedControl;
+  ControlKind Kind() const override { return ControlKind::Frame; }
+};
+
+// A background panel; it takes clicks.
+class Panel : public Control {
+ public:
+  using Control::Control;
+  ControlKind Kind() const override { return ControlKind::Panel; }
+
+  UserOutcome UserClicks();
+  std::function<void()> onClick;
+};
+
+// A box that shows a text and takes no typing.
+class TextBox : public Control {
+ public:
+  using Control::Control;
+  ControlKind Kind() const override { return ControlKind::TextBox; }
+
+  const std::string& Text() const { return text_; }
+  void SetText(std::string_view text);
+
+ private:
+  std::string text_;
+};
+
+// A tab control. Its change event runs on every change of the tab in front, by user or program.
+class TabControl : public Control {
+ public:
+  using Control::Control;
+  ControlKind Kind() const override { return ControlKind::TabControl; }
+
+  int Tab() const { return tab_; }
+  void SetTab(int tab);
+
+  UserOutcome UserSelects(int tab);
+  std::function<void()> onChange;
+
+ protected:
+  bool ShowsPage(int page) const override { return page == kAnyPage || page == tab_; }
+
+ private:
+  int tab_ = 0;
+};
+
+}  // namespace vicetoll

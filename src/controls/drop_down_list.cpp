@@ -1,0 +1,67 @@
+#include "controls/drop_down_list.h"
+
+#include <algorithm>
+
+namespace vicetoll {
+namespace {
+const std::string kNoEntry;
+}  // namespace
+
+const std::string& DropDownList::Entry(int position) const {
+  return position >= 0 && position < Count() ? entries_[position] : kNoEntry;
+}
+
+const std::string& DropDownList::EntryOrLast(int position) const {
+  return Entry(std::min(position, Count() - 1));
+}
+
+int DropDownList::Find(std::string_view text) const {
+  const auto found = std::find(entries_.begin(), entries_.end(), text);
+  return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
+}
+
+void DropDownList::SetText(std::string_view text) {
+  text_ = text;
+  position_ = Find(text_);
+  Changed();
+}
+
+void DropDownList::Insert(int position, std::string_view entry) {
+  entries_.emplace(entries_.begin() + position, entry);
+  if (position_ >= position)
+    ++position_;
+  else if (position_ == -1 && entry == text_)
+    position_ = position;
+  Changed();
+}
+
+void DropDownList::Clear() {
+  entries_.clear();
+  text_.clear();
+  position_ = -1;
+  Changed();
+}
+
+UserOutcome DropDownList::UserPicks(int position) {
+  if (!Reachable()) return UserOutcome::Refused;
+  if (position < 0 || position >= Count()) return UserOutcome::NoEntry;
+  text_ = entries_[position];
+  position_ = position;
+  Changed();
+  if (onPick) onPick();
+  return UserOutcome::Done;
+}
+
+UserOutcome DropDownList::UserPicks(std::string_view entry) {
+  if (!Reachable()) return UserOutcome::Refused;
+  return UserPicks(Find(entry));
+}
+
+UserOutcome DropDownList::UserTypes(std::string_view text) {
+  if (!Reachable() || !takesTyping_) return UserOutcome::Refused;
+  SetText(text);
+  if (onType) onType();
+  return UserOutcome::Done;
+}
+
+}  // namespace vicetoll

@@ -1,0 +1,111 @@
+#include "controls/form.h"
+
+#include <charconv>
+
+#include "calendar/fault.h"
+
+namespace vicetoll {
+
+void Form::Changed() {
+  if (listener_) listener_->FormChanged(*this);
+}
+
+void Form::SetCaption(std::string_view caption) {
+  if (caption_ == caption) return;
+  caption_ = caption;
+  Changed();
+}
+
+void Form::SetShown(bool shown) {
+  if (shown_ == shown) return;
+  shown_ = shown;
+  Changed();
+}
+
+void Form::Resize(int width, int height) {
+  if (width == width_ && height == height_) return;
+  width_ = width;
+  height_ = height;
+  if (onResize) onResize();
+  Changed();
+}
+
+void Form::SetWindowState(WindowState state) {
+  if (state == state_) return;
+  state_ = state;
+  if (onResize) onResize();
+  Changed();
+}
+
+UserOutcome Form::UserResizes(int width, int height) {
+  if (!shown_) return UserOutcome::Refused;
+  Resize(width, height);
+  return UserOutcome::Done;
+}
+
+void Form::StartCanvasLine() {
+  canvas_.emplace_back();
+  Changed();
+}
+
+void Form::TypeOnCanvas(char letter) {
+  if (canvas_.empty()) canvas_.emplace_back();
+  canvas_.back() += letter;
+  Changed();
+}
+
+void Form::ClearCanvas() {
+  canvas_.clear();
+  Changed();
+}
+
+ChoiceGroup& Form::AddGroup() {
+  groups_.push_back(std::make_unique<ChoiceGroup>());
+  return *groups_.back();
+}
+
+void Form::Register(std::unique_ptr<Control> control) {
+  byName_.emplace(NameLess::Key(control->Name(), control->Index()), control.get());
+  controls_.push_back(std::move(control));
+}
+
+Control* Form::Find(std::string_view name, int index) const {
+  const auto found = byName_.find(NameLess::Key(name, index));
+  return found == byName_.end() ? nullptr : found->second;
+}
+
+Control* Form::Find(std::string_view fullName) const {
+  const std::size_t open = fullName.find('(');
+  if (open == std::string_view::npos) return Find(fullName, kNoIndex);
+  if (fullName.back() != ')') return nullptr;
+  const std::string_view digits = fullName.substr(open + 1, fullName.size() - open - 2);
+  int index = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), index);
+  if (error != std::errc() || end != digits.data() + digits.size()) return nullptr;
+  return Find(fullName.substr(0, open), index);
+}
+
+std::vector<Control*> Form::FindAll(std::string_view name) const {
+  std::vector<Control*> found;
+  for (auto i = byName_.lower_bound(NameLess::Key(name, kNoIndex)); i != byName_.end(); ++i) {
+    if (i->first.first != name) break;
+    found.push_back(i->second);
+  }
+  return found;
+}
+
+Control* Form::Require(std::string_view name, int index) const {
+  Control* control = Find(name, index);
+  if (control == nullptr)
+    throw Fault(FaultKind::Index, "There is no control " + std::string(name) + " in " + name_ + ".");
+  return control;
+}
+
+std::vector<Control*> Form::ControlsByName() const {
+  std::vector<Control*> controls;
+  controls.reserve(byName_.size());
+  for (const auto& [key, control] : byName_) controls.push_back(control);
+  return controls;
+}
+
+}  // namespace vicetoll

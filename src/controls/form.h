@@ -1,0 +1,119 @@
+// A window: a set of named controls, with caption, size and whether it is shown.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "controls/choice.h"
+#include "controls/control.h"
+
+namespace vicetoll {
+
+// Hears what changes, so that a widget can be kept in step. It is told after the change, and need not
+// know what changed: it reads the control anew.
+class FormListener {
+ public:
+  virtual ~FormListener() = default;
+  virtual void ControlChanged(Control& control) = 0;
+  virtual void FormChanged(Form& form) = 0;
+};
+
+enum class WindowState { Normal, Minimised, Maximised };
+
+class Form {
+ public:
+  Form(std::string_view name, std::string_view caption) : name_(name), caption_(caption) {}
+  virtual ~Form() = default;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  // A sin key, or the window's own name: "frmSwitchSins".
+  const std::string& Name() const { return name_; }
+
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(std::string_view caption);
+
+  bool Shown() const { return shown_; }
+  void Show() { SetShown(true); }
+  void Hide() { SetShown(false); }
+
+  // Outer size in twips. Setting a size runs the resize event, as a user's resizing does.
+  int Width() const { return width_; }
+  int Height() const { return height_; }
+  void Resize(int width, int height);
+  WindowState GetWindowState() const { return state_; }
+  // Minimised, maximised or back to normal; runs the resize event.
+  void SetWindowState(WindowState state);
+  UserOutcome UserResizes(int width, int height);  // Refused while the window is hidden
+  std::function<void()> onResize;
+
+  // Texts typed on the bare window, a line each, blank lines included. A letter goes to the last line.
+  const std::vector<std::string>& Canvas() const { return canvas_; }
+  void StartCanvasLine();
+  void TypeOnCanvas(char letter);
+  void ClearCanvas();
+
+  // Makes a control of this window: Add<Button>({"cmdExit"}, "Exit").
+  template <class T, class... Args>
+  T& Add(Control::Identity identity, Args&&... args) {
+    auto control = std::make_unique<T>(*this, std::move(identity), std::forward<Args>(args)...);
+    T& made = *control;
+    Register(std::move(control));
+    return made;
+  }
+
+  // A group of choices of this window.
+  ChoiceGroup& AddGroup();
+
+  // The control of that name ("optTimePeriodPast(2)", "cmdExit"), nullptr if there is none.
+  Control* Find(std::string_view fullName) const;
+  Control* Find(std::string_view name, int index) const;
+  // The control of that name, or all elements of that array in the order of their indices.
+  std::vector<Control*> FindAll(std::string_view name) const;
+  // The control of that name and type. Throws Fault(Index) if there is none.
+  template <class T>
+  T& Get(std::string_view name, int index = kNoIndex) const {
+    return dynamic_cast<T&>(*Require(name, index));
+  }
+
+  // All controls in the order they were made: containers before what stands in them, and otherwise
+  // the order of reading, which is also that of the Tab key.
+  const std::vector<std::unique_ptr<Control>>& Controls() const { return controls_; }
+  // All controls by name (byte order), elements of arrays by index.
+  std::vector<Control*> ControlsByName() const;
+
+  void SetListener(FormListener* listener) { listener_ = listener; }
+  FormListener* Listener() const { return listener_; }
+
+ protected:
+  void SetShown(bool shown);
+
+ private:
+  struct NameLess {
+    using is_transparent = void;
+    using Key = std::pair<std::string_view, int>;
+    bool operator()(const Key& a, const Key& b) const { return a < b; }
+  };
+
+  void Register(std::unique_ptr<Control> control);
+  Control* Require(std::string_view name, int index) const;
+  void Changed();
+
+  std::string name_;
+  std::string caption_;
+  bool shown_ = false;
+  int width_ = 0;
+  int height_ = 0;
+  WindowState state_ = WindowState::Normal;
+  std::vector<std::string> canvas_;
+  std::vector<std::unique_ptr<Control>> controls_;
+  std::vector<std::unique_ptr<ChoiceGroup>> groups_;
+  std::map<NameLess::Key, Control*, NameLess> byName_;  // the names live in the controls
+  FormListener* listener_ = nullptr;
+};
+
+}  // namespace vicetoll
