@@ -1,0 +1,99 @@
+#include "calendar/date_label.h"
+
+#include <cmath>
+
+#include "calendar/checked_int.h"
+#include "calendar/number_text.h"
+
+namespace vicetoll {
+namespace {
+
+constexpr std::string_view kMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                        "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+constexpr int kMonthsPerYear = 12;
+
+char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+bool EqualIgnoringCase(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i)
+    if (Upper(a[i]) != Upper(b[i])) return false;
+  return true;
+}
+
+// A number as a 16-bit one, halves to the even neighbour.
+std::int16_t ToInt16(double value) {
+  if (!(std::fabs(value) < 1e6)) return Int16(1'000'000);
+  return Int16(static_cast<std::int64_t>(std::nearbyint(value)));
+}
+
+}  // namespace
+
+std::int16_t MonthNumberFromLabel(std::string_view label) {
+  for (std::int16_t month = 1; month <= kMonthsPerYear; ++month)
+    if (EqualIgnoringCase(label.substr(0, 3), kMonths[month - 1])) return month;
+  return 0;
+}
+
+std::int16_t YearFromLabel(std::string_view label) {
+  if (label.size() > 4) label.remove_prefix(label.size() - 4);
+  if (label.size() == 4) {
+    // Four digits, as every label of the program ends in; anything else takes the general road.
+    int year = 0;
+    for (char c : label) year = c >= '0' && c <= '9' && year >= 0 ? year * 10 + (c - '0') : -1;
+    if (year >= 0) return static_cast<std::int16_t>(year);
+  }
+  return ToInt16(TextToNumber(label));
+}
+
+std::string MakeDateLabel(std::int16_t month, std::int16_t year) {
+  if (month < -1 || month > kMonthsPerYear + 1) return {};
+  std::string label(kMonths[(month + kMonthsPerYear - 1) % kMonthsPerYear]);
+  label += " - ";
+  label += std::to_string(year);
+  return label;
+}
+
+std::int16_t MonthsBetween(std::string_view label, std::string_view other) {
+  const std::int16_t years = Subtract(YearFromLabel(other), YearFromLabel(label));
+  return Add(Multiply(years, kMonthsPerYear),
+             Subtract(MonthNumberFromLabel(other), MonthNumberFromLabel(label)));
+}
+
+std::int16_t MonthsInclusive(std::string_view first, std::string_view last) {
+  return Add(MonthsBetween(first, last), 1);
+}
+
+std::string MonthAfter(std::string_view label) {
+  const std::int16_t month = MonthNumberFromLabel(label);
+  const std::int16_t year = YearFromLabel(label);
+  return month == kMonthsPerYear ? MakeDateLabel(1, Add(year, 1)) : MakeDateLabel(Add(month, 1), year);
+}
+
+double DayCountOfMonthIndex(std::string& monthIndex, std::string_view startLabel) {
+  std::int16_t month = Add(ToInt16(TextToNumber(monthIndex)), MonthNumberFromLabel(startLabel));
+  month = Subtract(month, 1);
+  monthIndex = std::to_string(month);
+  if (month > kMonthsPerYear) month %= kMonthsPerYear;
+  switch (month) {
+    case 1:
+    case 3:
+    case 5:
+    case 7:
+    case 8:
+    case 10:
+    case 12:
+      return 31;
+    case 2:
+      return 28;
+    case 4:
+    case 6:
+    case 9:
+    case 11:
+      return 30;
+    default:
+      return 365.0 / kMonthsPerYear;
+  }
+}
+
+}  // namespace vicetoll

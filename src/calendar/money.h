@@ -1,0 +1,35 @@
+// Money as text, in the currency of the run.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace vicetoll {
+
+// The symbol that money is shown with. A run starts with the dollar and may move to the euro once.
+enum class Currency { Dollar, Euro };
+
+// The euro sign in the program's eight-bit texts (code page 1252).
+inline constexpr char kEuroSign = '\x80';
+
+// The value in the format, whose first character, the dollar sign, gives way to the euro sign in euro
+// mode. A text that is no number comes back unchanged.
+std::string FormatMoney(Currency currency, std::string_view value, std::string_view format);
+std::string FormatMoney(Currency currency, double value, std::string_view format);
+
+// The text without a leading euro sign; any other text as it is.
+std::string StripCurrency(std::string_view text);
+
+// The same two with the letter "e" for the euro sign: the document report shows the euro so.
+std::string FormatMoneyLetter(Currency currency, std::string_view value, std::string_view format);
+std::string FormatMoneyLetter(Currency currency, double value, std::string_view format);
+std::string StripCurrencyLetter(std::string_view text);
+
+// The number in a money text: StripCurrency, then text to number. Throws Fault(Conversion).
+double MoneyToNumber(std::string_view text);
+
+// The text with blanks appended until it has `width` characters; a longer text as it is.
+std::string PadRight(std::string_view text, std::int16_t width);
+
+}  // namespace vicetoll

@@ -1,0 +1,34 @@
+// Past and future: the two sides of a sin. One code serves both; these are the words in which they differ.
+#pragma once
+
+#include <string_view>
+
+namespace vicetoll {
+
+enum class Side { Past, Future };
+
+inline constexpr Side kSides[] = {Side::Past, Side::Future};
+
+// The side's suffix in names of controls: "Past", "Fut".
+constexpr std::string_view ControlSuffix(Side side) { return side == Side::Past ? "Past" : "Fut"; }
+
+// The side's suffix in names of operations: "Past", "Future".
+constexpr std::string_view OperationSuffix(Side side) { return side == Side::Past ? "Past" : "Future"; }
+
+// What captions of the side's periods begin with.
+constexpr std::string_view PeriodPrefix(Side side) {
+  return side == Side::Past ? "Past Period " : "Future Period ";
+}
+
+// A text that may read differently on the two sides.
+struct BySide {
+  std::string_view past, future;
+
+  constexpr BySide() = default;
+  constexpr BySide(const char* both) : past(both), future(both) {}
+  constexpr BySide(const char* pastText, const char* futureText) : past(pastText), future(futureText) {}
+
+  constexpr std::string_view operator[](Side side) const { return side == Side::Past ? past : future; }
+};
+
+}  // namespace vicetoll
