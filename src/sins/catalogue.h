@@ -1,0 +1,152 @@
+// The catalogue: what makes one workspace into twelve sins. Plain data, read by every other room.
+//
+// A sin differs from the others only in its row. Misspellings, asymmetries between past and future, and
+// words that belong to another sin are part of what users know, and stay.
+//
+// A member that has an initializer here may be left out of a row: it is empty in the classes that have no
+// use for it, or follows another member unless the row says otherwise. All others must be given.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "calendar/side.h"
+
+namespace vicetoll {
+
+inline constexpr int kSinCount = 12;
+inline constexpr int kPeriodCount = 4;
+
+enum class CostClass {
+  PacksClass,     // packs or cigarettes a day, times the cost of a pack
+  UnitsClass,     // units a day, times the cost of a unit
+  NetUnitsClass,  // units a day, times gross less reasonable cost of a unit
+  FlatRateClass,  // the one figure is the money itself
+};
+
+// Per Day or Per Month: the unit in which a quantity or a flat cost is entered.
+enum class Unit { PerDay, PerMonth };
+
+// One run of a value list: the values counter * multiplier / divisor for counter = first..last.
+struct Run {
+  int first, last, multiplier, divisor;
+};
+
+// A value list: its runs, in order, and the format of its entries ("$0.00", "$0", "0", "0.00", "0%").
+struct ListDefinition {
+  std::span<const Run> runs;
+  std::string_view format;
+};
+
+// The literals of the period header in the document view.
+struct DocumentHeaderWords {
+  std::string_view startLine, stopLine;  // "Start Smoking Date for Period is: ", ...
+  BySide costLine;                       // initial cost; in the flat-rate class the cost line itself
+  std::string_view reasonableLine{};     // net-units class only
+  std::string_view excessLine{};         // net-units class only
+  std::string_view percentLine{};        // empty in the flat-rate class
+  std::string_view finalCostLine{};      // classes with initial/final option only
+  std::string_view quantityLine{};       // empty in the flat-rate class
+};
+
+// The literals of a month's block in the document view.
+struct DocumentMonthWords {
+  std::string_view heading;                // " Smoking Results for the Beginning to End of "
+  std::string_view headingTwin = heading;  // the heading with its second blank in the two operations that
+                                           // have it (the past months and the future gaps of Coffeeing and
+                                           // Watering); in all other sins the same text as `heading`
+  std::string_view quantity;               // " Packs Smoked Per Day: "
+  std::string_view unitCost;          // " Cost of a Pack of Cigarettes: "; gross cost in the net-units class
+  std::string_view reasonableCost{};  // net-units class only
+  std::string_view adjustedCost{};    // net-units class only
+  std::string_view plainUnitCost{};   // net-units class only: " Cost of a Coffee: ", in the future months
+  std::string_view outOfPocket;       // " Out of Pocket Monthly Cost of Cigarettes: "
+  std::string_view plural;            // "Cigarettes", of the three lines that follow from it
+};
+
+// One sin. Names of controls are given without their side suffix.
+struct SinRow {
+  // Identity.
+  std::string_view key;   // "Smoking"
+  std::string_view stem;  // of LabelMaker...: "Smoke"
+  CostClass costClass;
+  std::string_view chooserCaption;                 // of OptSwitchSins
+  std::string_view checkCaption = chooserCaption;  // of chkWhichSins
+  std::string_view titleWord;                      // "Ashtoll"
+  std::string_view designCaption;                  // of the window before its creation is through
+  std::string_view windowCaption;                  // set by the creation
+  std::string_view totalFrame;                     // caption of frmSummarytot: "TOTAL ASHTOLL"
+  std::string_view reportStem = stem;  // of the report titles: the stem, but "Shopping " for Shopping
+
+  // Names of controls that differ.
+  std::string_view enableFrameName;       // "frmEnableDisable" or "frmEnableDisableDrinking"
+  std::string_view timePeriodFrameName;   // "frmSetTimeSmokingPeriod", on the PAST tab
+  std::string_view futureTotalLabelName;  // "lblResultsFutTotal", in Slothing "Label5"
+  std::string_view quantityLabelName{};   // "lblSmokesPerDay"; empty in the flat-rate class
+  std::string_view costLabelName;         // "lblCigCost"; in the flat-rate class "lblCostOf"
+  std::string_view percentLabelName;      // "lblCigPercentIncrease"
+
+  // Period frames: what follows "Past Period " or "Future Period " and the number.
+  BySide startSuffix, stopSuffix, dailySuffix, costChangeSuffix;
+  // The same two captions for period 1 as the window design has them, where they read otherwise.
+  BySide designDailySuffix = dailySuffix, designCostChangeSuffix = costChangeSuffix;
+
+  // Quantity and cost labels. For Smoking "per month" stands for the cigarettes option.
+  std::string_view quantityLabelDesign{}, quantityLabelPerDay{}, quantityLabelPerMonth{};
+  std::string_view costLabelDesign;     // all classes (flat-rate: of lblCostOf)
+  std::string_view costLabelPercent{};  // after the percent option; classes with the two cost modes only
+  std::string_view costLabelInitial{}, costLabelFinal{};  // likewise
+  std::string_view percentLabelDesign, percentLabelPercent{};
+  BySide percentOptionCaption{}, initialFinalOptionCaption{};  // classes with the two cost modes only
+  BySide flatLabelPerDay{};                                    // flat-rate class only
+  std::string_view flatLabelPerMonth{};                        // flat-rate class only
+  std::string_view subCostLabel{};                             // net-units class only
+
+  // Words of captions and tool tips.
+  std::string_view summaryWord;                   // "Detailed Results on Past " + word
+  std::string_view summaryTotWord = summaryWord;  // "Detailed Results on (Past + Future) " + word
+  BySide enableFrameCaption;                      // "Enable/Disable Periods of Smoking"
+  std::string_view dateTipWord;                   // "Start " + word + " Date for Period"
+
+  // Value lists and the positions of their defaults. The quantity list is comPacksPerDay for Smoking,
+  // comPerPeriod for the units classes, comCostof for the flat-rate class.
+  Unit startUnit;               // the unit option that is on at the start (Smoking: PerDay, not shown)
+  ListDefinition perDayList;    // Smoking: packs
+  ListDefinition perMonthList;  // Smoking: cigarettes
+  int quantityDefault;          // position
+  ListDefinition costList{};    // comInitialCost; none in the flat-rate class
+  int costDefault{};
+  ListDefinition secondCostList{};  // comFinalCost or comSubCost
+  int secondCostDefault{};
+  int percentDefault;
+
+  // Reports.
+  std::string_view gridHeading;
+  DocumentHeaderWords header;
+  DocumentMonthWords month;
+  std::array<std::span<const std::string_view>, 5> tableHeading;  // CsvText: five lines of cells
+};
+
+// The twelve sins in the system's one order.
+const std::array<SinRow, kSinCount>& Catalogue();
+
+// The rate lists "0%" to "100%", alike in all sins, and the positions of their defaults.
+extern const ListDefinition kRateList;
+inline constexpr int kInterestDefault = 5;
+inline constexpr int kInflationDefault = 3;
+
+// The position of a sin key in the catalogue, or -1 if it is none.
+int SinPosition(std::string_view key);
+
+// The past and future numbers of the sin at a position from 0, in all period tables: 2p + 1 and 2p + 2.
+constexpr std::int16_t SideIndexOf(int position, Side side) {
+  return static_cast<std::int16_t>(2 * position + (side == Side::Past ? 1 : 2));
+}
+
+// True for the classes that have the percent and the initial/final option.
+constexpr bool HasCostModes(CostClass c) { return c == CostClass::PacksClass || c == CostClass::UnitsClass; }
+
+}  // namespace vicetoll
