@@ -1,0 +1,92 @@
+#include "engine/period_cost.h"
+
+#include <cmath>
+
+#include "calendar/checked_int.h"
+#include "calendar/date_label.h"
+#include "calendar/money.h"
+#include "calendar/number_text.h"
+
+namespace vicetoll {
+namespace {
+
+// The balance after the months 1..count of a period, each month's cost put in before its interest.
+double WalkBalance(double balance, double count, std::int16_t months, const CostTerms& cost, double factor) {
+  MonthWalk walk(cost, months);
+  for (double i = 1; i <= count; ++i) balance = (balance + RoundToCents(walk.Next().monthCost)) * factor;
+  return Finite(balance);
+}
+
+// The balance grown over the months strictly between two labels; none or fewer leave it alone.
+double GrowBetween(double balance, double factor, std::string_view stop, std::string_view start) {
+  const int gap = Subtract(MonthsInclusive(stop, start), 2);
+  for (int i = 0; i < gap; ++i) balance *= factor;
+  return Finite(balance);
+}
+
+}  // namespace
+
+Rates RatesOf(const PeriodRecord& record) {
+  return {LeadingNumber(record.InterestRateText), LeadingNumber(record.InflationRateText)};
+}
+
+std::int16_t PeriodTerms::Months() const { return MonthsInclusive(StartLabel, StopLabel); }
+
+PeriodTerms TermsOf(const PeriodRecord& record, CostClass costClass, std::string_view quantityText,
+                    bool perDay) {
+  PeriodTerms terms;
+  terms.StartLabel = record.StartLabel;
+  terms.StopLabel = record.StopLabel;
+  terms.rates = RatesOf(record);
+  terms.cost.costClass = costClass;
+  terms.cost.yearlyFraction = LeadingNumber(record.PercentIncreaseText) / 100;
+  double quantity = MoneyToNumber(quantityText);
+  if (costClass != CostClass::PacksClass && !perDay) quantity /= DaysPerMonth;
+  if (costClass == CostClass::FlatRateClass) {
+    terms.cost.initialCost = quantity;
+    return terms;
+  }
+  terms.cost.quantity = quantity;
+  terms.cost.initialCost = MoneyToNumber(record.InitialCostText);
+  if (costClass == CostClass::NetUnitsClass) {
+    terms.cost.reasonableCost = MoneyToNumber(record.ReasonableCostText);
+  } else {
+    terms.cost.finalCost = MoneyToNumber(record.FinalCostText);
+    terms.cost.packsFlag = record.QuantityUnitFlag;
+    terms.cost.percentMode = record.CostModeFlag;
+  }
+  return terms;
+}
+
+double CostInPeriod(const PeriodTerms& terms) {
+  const std::int16_t months = terms.Months();
+  MonthWalk walk(terms.cost, months);
+  double total = 0;
+  for (int i = 1; i <= months; ++i) total += RoundToCents(walk.Next().monthCost);
+  return total;
+}
+
+double CumulativeCostInPeriod(std::string_view startingCost, const PeriodTerms& terms,
+                              std::string_view calculateToDate, const DateWarning& warn) {
+  const std::int16_t months = terms.Months();
+  const std::int16_t count = MonthsInclusive(terms.StartLabel, calculateToDate);
+  if (count > months) warn(DateFault::BeyondEndDate);
+  if (count < 0) warn(DateFault::BeforeStartDate);
+  return WalkBalance(MoneyToNumber(startingCost), count, months, terms.cost, terms.rates.MonthlyFactor());
+}
+
+double CumulativeCostBetweenPeriod(std::string_view startingCost, const Rates& rates, std::string_view stop,
+                                   std::string_view start) {
+  return GrowBetween(MoneyToNumber(startingCost), rates.MonthlyFactor(), stop, start);
+}
+
+double CostAfterLastPeriod(std::string_view startingCost, double interestRate, std::string_view from,
+                           std::string_view to) {
+  return GrowBetween(MoneyToNumber(startingCost), 1 + interestRate / 1200, from, to);
+}
+
+double TotalCostInCurrentPeriod(double count, double months, const Rates& rates, const CostTerms& cost) {
+  return WalkBalance(0, count, Int16(static_cast<std::int64_t>(months)), cost, rates.MonthlyFactor());
+}
+
+}  // namespace vicetoll
