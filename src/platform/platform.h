@@ -1,0 +1,49 @@
+// The one door to the outside world. Tests bring their own.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vicetoll {
+
+struct MonthAndYear {
+  int month;  // 1..12
+  int year;
+};
+
+enum class MessageButtons { Ok, OkCancel };
+enum class Answer { Ok, Cancel };
+
+// All texts are in the program's eight-bit code page.
+class Platform {
+ public:
+  virtual ~Platform() = default;
+
+  // The present month.
+  virtual MonthAndYear Now() = 0;
+
+  // Shows a message and waits for the answer. An empty title leaves the box the program's own.
+  virtual Answer ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) = 0;
+
+  // Asks where to save. Starts from the name chosen last; a cancelled dialog returns no name.
+  virtual std::optional<std::string> AskSavePath(std::string_view lastPath) = 0;
+
+  // Writes a file in one go, replacing what was there. Throws Fault(File) naming the file and the reason.
+  virtual void WriteFile(const std::string& path, std::string_view bytes) = 0;
+
+  // Asks how to print and prints the text. `selection` offers the choice to print the selection only. A
+  // cancelled dialog does not stop the printing.
+  virtual void Print(std::string_view text, bool selection) = 0;
+
+  virtual void SetClipboard(std::string_view text) = 0;
+  virtual std::string Clipboard() = 0;
+
+  // Sends the browser to a page.
+  virtual void Browse(std::string_view url) = 0;
+
+  // Waits, serving events meanwhile.
+  virtual void Pause(int milliseconds) = 0;
+};
+
+}  // namespace vicetoll
