@@ -1,0 +1,24 @@
+// The press of the set button, the steps between periods, and the radios that take a period out of the
+// sums and put it back.
+#pragma once
+
+#include <cstdint>
+
+#include "workspace/sin_workspace.h"
+
+namespace vicetoll {
+
+// The press itself: stores the period on screen and commits all periods up to it.
+void PressSetButton(SinWorkspace& ws, Side side);
+
+// Commits the first `count` periods: results, chain and total of the side. Throws all later ones away.
+void CommitPeriod(SinWorkspace& ws, Side side, std::int16_t count, std::int16_t sideIndex);
+
+// The click on a period's option: seeds the period on the first forward step onto it, and shows what is
+// stored.
+void SelectPeriod(SinWorkspace& ws, Side side, std::int16_t sideIndex);
+
+// Opens the side's four result buttons if at least one set period is on, closes them otherwise.
+void UpdateResultButtons(SinWorkspace& ws, Side side, std::int16_t sideIndex);
+
+}  // namespace vicetoll

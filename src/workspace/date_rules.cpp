@@ -1,0 +1,199 @@
+#include "workspace/date_rules.h"
+
+#include <cstdlib>
+#include <vector>
+
+#include "calendar/checked_int.h"
+#include "calendar/date_label.h"
+#include "calendar/date_list.h"
+
+namespace vicetoll {
+namespace {
+
+constexpr std::int16_t kFineStep = 1;
+constexpr std::int16_t kCoarseStep = 12;
+
+// Handed to the fine rules for period 1, which has no previous period: a date long past. It is parsed,
+// but each rule that would use it applies only to periods above 1.
+const std::string kNoPreviousStop = "Jun - 1915";
+
+std::string SixMonthsBefore(std::int16_t m, std::int16_t y) {
+  return m <= 6 ? MakeDateLabel(m + 6, Subtract(y, 1)) : MakeDateLabel(m - 6, y);
+}
+
+// From June the future side reaches month 0 of the next year, which reads as its December: 18 months
+// ahead instead of six. The past side stays within the year.
+std::string SixMonthsAfter(Side side, std::int16_t m, std::int16_t y) {
+  const bool intoNextYear = side == Side::Future ? m >= 6 : m > 6;
+  return intoNextYear ? MakeDateLabel(m - 6, Add(y, 1)) : MakeDateLabel(m + 6, y);
+}
+
+// Made for the past side and used on both: a future date early in the next year is not near by this test,
+// so its fine list may begin before the next month.
+bool NearPresent(const Present& now, std::int16_t m, std::int16_t y) {
+  return (y == now.Y - 1 && m > now.M + 6) || (y == now.Y && m <= now.M + 6);
+}
+
+// Moves `lower` to the month after the previous period's stop where that is less than seven months away.
+void KeepBehindPreviousStop(SinWorkspace& ws, Side side, const std::string& thisDate,
+                            const std::string& previousStop, std::string& lower) {
+  const int gap = std::abs(MonthsBetween(thisDate, previousStop));
+  if (ws.State(side).CurrentPeriod != 1 && gap < 7) lower = MonthAfter(previousStop);
+}
+
+enum class From { Start, Stop };
+
+std::string PreviousStop(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+  const std::int16_t current = ws.State(side).CurrentPeriod;
+  return current == 1 ? kNoPreviousStop : ws.Store().At(current - 1, sideIndex).StopLabel;
+}
+
+void RebuildDates(SinWorkspace& ws, Side side, From from) {
+  SideControls& c = ws.Of(side);
+  const std::string startText = c.comStart->Text();
+  const std::string stopText = c.comStop->Text();
+  const std::string lastStop = c.comStop->Entry(c.comStop->Count() - 1);
+  const std::string firstStart = c.comStart->Entry(0);
+  c.comStart->Clear();
+  c.comStop->Clear();
+  // The side in front by its number: the tabs keep it.
+  const std::int16_t sideIndex = ws.GetSession().CurrentSinNumber;
+  const std::string previousStop = PreviousStop(ws, side, sideIndex);
+  const PeriodRecord& record = ws.Store().At(ws.State(side).CurrentPeriod, sideIndex);
+
+  // In coarse lists the two dates bound each other; the list that has the focus keeps its stored far end,
+  // the other one the far end it has.
+  const auto rebuildStart = [&] {
+    const bool coarse = from == From::Start ? c.optCourseDateStart->Value() : !c.optFineDateStart->Value();
+    if (coarse)
+      FillDateList(true, *c.comStart, from == From::Start ? record.StartListFirst : firstStart, stopText,
+                   kCoarseStep);
+    else if (startText != stopText)
+      FineBetween(ws, side, *c.comStart, startText, stopText, previousStop);
+    else
+      FineStart(ws, side, *c.comStart, startText, previousStop);
+  };
+  const auto rebuildStop = [&] {
+    const bool coarse = from == From::Stop ? c.optCourseDateStop->Value() : !c.optFineDateStop->Value();
+    if (coarse)
+      FillDateList(true, *c.comStop, startText, from == From::Stop ? record.StopListLast : lastStop,
+                   kCoarseStep);
+    else if (startText != stopText)
+      FineBetween(ws, side, *c.comStop, stopText, startText, previousStop);
+    else
+      FineStop(ws, side, *c.comStop, stopText);
+  };
+  if (from == From::Start) {
+    rebuildStart();
+    rebuildStop();
+  } else {
+    rebuildStop();
+    rebuildStart();
+  }
+  c.comStart->SelectEntry(std::max(0, c.comStart->Find(startText)));
+  const int stop = c.comStop->Find(stopText);
+  c.comStop->SelectEntry(stop == -1 ? c.comStop->Count() - 1 : stop);
+}
+
+void RefreshDates(SinWorkspace& ws, Side side, From from) {
+  SideControls& c = ws.Of(side);
+  c.cmdSetPeriodParams->SetEnabled(false);
+  try {
+    RebuildDates(ws, side, from);
+    c.cmdSetPeriodParams->SetEnabled(true);
+  } catch (const Fault&) {
+    ws.GetPlatform().ShowMessage("",
+                                 "A minor error occurred due to a bug\r\n"
+                                 "The Date Listboxes will be reset to default values\r\n"
+                                 "Manually reset dates and proceed or Exit and Restart Program1",
+                                 MessageButtons::Ok);
+    // The set button stays disabled until a list receives the focus again.
+    ResetDateLists(ws, side);
+  }
+}
+
+}  // namespace
+
+void RefreshDatesFromStart(SinWorkspace& ws, Side side) { RefreshDates(ws, side, From::Start); }
+void RefreshDatesFromStop(SinWorkspace& ws, Side side) { RefreshDates(ws, side, From::Stop); }
+
+void FineBetween(SinWorkspace& ws, Side side, DropDownList& list, const std::string& thisDate,
+                 const std::string& otherDate, const std::string& previousStop) {
+  const Present now(ws.GetSession());
+  const std::int16_t m = MonthNumberFromLabel(thisDate);
+  const std::int16_t y = YearFromLabel(thisDate);
+  const std::int16_t span = MonthsBetween(thisDate, otherDate);
+  const bool near = NearPresent(now, m, y);
+  std::string lower = SixMonthsBefore(m, y);
+  std::string upper = SixMonthsAfter(side, m, y);
+  // The other date of the period bounds the list where it is near; otherwise the present does, on the
+  // past side from above, on the future side, as the next month, from below.
+  if (span > 0 && span < 6)
+    upper = otherDate;
+  else if (side == Side::Past && near)
+    upper = now.Label(0, 0);
+  if (span > -6 && span < 0)
+    lower = otherDate;
+  else if (side == Side::Future && near)
+    lower = now.Label(1, 0);
+  KeepBehindPreviousStop(ws, side, thisDate, previousStop, lower);
+  FillDateList(true, list, lower, upper, kFineStep);
+}
+
+void FineStart(SinWorkspace& ws, Side side, DropDownList& list, const std::string& thisDate,
+               const std::string& previousStop) {
+  const Present now(ws.GetSession());
+  const std::int16_t m = MonthNumberFromLabel(thisDate);
+  const std::int16_t y = YearFromLabel(thisDate);
+  std::string lower = SixMonthsBefore(m, y);
+  if (side == Side::Future && NearPresent(now, m, y)) lower = now.Label(1, 0);
+  KeepBehindPreviousStop(ws, side, thisDate, previousStop, lower);
+  FillDateList(true, list, lower, thisDate, kFineStep);
+}
+
+void FineStop(SinWorkspace& ws, Side side, DropDownList& list, const std::string& thisDate) {
+  const Present now(ws.GetSession());
+  const std::int16_t m = MonthNumberFromLabel(thisDate);
+  const std::int16_t y = YearFromLabel(thisDate);
+  std::string upper = SixMonthsAfter(side, m, y);
+  if (side == Side::Past && NearPresent(now, m, y)) upper = now.Label(0, 0);
+  FillDateList(true, list, thisDate, upper, kFineStep);
+}
+
+void PrepareNextPeriodDates(SinWorkspace& ws, Side side, std::int16_t period, std::int16_t sideIndex) {
+  const Present now(ws.GetSession());
+  SideControls& c = ws.Of(side);
+  const std::string next = MonthAfter(ws.Store().At(period - 1, sideIndex).StopLabel);
+  const std::string last = side == Side::Past ? now.Label(0, 0) : now.Label(1, 75);
+  for (DropDownList* list : {c.comStart, c.comStop}) {
+    FillDateList(true, *list, next, last, kCoarseStep);
+    list->SetText(next);
+  }
+}
+
+void ResetDateLists(SinWorkspace& ws, Side side) {
+  const Present now(ws.GetSession());
+  SideControls& c = ws.Of(side);
+  const std::string first = side == Side::Past ? now.Label(0, -90) : now.Label(1, 0);
+  const std::string last = side == Side::Past ? now.Label(0, 0) : now.Label(1, 85);
+  c.optFineDateStart->SetValue(true);
+  c.optFineDateStop->SetValue(true);
+  for (int p = 1; p <= kPeriodCount; ++p) {
+    c.rbnDisabledPeriod(p).SetValue(false);
+    c.rbnEnabledPeriod(p).SetValue(true);
+    c.optTimePeriod(p).SetValue(false);
+    c.optTimePeriod(p).SetEnabled(false);
+  }
+  c.optTimePeriod(1).SetEnabled(true);
+  c.optTimePeriod(1).SetValue(true);
+  // Of the future side, also when the past side is reset: the past side's current period stays.
+  ws.State(Side::Future).CurrentPeriod = 1;
+  for (DropDownList* list : {c.comStart, c.comStop}) {
+    list->Clear();
+    FillDateList(true, *list, first, last, kCoarseStep);
+  }
+  c.comStart->SelectEntry(0);
+  c.comStop->SelectEntry(c.comStop->Count() - 1);
+}
+
+}  // namespace vicetoll

@@ -1,0 +1,119 @@
+#include "workspace/events.h"
+
+#include "workspace/commit.h"
+#include "workspace/date_rules.h"
+#include "workspace/loading.h"
+#include "workspace/parameters.h"
+#include "workspace/reasonable_cost.h"
+#include "workspace/totals.h"
+#include "workspace/workspace_design.h"
+
+namespace vicetoll {
+namespace {
+
+void EnableSetButton(SinWorkspace& ws, Side side) { ws.Of(side).cmdSetPeriodParams->SetEnabled(true); }
+
+// The tabs stay shut while date lists are rebuilt.
+void OnDateFocus(SinWorkspace& ws, Side side, void (*refresh)(SinWorkspace&, Side)) {
+  ws.SSTab_PastFutureSwitch->SetEnabled(false);
+  refresh(ws, side);
+  ws.SSTab_PastFutureSwitch->SetEnabled(true);
+}
+
+// A click on Per Day or Per Month. The stored position is kept and no value converted: 6 a day becomes
+// the entry at the same place in the monthly list.
+void OnUnit(SinWorkspace& ws, Side side) {
+  const std::int16_t period = ws.State(side).CurrentPeriod;
+  ws.Of(side).frmDaily->SetCaption(std::string(PeriodPrefix(side)) + std::to_string(period) +
+                                   std::string(ws.Sin().dailySuffix[side]));
+  EnableSetButton(ws, side);
+  RefillUnitList(ws, side, ws.Record(side, period).QuantityListIndex);
+}
+
+void OnPacksOrCigarettes(SinWorkspace& ws, Side side) {
+  EnableSetButton(ws, side);
+  ShowPacksOrCigarettes(ws, side);
+}
+
+void OnCostMode(SinWorkspace& ws, Side side) {
+  EnableSetButton(ws, side);
+  ShowCostMode(ws, side);
+}
+
+void OnEnabledRadio(SinWorkspace& ws, Side side) {
+  RefreshResults(ws, side, ws.SideIndex(side));
+  UpdateResultButtons(ws, side, ws.SideIndex(side));
+}
+
+void OnTab(SinWorkspace& ws) {
+  GrowFutureRateLists(ws);
+  Session& session = ws.GetSession();
+  switch (ws.SSTab_PastFutureSwitch->Tab()) {
+    case kPastTab:
+      session.CurrentSinNumber = ws.SideIndex(Side::Past);
+      EnableSetButton(ws, Side::Past);
+      break;
+    case kFutureTab:
+      // Until its period 1 is committed, every arrival loads the side anew and drops what was chosen.
+      if (!ws.Record(Side::Future, 1).PeriodSet) LoadParameters(ws, Side::Future);
+      session.CurrentSinNumber = ws.SideIndex(Side::Future);
+      if (ws.IsSmoking() && ws.cmdEuro->Visible()) RetireEuroButton(ws);
+      EnableSetButton(ws, Side::Future);
+      break;
+    case kTotalTab:
+      UpdateTotalTab(ws, ws.SideIndex(Side::Future), ws.SideIndex(Side::Past));
+      break;
+  }
+}
+
+void OnPanel(SinWorkspace& ws) {
+  FitPanels(ws);
+  if (Control* reveal = ws.Find("cmdRevealDeveloper", kNoIndex)) reveal->SetVisible(true);
+}
+
+void ConnectSide(SinWorkspace& ws, Side side) {
+  SideControls& c = ws.Of(side);
+  c.comStart->onFocus = [&ws, side] { OnDateFocus(ws, side, RefreshDatesFromStart); };
+  c.comStop->onFocus = [&ws, side] { OnDateFocus(ws, side, RefreshDatesFromStop); };
+  for (DropDownList* list : {c.quantity, c.comCigsPerDay, c.comInitialCost, c.comFinalCost,
+                             c.comPercentIncrease, c.comInterestRate1, c.comInflationRate1})
+    if (list != nullptr) list->onFocus = [&ws, side] { EnableSetButton(ws, side); };
+  if (c.comSubCost != nullptr) {
+    c.comInitialCost->onPick = [&ws, side] { GrossCostPicked(ws, side); };
+    c.comSubCost->onFocus = [&ws, side] { ReasonableCostEntered(ws, side); };
+  }
+  for (Option* option : {c.firstUnit, c.secondUnit})
+    option->onClick = [&ws, side] { ws.IsSmoking() ? OnPacksOrCigarettes(ws, side) : OnUnit(ws, side); };
+  for (Option* option : {c.OptCigPercentCostIncrease, c.OptCigInitialFinalCostIncrease})
+    if (option != nullptr) option->onClick = [&ws, side] { OnCostMode(ws, side); };
+  c.cmdSetPeriodParams->onClick = [&ws, side] { PressSetButton(ws, side); };
+  for (int p = 1; p <= kPeriodCount; ++p) {
+    c.optTimePeriod(p).onClick = [&ws, side] { SelectPeriod(ws, side, ws.SideIndex(side)); };
+    // The other radio of the pair needs no event: a change of the pair always reaches this one.
+    c.rbnEnabledPeriod(p).onChange = [&ws, side] { OnEnabledRadio(ws, side); };
+  }
+}
+
+}  // namespace
+
+void ConnectEvents(SinWorkspace& ws) {
+  ConnectSide(ws, Side::Past);
+  ConnectSide(ws, Side::Future);
+  ws.SSTab_PastFutureSwitch->onChange = [&ws] { OnTab(ws); };
+  for (DropDownList* list :
+       {ws.comInterestRateFutureDateTot, ws.comInflationRateFutureDateTot, ws.comCumulativeFutureDateTot}) {
+    list->onFocus = [&ws] {
+      EnableSetButton(ws, Side::Future);
+      ws.cmdCumulativeFutureDateTot->SetEnabled(true);
+    };
+    // A new choice takes effect only when the button is pressed.
+    list->onPick = [&ws] { ws.cmdCumulativeFutureDateTot->SetEnabled(true); };
+  }
+  ws.cmdCumulativeFutureDateTot->onClick = [&ws] {
+    UpdateFutureDateTotal(ws, ws.SideIndex(Side::Future), ws.SideIndex(Side::Past));
+  };
+  for (int i = kPastTab; i <= kTotalTab; ++i)
+    ws.Get<Panel>("SSPanel_BackColor", i).onClick = [&ws] { OnPanel(ws); };
+}
+
+}  // namespace vicetoll

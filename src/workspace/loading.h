@@ -1,0 +1,30 @@
+// Bringing a side to life: value lists, defaults, first values in the store, the screen of period 1.
+#pragma once
+
+#include <cstdint>
+
+#include "workspace/sin_workspace.h"
+
+namespace vicetoll {
+
+// Loads a side (LoadSmokingParametersPast and its like): period 1 on screen, nothing committed, from any
+// state. The value lists are not emptied first, so a repeated load appends all their entries again;
+// selection by position and by text always finds the first copy. Options and labels stay.
+void LoadParameters(SinWorkspace& ws, Side side);
+
+// LoadSmokingParametersInitialFuture and its like: a workspace starts with its future lists still empty.
+void LoadParametersInitialFuture(SinWorkspace& ws);
+
+// First values of the side's four periods from the lists as they stand.
+void InitializeParameters(SinWorkspace& ws, Side side);
+void InitializeDates(SinWorkspace& ws, Side side, std::int16_t sideIndex);
+
+// The last step of a load: the date lists in full, no results, period 1 alone open.
+void ResetSideScreen(SinWorkspace& ws, Side side);
+
+void HideFutureResults(SinWorkspace& ws);
+
+// The captions that follow the period number (LabelMakerSmokePast and its like).
+void LabelMaker(SinWorkspace& ws, Side side, std::int16_t period);
+
+}  // namespace vicetoll

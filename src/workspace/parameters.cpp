@@ -1,0 +1,196 @@
+#include "workspace/parameters.h"
+
+#include "calendar/date_list.h"
+#include "calendar/number_text.h"
+
+namespace vicetoll {
+namespace {
+
+constexpr std::int16_t kCoarseStep = 12;
+
+// The part of SetParameters that all sins share.
+void SaveSharedParameters(SinWorkspace& ws, Side side, std::int16_t period) {
+  SideControls& c = ws.Of(side);
+  PeriodRecord& record = ws.Record(side, period);
+  record.PeriodSelected = true;
+  record.StartLabel = c.comStart->Text();
+  record.StopLabel = c.comStop->Text();
+  const auto last = [](const DropDownList& list) { return list.Entry(list.Count() - 1); };
+  // In fine mode the ends of the coarse lists stay as they were.
+  if (c.optCourseDateStart->Value()) {
+    record.StartListFirst = c.comStart->Entry(0);
+    record.StartListLast = last(*c.comStart);
+  }
+  // The past side asks the start option here too: the stop list of a past period is saved when the start
+  // list is coarse, whatever the stop option says.
+  const Option* stopMode = side == Side::Past ? c.optCourseDateStart : c.optCourseDateStop;
+  if (stopMode->Value()) {
+    record.StopListFirst = c.comStop->Entry(0);
+    record.StopListLast = last(*c.comStop);
+  }
+  c.optCourseDateStart->SetValue(true);
+  c.optCourseDateStop->SetValue(true);
+  record.PercentIncreaseText = c.comPercentIncrease->Text();
+  record.InterestRateText = c.comInterestRate1->Text();
+  record.InflationRateText = c.comInflationRate1->Text();
+}
+
+// The position of the first entry with the stored cost, comparing texts without the euro sign, and where
+// none is equal, amounts: what was stored in dollars is found again in euros. -1 where there is none.
+int FindCost(const DropDownList& list, const std::string& stored) {
+  const std::string wanted = StripCurrency(stored);
+  for (int i = 0; i < list.Count(); ++i)
+    if (StripCurrency(list.Entry(i)) == wanted) return i;
+  if (!IsNumeric(wanted)) return -1;
+  for (int i = 0; i < list.Count(); ++i)
+    if (MoneyToNumber(list.Entry(i)) == TextToNumber(wanted)) return i;
+  return -1;
+}
+
+void ShowCost(DropDownList* list, const std::string& stored) {
+  if (list != nullptr) list->SelectEntry(FindCost(*list, stored));
+}
+
+}  // namespace
+
+void SetPeriodParameters(SinWorkspace& ws, Side side, std::string_view period) {
+  for (std::int16_t p = 1; p <= kPeriodCount; ++p) ws.Record(side, p).PeriodSelected = false;
+  ws.Record(side, static_cast<std::int16_t>(TextToNumber(period))).PeriodSelected = true;
+  ws.Of(side).frmDaily->SetCaption("Period " + std::string(period) + std::string(ws.Sin().dailySuffix[side]));
+}
+
+void SetParameters(SinWorkspace& ws, Side side, std::int16_t period) {
+  SaveSharedParameters(ws, side, period);
+  SideControls& c = ws.Of(side);
+  PeriodRecord& record = ws.Record(side, period);
+  // The future side of Drugging keeps the unit it had in the store; only its cost is stored.
+  const bool keepsUnit = side == Side::Future && ws.Sin().key == "Drugging";
+  if (!keepsUnit) record.QuantityUnitFlag = c.firstUnit->Value();
+  const bool cigarettes = ws.IsSmoking() && !c.firstUnit->Value();
+  record.QuantityListIndex =
+      static_cast<std::int16_t>((cigarettes ? c.comCigsPerDay : c.quantity)->Position());
+  if (c.comInitialCost != nullptr) record.InitialCostText = c.comInitialCost->Text();
+  if (c.comFinalCost != nullptr) {
+    record.FinalCostText = c.comFinalCost->Text();
+    record.CostModeFlag = c.OptCigPercentCostIncrease->Value();
+  }
+  if (c.comSubCost != nullptr) {
+    // Only the past side of Watering takes the currency off what it stores.
+    const bool stripped = side == Side::Past && ws.Sin().key == "Watering";
+    record.ReasonableCostText = stripped ? StripCurrency(c.comSubCost->Text()) : c.comSubCost->Text();
+  }
+}
+
+void LoadSharedParameters(SinWorkspace& ws, Side side, std::int16_t period) {
+  SideControls& c = ws.Of(side);
+  const PeriodRecord& record = ws.Record(side, period);
+  c.optCourseDateStart->SetValue(true);
+  c.optCourseDateStop->SetValue(true);
+  c.comStart->Clear();
+  FillDateList(true, *c.comStart, record.StartListFirst, record.StartListLast, kCoarseStep);
+  c.comStop->Clear();
+  FillDateList(true, *c.comStop, record.StopListFirst, record.StopListLast, kCoarseStep);
+  // A month chosen in fine mode may be in neither list. The start then shows as the first entry, the
+  // stop as the entry at the place where the start was found. The store keeps the months chosen.
+  int position = 0;
+  if (const int found = c.comStart->Find(record.StartLabel); found != -1) position = found;
+  c.comStart->SetText(c.comStart->EntryOrLast(position));
+  if (const int found = c.comStop->Find(record.StopLabel); found != -1) position = found;
+  c.comStop->SetText(c.comStop->EntryOrLast(position));
+  c.comPercentIncrease->SetText(record.PercentIncreaseText);
+  c.comInterestRate1->SetText(record.InterestRateText);
+  c.comInflationRate1->SetText(record.InflationRateText);
+}
+
+void GetParameters(SinWorkspace& ws, Side side, std::int16_t period) {
+  LoadSharedParameters(ws, side, period);
+  SideControls& c = ws.Of(side);
+  const PeriodRecord& record = ws.Record(side, period);
+  (record.QuantityUnitFlag ? c.firstUnit : c.secondUnit)->SetValue(true);
+  ShowCost(c.comInitialCost, record.InitialCostText);
+  ShowCost(c.comFinalCost, record.FinalCostText);
+  if (c.OptCigPercentCostIncrease != nullptr) {
+    (record.CostModeFlag ? c.OptCigPercentCostIncrease : c.OptCigInitialFinalCostIncrease)->SetValue(true);
+    ShowCostMode(ws, side);
+  }
+  if (c.comSubCost != nullptr) {
+    // The list follows the gross cost and may not hold the stored entry now; it is shown all the same.
+    const int found = FindCost(*c.comSubCost, record.ReasonableCostText);
+    c.comSubCost->SetText(found == -1 ? record.ReasonableCostText : c.comSubCost->Entry(found));
+  }
+  if (ws.IsSmoking()) {
+    ShowPacksOrCigarettes(ws, side);
+    c.quantity->SetText(c.quantity->EntryOrLast(record.QuantityListIndex));
+    c.comCigsPerDay->SetText(c.comCigsPerDay->EntryOrLast(record.QuantityListIndex));
+  } else {
+    RefillUnitList(ws, side, record.QuantityListIndex);
+  }
+}
+
+void OpenPeriodOptions(SinWorkspace& ws, Side side, int n) {
+  for (int p = 2; p <= kPeriodCount; ++p) ws.Of(side).optTimePeriod(p).SetEnabled(p <= n);
+}
+
+void OpenPeriodRadios(SinWorkspace& ws, Side side, int n) {
+  SideControls& c = ws.Of(side);
+  for (int p = 2; p <= kPeriodCount; ++p) {
+    c.frmEnabledDisabledPeriod(p).SetEnabled(p <= n);
+    c.rbnEnabledPeriod(p).SetEnabled(p <= n);
+    c.rbnDisabledPeriod(p).SetEnabled(p <= n);
+  }
+}
+
+void ShowPacksOrCigarettes(SinWorkspace& ws, Side side) {
+  SideControls& c = ws.Of(side);
+  const bool packs = c.firstUnit->Value();
+  c.quantity->SetAvailable(packs);
+  c.comCigsPerDay->SetAvailable(!packs);
+  c.quantityLabel->SetCaption(packs ? ws.Sin().quantityLabelPerDay : ws.Sin().quantityLabelPerMonth);
+}
+
+void RefillUnitList(SinWorkspace& ws, Side side, int position) {
+  SideControls& c = ws.Of(side);
+  const SinRow& sin = ws.Sin();
+  const Unit unit = c.firstUnit->Value() ? Unit::PerDay : Unit::PerMonth;
+  if (ws.Class() == CostClass::FlatRateClass)
+    c.quantityLabel->SetCaption(unit == Unit::PerDay ? sin.flatLabelPerDay[side] : sin.flatLabelPerMonth);
+  else
+    c.quantityLabel->SetCaption(unit == Unit::PerDay ? sin.quantityLabelPerDay : sin.quantityLabelPerMonth);
+  c.quantity->Clear();
+  AppendEntries(ws, *c.quantity, UnitList(sin, unit));
+  c.quantity->SetText(c.quantity->EntryOrLast(position));
+}
+
+void ShowCostMode(SinWorkspace& ws, Side side) {
+  SideControls& c = ws.Of(side);
+  const SinRow& sin = ws.Sin();
+  const bool percent = c.OptCigPercentCostIncrease->Value();
+  c.comInitialCost->SetAvailable(true);
+  c.comFinalCost->SetAvailable(!percent);
+  c.comPercentIncrease->SetAvailable(percent);
+  // The percent list's label is borrowed for the final cost.
+  c.costLabel->SetCaption(percent ? sin.costLabelPercent : sin.costLabelInitial);
+  c.percentLabel->SetCaption(percent ? sin.percentLabelPercent : sin.costLabelFinal);
+}
+
+const std::string& QuantityText(const SinWorkspace& ws, Side side, std::int16_t period) {
+  const SideControls& c = ws.Of(side);
+  const bool cigarettes = ws.IsSmoking() && !c.firstUnit->Value();
+  return (cigarettes ? c.comCigsPerDay : c.quantity)->EntryOrLast(ws.Record(side, period).QuantityListIndex);
+}
+
+void AppendEntries(const SinWorkspace& ws, DropDownList& list, const ListDefinition& definition) {
+  const bool money = definition.format.starts_with('$');
+  for (const Run& run : definition.runs) {
+    for (int i = run.first; i <= run.last; ++i) {
+      const double value = static_cast<double>(i) * run.multiplier / run.divisor;
+      list.Append(money ? ws.Money(value, definition.format) : FormatNumber(value, definition.format));
+    }
+  }
+}
+
+const ListDefinition& UnitList(const SinRow& sin, Unit unit) {
+  return unit == Unit::PerDay ? sin.perDayList : sin.perMonthList;
+}
+
+}  // namespace vicetoll

@@ -1,0 +1,50 @@
+// The movers between screen and store, and the quantity lists that they bring back.
+//
+// SetSmokingParametersPast, GetDrinkingParametersFuture and their like are the four operations below,
+// under the names their sins give them.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "workspace/sin_workspace.h"
+
+namespace vicetoll {
+
+// Makes the period (its number as text) the selected one of the side and titles frmDaily with it.
+void SetPeriodParameters(SinWorkspace& ws, Side side, std::string_view period);
+
+// Screen to store.
+void SetParameters(SinWorkspace& ws, Side side, std::int16_t period);
+
+// Store to screen: as clicks on the stored options and picks of the stored entries would show it.
+void GetParameters(SinWorkspace& ws, Side side, std::int16_t period);
+
+// The part of GetParameters that all sins share: dates and rates.
+void LoadSharedParameters(SinWorkspace& ws, Side side, std::int16_t period);
+
+// Opens the options of periods 2 to n, or the frames and radios of those, and closes the rest. What
+// belongs to period 1 is left alone.
+void OpenPeriodOptions(SinWorkspace& ws, Side side, int n);
+void OpenPeriodRadios(SinWorkspace& ws, Side side, int n);
+
+// Shows packs or cigarettes (Smoking), with the label of the unit.
+void ShowPacksOrCigarettes(SinWorkspace& ws, Side side);
+// Empties the quantity list and fills it for the unit option that is on (all sins but Smoking), with the
+// label of the unit. The text becomes the entry at the position, the last one for a position past the end.
+void RefillUnitList(SinWorkspace& ws, Side side, int position);
+// Shows the cost lists of the cost mode that is on, with their labels.
+void ShowCostMode(SinWorkspace& ws, Side side);
+
+// The text of the quantity that a stored period counts with: the entry at its position in the list of the
+// unit option that is on now, the last entry for a position past the end.
+const std::string& QuantityText(const SinWorkspace& ws, Side side, std::int16_t period);
+
+// Appends the entries of a value list.
+void AppendEntries(const SinWorkspace& ws, DropDownList& list, const ListDefinition& definition);
+
+// The quantity list's definition in a unit.
+const ListDefinition& UnitList(const SinRow& sin, Unit unit);
+
+}  // namespace vicetoll

@@ -1,0 +1,48 @@
+// What all windows of a run share. One run, one session: a test can run many side by side.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "calendar/date_label.h"
+#include "calendar/money.h"
+#include "calendar/period_store.h"
+#include "platform/platform.h"
+#include "sins/catalogue.h"
+
+namespace vicetoll {
+
+struct Session {
+  explicit Session(Platform& door) : platform(door) { SinVisited[0] = true; }
+
+  Platform& platform;
+  PeriodStore store;
+  // Money shows the dollar until the euro button is pressed; there is no way back.
+  Currency currency = Currency::Dollar;
+  bool CurrencyIsDollar() const { return currency == Currency::Dollar; }
+
+  std::string CurrentSinKey = "Smoking";
+  // The side in front: a switch of sins sets the past side's number, the tabs move it.
+  std::int16_t CurrentSinNumber = 1;
+  // By position: the sin's workspace was left through the chooser.
+  std::array<bool, kSinCount> SinVisited{};
+};
+
+// The present month, read anew by whoever asks.
+struct Present {
+  explicit Present(Session& session) {
+    const MonthAndYear now = session.platform.Now();
+    M = static_cast<std::int16_t>(now.month);
+    Y = static_cast<std::int16_t>(now.year);
+  }
+  std::int16_t M, Y;
+
+  // The label of month M + months of year Y + years. In December the month after the present one is the
+  // 13th of the same year and reads as its January: the future side then begins eleven months back.
+  std::string Label(int months, int years) const {
+    return MakeDateLabel(static_cast<std::int16_t>(M + months), static_cast<std::int16_t>(Y + years));
+  }
+};
+
+}  // namespace vicetoll

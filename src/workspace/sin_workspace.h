@@ -1,0 +1,157 @@
+// The window of one sin: three tabs, PAST, FUTURE and TOTAL, over one set of rules.
+//
+// There is one class and twelve instances; what differs is the sin's row of the catalogue. The two sides
+// are one code with a Side. This header has the state; the rules stand in the files named after them.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "calendar/side.h"
+#include "controls/drop_down_list.h"
+#include "controls/form.h"
+#include "engine/side_chain.h"
+#include "sins/catalogue.h"
+#include "workspace/session.h"
+
+namespace vicetoll {
+
+enum Tab { kPastTab = 0, kFutureTab = 1, kTotalTab = 2 };
+
+// An array of controls indexed 1..N, as the periods are.
+template <class T, int N>
+class ControlArray {
+ public:
+  T& operator()(int index) const { return *elements_.at(index - 1); }
+  void Set(int index, T& control) { elements_.at(index - 1) = &control; }
+
+ private:
+  std::array<T*, N> elements_{};
+};
+
+// The controls of one side that the rules reach, named as the vocabulary names them without the side.
+// Those that only some sins have are nullptr in the others.
+struct SideControls {
+  DropDownList* comStart = nullptr;
+  DropDownList* comStop = nullptr;
+  Option* optFineDateStart = nullptr;
+  Option* optCourseDateStart = nullptr;
+  Option* optFineDateStop = nullptr;
+  Option* optCourseDateStop = nullptr;
+  Frame* frmSetStart = nullptr;
+  Frame* frmSetStop = nullptr;
+  Frame* frmDaily = nullptr;
+  Frame* frmCostChange = nullptr;
+  Frame* frmRates = nullptr;
+
+  // Smoking: OptPacksPerDay and OptCigsPerDay; the others: optPerDay and optPerMonth.
+  Option* firstUnit = nullptr;
+  Option* secondUnit = nullptr;
+  // comPacksPerDay, comPerPeriod or comCostof.
+  DropDownList* quantity = nullptr;
+  DropDownList* comCigsPerDay = nullptr;  // Smoking; in Drinking it stands there unused
+  Label* quantityLabel = nullptr;         // lblSmokesPerDay ...; in the flat-rate class lblCostOf
+
+  Option* OptCigPercentCostIncrease = nullptr;
+  Option* OptCigInitialFinalCostIncrease = nullptr;
+  DropDownList* comInitialCost = nullptr;
+  DropDownList* comFinalCost = nullptr;
+  DropDownList* comSubCost = nullptr;
+  DropDownList* comPercentIncrease = nullptr;
+  Label* costLabel = nullptr;  // lblCigCost ...
+  Label* percentLabel = nullptr;
+
+  DropDownList* comInterestRate1 = nullptr;
+  DropDownList* comInflationRate1 = nullptr;
+
+  ControlArray<Frame, 4> frmEnabledDisabledPeriod;
+  ControlArray<Radio, 4> rbnEnabledPeriod;
+  ControlArray<Radio, 4> rbnDisabledPeriod;
+  ControlArray<Option, 4> optTimePeriod;
+  Button* cmdSetPeriodParams = nullptr;
+
+  // Positions 1..4 on the side's tab, 5..8 on the TOTAL tab. These texts are the memory of the results.
+  ControlArray<TextBox, 8> txtResultsPeriod;
+  ControlArray<TextBox, 8> txtCumulativeResultsPeriod;
+  TextBox* txtResultsTotal = nullptr;
+  TextBox* txtResultsTotalSummary = nullptr;
+  ControlArray<Label, 4> lblFirstDate;
+  ControlArray<Label, 4> lblLastDate;
+
+  // The result buttons: of the side's tab and of the TOTAL tab.
+  Button* cmdAdvResultsSpd = nullptr;
+  Button* cmdAdvResultsDoc = nullptr;
+  Button* cmdAdvResultsSpdSummary = nullptr;
+  Button* cmdAdvResultsDocSummary = nullptr;
+};
+
+// The fields of a side that steps and reports keep between events.
+struct SideState {
+  std::int16_t CurrentPeriod = 0;   // on screen
+  std::int16_t PreviousPeriod = 0;  // selected before it
+  // Where the figure at the chosen future date starts: the stop of the last period that counts.
+  std::string BeginManualDate;
+};
+
+// For the result buttons: which were enabled when a results window opened, in the order
+// Past, Fut, SummaryPast, SummaryFut, SummaryTot.
+struct ResultButtonFlags {
+  bool Past = false, Fut = false, SummaryPast = false, SummaryFut = false, SummaryTot = false;
+};
+
+class SinWorkspace : public Form {
+ public:
+  // Makes all controls in their design state; loads nothing.
+  SinWorkspace(Session& session, int position);
+
+  Session& GetSession() const { return session_; }
+  PeriodStore& Store() const { return session_.store; }
+  Platform& GetPlatform() const { return session_.platform; }
+  const SinRow& Sin() const { return sin_; }
+  int Position() const { return position_; }
+  CostClass Class() const { return sin_.costClass; }
+  bool IsSmoking() const { return position_ == 0; }
+  std::int16_t SideIndex(Side side) const { return SideIndexOf(position_, side); }
+  PeriodRecord& Record(Side side, int period) const { return Store().At(period, SideIndex(side)); }
+
+  SideControls& Of(Side side) { return sides_[static_cast<int>(side)]; }
+  const SideControls& Of(Side side) const { return sides_[static_cast<int>(side)]; }
+  SideState& State(Side side) { return states_[static_cast<int>(side)]; }
+
+  // Money in the currency of the run.
+  std::string Money(double value, std::string_view format) const;
+
+  TabControl* SSTab_PastFutureSwitch = nullptr;
+  ControlArray<Label, 8> lblTo;
+  TextBox* txtResultsTotalSummaryTot = nullptr;
+  TextBox* txtCumulativeResultsTotalSummaryTot = nullptr;
+  TextBox* txtCumulativeFutureDateTot = nullptr;
+  DropDownList* comCumulativeFutureDateTot = nullptr;
+  DropDownList* comInterestRateFutureDateTot = nullptr;
+  DropDownList* comInflationRateFutureDateTot = nullptr;
+  Button* cmdCumulativeFutureDateTot = nullptr;
+  Button* cmdAdvResultsSpdSummaryTot = nullptr;
+  Button* cmdAdvResultsDocSummaryTot = nullptr;
+  Button* cmdSwitchSins = nullptr;
+  Button* cmdExit = nullptr;
+  Button* cmdEuro = nullptr;  // Smoking only
+
+  // Whose start labels a report uses, and what it shows: 1 past, 2 future, 3 both.
+  std::int16_t FuturePast_Flag = 0;
+  // The report being built: rows so far, and its two running sums.
+  std::int16_t CurrentIndexSub = 0;
+  double CurrentCumulativeCost = 0;
+  double CurrentCumulativeCostWithInterest = 0;
+  ResultButtonFlags cmdAdvResultsSpd_Flag;
+  ResultButtonFlags cmdAdvResultsDoc_Flag;
+
+ private:
+  Session& session_;
+  int position_;
+  const SinRow& sin_;
+  std::array<SideControls, 2> sides_;
+  std::array<SideState, 2> states_;
+};
+
+}  // namespace vicetoll

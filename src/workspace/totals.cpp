@@ -1,0 +1,203 @@
+#include "workspace/totals.h"
+
+#include "calendar/checked_int.h"
+#include "calendar/date_label.h"
+#include "calendar/date_list.h"
+#include "calendar/number_text.h"
+#include "workspace/parameters.h"
+#include "workspace/period_operations.h"
+
+namespace vicetoll {
+namespace {
+
+constexpr std::string_view kNotAvailable = "n/a";
+// The height by which the Smoking window makes room for its euro button, in twips.
+constexpr int kEuroHeight = 750;
+
+void WriteZeroIfEmpty(TextBox& box) {
+  if (box.Text().empty()) box.SetText("0");
+}
+
+void ShowDates(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+  SideControls& c = ws.Of(side);
+  for (int p = 1; p <= kPeriodCount; ++p) {
+    const PeriodRecord& record = ws.Store().At(p, sideIndex);
+    const bool counted = record.PeriodEnabled && record.PeriodSet;
+    ws.lblTo(side == Side::Past ? p : p + kPeriodCount).SetVisible(counted);
+    c.lblFirstDate(p).SetVisible(counted);
+    c.lblLastDate(p).SetVisible(counted);
+    if (!counted) continue;
+    c.lblFirstDate(p).SetCaption(record.StartLabel);
+    c.lblLastDate(p).SetCaption(record.StopLabel);
+  }
+}
+
+// Copies the results of a side's tab to positions 5 to 8 and the summary total.
+void CopyResults(SinWorkspace& ws, Side side) {
+  SideControls& c = ws.Of(side);
+  for (int p = 1; p <= kPeriodCount; ++p) {
+    for (auto* boxes : {&c.txtResultsPeriod, &c.txtCumulativeResultsPeriod}) {
+      TextBox& copy = (*boxes)(p + kPeriodCount);
+      copy.SetText((*boxes)(p).Text());
+      copy.SetEnabled((*boxes)(p).Enabled());
+      copy.SetVisible((*boxes)(p).Visible());
+    }
+  }
+  c.txtResultsTotalSummary->SetText(c.txtResultsTotal->Text());
+}
+
+void EnableTotals(SinWorkspace& ws, bool enabled) {
+  ws.comInterestRateFutureDateTot->SetEnabled(enabled);
+  ws.comInflationRateFutureDateTot->SetEnabled(enabled);
+  ws.txtCumulativeFutureDateTot->SetEnabled(enabled);
+  ws.txtCumulativeResultsTotalSummaryTot->SetEnabled(enabled);
+  ws.comCumulativeFutureDateTot->SetEnabled(enabled);
+}
+
+// The balance carried on to the chosen date at the chosen rates.
+void EvaluateFutureDate(SinWorkspace& ws, const std::string& anchor) {
+  const double rate = LeadingNumber(ws.comInterestRateFutureDateTot->Text()) -
+                      LeadingNumber(ws.comInflationRateFutureDateTot->Text());
+  const std::string balance = NumberToText(MoneyToNumber(ws.txtCumulativeResultsTotalSummaryTot->Text()));
+  const double value = CostAfterLastPeriod(balance, rate, anchor, ws.comCumulativeFutureDateTot->Text());
+  ws.txtCumulativeFutureDateTot->SetText(ws.Money(value, kTotalFormat));
+}
+
+// Monthly from the anchor for about five years, then half-yearly to `years` years behind it.
+void FillFutureDates(SinWorkspace& ws, const std::string& anchor, std::int16_t years) {
+  DropDownList& list = *ws.comCumulativeFutureDateTot;
+  list.SetText(anchor);
+  const std::int16_t half = MonthNumberFromLabel(anchor) < 6 ? 1 : 6;
+  const std::int16_t year = YearFromLabel(anchor);
+  const std::string joint = MakeDateLabel(half, Add(year, 5));
+  FillDateList(true, list, joint, MakeDateLabel(half, Add(year, years)), 6);
+  FillDateList(false, list, anchor, joint, 1);
+}
+
+}  // namespace
+
+void RefreshResults(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+  SideControls& c = ws.Of(side);
+  for (int p = 1; p <= kPeriodCount; ++p) {
+    PeriodRecord& record = ws.Store().At(p, sideIndex);
+    if (!record.PeriodSet) continue;
+    const bool on = c.rbnEnabledPeriod(p).Value();
+    record.PeriodEnabled = on;
+    c.txtResultsPeriod(p).SetAvailable(on);
+    c.txtCumulativeResultsPeriod(p).SetAvailable(on);
+    PopulateResults(ws, side, sideIndex);
+  }
+}
+
+void PopulateResults(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+  SideControls& c = ws.Of(side);
+  const SideResults results = EvaluateSide(SideTermsOf(ws, side, sideIndex), WarningOf(ws));
+  for (int p = 1; p <= kPeriodCount; ++p) {
+    c.txtResultsPeriod(p).SetText(results.costs[p - 1]);
+    c.txtCumulativeResultsPeriod(p).SetText(results.balances[p - 1]);
+  }
+  c.txtResultsTotal->SetText(results.total);
+}
+
+std::string CumulativeChainFuture(SinWorkspace& ws, std::int16_t sideIndex, const std::string& opening) {
+  return CumulativeChain(SideTermsOf(ws, Side::Future, sideIndex), opening, WarningOf(ws));
+}
+
+CountedPeriods CountedOf(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+  CountedPeriods counted;
+  for (int p = kPeriodCount; p >= 1; --p) {
+    const PeriodRecord& record = ws.Store().At(p, sideIndex);
+    if (!record.PeriodEnabled || !record.PeriodSet) continue;
+    if (counted.last == 0) counted.last = p;
+    counted.first = p;
+  }
+  // A side of which nothing counts goes as one with a zero total, whatever its box shows.
+  const double shown = MoneyToNumber(ws.Of(side).txtResultsTotal->Text());
+  counted.total = counted.last == 0 ? 0 : shown;
+  counted.worthCounting = counted.total != 0;
+  return counted;
+}
+
+std::string PastCarriedIntoFuture(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide) {
+  const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
+  const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
+  const double opening = CumulativeCostBetweenPeriod(
+      ws, Side::Past, ws.Of(Side::Past).txtCumulativeResultsPeriod(past.last).Text(),
+      static_cast<std::int16_t>(past.last), ws.Store().At(past.last, pastSide).StopLabel,
+      ws.Store().At(future.first, futureSide).StartLabel);
+  return CumulativeChainFuture(ws, futureSide, NumberToText(opening));
+}
+
+void UpdateTotalTab(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide) {
+  ShowDates(ws, Side::Past, pastSide);
+  ShowDates(ws, Side::Future, futureSide);
+  ws.cmdCumulativeFutureDateTot->SetEnabled(false);
+  SideControls& past = ws.Of(Side::Past);
+  SideControls& future = ws.Of(Side::Future);
+  CopyResults(ws, Side::Past);
+  CopyResults(ws, Side::Future);
+  WriteZeroIfEmpty(*past.txtResultsTotal);
+  WriteZeroIfEmpty(*future.txtResultsTotal);
+
+  const CountedPeriods pastCounted = CountedOf(ws, Side::Past, pastSide);
+  const CountedPeriods futureCounted = CountedOf(ws, Side::Future, futureSide);
+  ws.txtResultsTotalSummaryTot->SetText(ws.Money(pastCounted.total + futureCounted.total, kTotalFormat));
+  const bool anything = pastCounted.worthCounting || futureCounted.worthCounting;
+  EnableTotals(ws, anything);
+  ws.cmdAdvResultsDocSummaryTot->SetEnabled(anything);
+  ws.cmdAdvResultsSpdSummaryTot->SetEnabled(anything);
+  if (!anything) {
+    for (TextBox* box : {ws.txtResultsTotalSummaryTot, ws.txtCumulativeResultsTotalSummaryTot,
+                         ws.txtCumulativeFutureDateTot})
+      box->SetText(kNotAvailable);
+    return;
+  }
+
+  std::string balance, anchor;
+  std::int16_t years = 105;
+  if (futureCounted.worthCounting) {
+    anchor = ws.Store().At(futureCounted.last, futureSide).StopLabel;
+    balance = pastCounted.worthCounting ? PastCarriedIntoFuture(ws, futureSide, pastSide)
+                                        : future.txtCumulativeResultsPeriod(futureCounted.last).Text();
+  } else {
+    anchor = ws.Store().At(pastCounted.last, pastSide).StopLabel;
+    balance = past.txtCumulativeResultsPeriod(pastCounted.last).Text();
+    years = 155;
+  }
+  ws.txtCumulativeResultsTotalSummaryTot->SetText(balance);
+  FillFutureDates(ws, anchor, years);
+  EvaluateFutureDate(ws, anchor);
+}
+
+void UpdateFutureDateTotal(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide) {
+  const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
+  const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
+  std::string& pastDate = ws.State(Side::Past).BeginManualDate;
+  std::string& futureDate = ws.State(Side::Future).BeginManualDate;
+  // A total of "$0" with a period counted differs from "0": its date is noted though its way is not taken.
+  if (ws.Of(Side::Past).txtResultsTotal->Text() != "0" && past.last != 0)
+    pastDate = ws.Store().At(past.last, pastSide).StopLabel;
+  if (ws.Of(Side::Future).txtResultsTotal->Text() != "0" && future.last != 0)
+    futureDate = ws.Store().At(future.last, futureSide).StopLabel;
+  if (past.worthCounting || future.worthCounting) {
+    EvaluateFutureDate(ws, future.worthCounting ? futureDate : pastDate);
+  } else {
+    // The summary of the costs keeps what it had.
+    ws.txtCumulativeResultsTotalSummaryTot->SetText(kNotAvailable);
+    ws.txtCumulativeFutureDateTot->SetText(kNotAvailable);
+    EnableTotals(ws, false);
+  }
+  ws.cmdCumulativeFutureDateTot->SetEnabled(false);
+}
+
+void GrowFutureRateLists(SinWorkspace& ws) {
+  AppendEntries(ws, *ws.comInterestRateFutureDateTot, kRateList);
+  AppendEntries(ws, *ws.comInflationRateFutureDateTot, kRateList);
+}
+
+void RetireEuroButton(SinWorkspace& ws) {
+  ws.cmdEuro->SetAvailable(false);
+  ws.Resize(ws.Width(), ws.Height() - kEuroHeight);
+}
+
+}  // namespace vicetoll

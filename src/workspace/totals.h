@@ -1,0 +1,47 @@
+// The results of a side in their boxes, and the TOTAL tab.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "workspace/sin_workspace.h"
+
+namespace vicetoll {
+
+// Brings the result boxes of the set periods in line with their radios and evaluates the side, once per
+// set period, with the flags as they then stand.
+void RefreshResults(SinWorkspace& ws, Side side, std::int16_t sideIndex);
+
+// Evaluates a side into its boxes.
+void PopulateResults(SinWorkspace& ws, Side side, std::int16_t sideIndex);
+
+// The future side's final balance from an opening balance; empty if no period counts.
+std::string CumulativeChainFuture(SinWorkspace& ws, std::int16_t sideIndex, const std::string& opening);
+
+// Fills the TOTAL tab; runs each time it is opened.
+void UpdateTotalTab(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide);
+
+// Evaluates the figure at the chosen future date, leaving the list of dates as it is.
+void UpdateFutureDateTotal(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide);
+
+// Appends "0%" to "100%" to the two rate lists of the TOTAL tab. They are not emptied, so they grow by
+// 101 entries at every change of tab.
+void GrowFutureRateLists(SinWorkspace& ws);
+
+// What counts of a side for its totals: the periods that are set and enabled.
+struct CountedPeriods {
+  int first = 0, last = 0;     // period numbers, 0 where nothing counts
+  bool worthCounting = false;  // something counts, and the side's total is not zero
+  double total = 0;            // what the side's box shows, 0 where nothing counts
+};
+CountedPeriods CountedOf(SinWorkspace& ws, Side side, std::int16_t sideIndex);
+
+// The balance of both sides at the last stop, as text: the future chain opened with the past's balance
+// grown over the gap between them. Both sides must be worth counting.
+std::string PastCarriedIntoFuture(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide);
+
+// Smoking's euro button goes for good, and the window, which was higher to make room for it, is lowered.
+void RetireEuroButton(SinWorkspace& ws);
+
+}  // namespace vicetoll
