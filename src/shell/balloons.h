@@ -1,0 +1,53 @@
+// Balloon help: which balloons hang at which workspace, and the two levels on which they are switched.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "workspace/workspaces.h"
+
+namespace vicetoll {
+
+// One balloon for a control, or one for all elements of a control array, under its bare name.
+struct Balloon {
+  std::string_view control;
+  std::string_view text;  // lines broken by CR LF
+};
+
+class Balloons {
+ public:
+  explicit Balloons(Workspaces& workspaces) : workspaces_(workspaces) {}
+
+  // Hangs the balloons at the controls that the workspace has, in the order of the table, active. What
+  // hung there before is dropped.
+  void AttachToolTips(int position, SinWorkspace& workspace);
+  void AddBalloon(int position, std::string_view control, std::string_view text);
+
+  // The option pair of a workspace. Smoking and Drinking switch all balloons and all option pairs; the
+  // other ten only their own balloons.
+  void ConnectOptions(SinWorkspace& workspace);
+
+  const std::vector<Balloon>& Of(int position) const { return sins_.at(position).balloons; }
+  bool Active(int position) const { return sins_.at(position).active; }
+  // The text for a control while the sin's balloons are active, empty otherwise.
+  std::string_view TextFor(int position, const Control& control) const;
+
+  void EnableToolTips() { SwitchAll(true); }
+  void DisableToolTips() { SwitchAll(false); }
+
+ private:
+  struct OfSin {
+    std::vector<Balloon> balloons;
+    bool active = true;  // also before any hang there: those that come later are active
+  };
+
+  void SwitchAll(bool on);
+  void SwitchOne(int position, bool on);
+
+  Workspaces& workspaces_;
+  std::array<OfSin, kSinCount> sins_;
+};
+
+}  // namespace vicetoll

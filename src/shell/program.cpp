@@ -1,0 +1,81 @@
+#include "shell/program.h"
+
+#include "calendar/fault.h"
+#include "shell/layout.h"
+#include "workspace/loading.h"
+#include "workspace/workspace_design.h"
+
+namespace vicetoll {
+
+Program::Program(Platform& platform) : session_(platform), balloons_(*this) { StartSmoking(); }
+
+Program::~Program() = default;
+
+template <class T>
+T& Program::Created(std::unique_ptr<T>& slot, std::unique_ptr<T> made) {
+  slot = std::move(made);
+  windows_.push_back(slot.get());
+  if (onWindowCreated) onWindowCreated(*slot);
+  return *slot;
+}
+
+SinWorkspace& Program::At(int position) {
+  if (position < 0 || position >= kSinCount) throw Fault(FaultKind::Index, "There is no such sin.");
+  std::unique_ptr<SinWorkspace>& slot = workspaces_[position];
+  if (slot) return *slot;
+  SinWorkspace& ws = Created(slot, std::make_unique<SinWorkspace>(session_, position));
+  PlaceDesign(ws);
+  Connect(ws);
+  if (!ws.IsSmoking()) ws.SetCaption(ws.Sin().windowCaption);
+  if (ws.Sin().key == "Interring") PlaceIdentification(ws);
+  return ws;
+}
+
+void Program::StartSmoking() {
+  SinWorkspace& ws = At(0);
+  vicetoll::ApplyFormLayout(ws);
+  ws.Resize(ws.Width(), ws.Height() + kEuroRow);
+  AttachToolTips(0, ws);
+  LoadParameters(ws, Side::Past);
+  LoadParametersInitialFuture(ws);
+  ws.SetCaption(std::string(ws.Sin().windowCaption) + " (" + std::string(kWebAddress) + ")");
+  for (const char* panel : {"cmdHideAdvertisingPast", "cmdHideAdvertisingFut"})
+    ws.Get<Button>(panel).SetVisible(true);
+  session_.SinVisited = {};
+  session_.SinVisited[0] = true;
+  PlaceIdentification(ws);
+  ws.cmdEuro->SetPlace({0, 0, kWindowWidth, ws.cmdSwitchSins->GetPlace().height - 100});
+  PlaceEuroButton(ws);
+  ws.Show();
+}
+
+void Program::Connect(SinWorkspace& ws) {
+  ws.onResize = [&ws] { PlaceWorkspaceControls(ws); };
+  ws.cmdSwitchSins->onClick = [this, &ws] { Chooser().Open(ws); };
+  ws.cmdExit->onClick = [this] { UnloadAllWindows(); };
+  balloons_.ConnectOptions(ws);
+}
+
+void Program::ApplyFormLayout(SinWorkspace& workspace) { vicetoll::ApplyFormLayout(workspace); }
+
+void Program::AttachToolTips(int position, SinWorkspace& workspace) {
+  balloons_.AttachToolTips(position, workspace);
+}
+
+SinChooser& Program::Chooser() {
+  return chooser_ ? *chooser_ : Created(chooser_, std::make_unique<SinChooser>(*this, *this));
+}
+
+Form* Program::Window(std::string_view name) {
+  if (const int position = SinPosition(name); position != -1) return &At(position);
+  if (name == "frmSwitchSins") return &Chooser();
+  return nullptr;
+}
+
+void Program::UnloadAllWindows() {
+  for (int i = 0; i < kSinCount; ++i) At(i).Hide();
+  Chooser().Hide();
+  ended_ = true;
+}
+
+}  // namespace vicetoll

@@ -1,0 +1,61 @@
+// The program: all windows of a run and what they share.
+//
+// There is no main routine beyond this: making a Program creates the Smoking workspace, and that creation
+// does all that a start needs. Nothing is kept from one run to the next.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "shell/balloons.h"
+#include "sins/chooser.h"
+#include "workspace/workspaces.h"
+
+namespace vicetoll {
+
+class Program : public Workspaces, public SinSwitching {
+ public:
+  // Starts the program: the Smoking workspace is loaded and shown.
+  explicit Program(Platform& platform);
+  ~Program() override;
+
+  SinWorkspace& At(int position) override;
+  Session& GetSession() override { return session_; }
+
+  // A window by its name: a sin key, "frmSwitchSins", ... It is created if it does not exist yet, and not
+  // shown. nullptr where there is no such window.
+  Form* Window(std::string_view name);
+
+  // The windows that exist, in the order of their creation.
+  const std::vector<Form*>& Windows() const { return windows_; }
+  // Called for each window that comes into being.
+  std::function<void(Form&)> onWindowCreated;
+
+  SinChooser& Chooser();
+  const Balloons& GetBalloons() const { return balloons_; }
+
+  // Ends the run: every window is closed, nothing is asked, nothing saved.
+  void UnloadAllWindows();
+  bool Ended() const { return ended_; }
+
+  void ApplyFormLayout(SinWorkspace& workspace) override;
+  void AttachToolTips(int position, SinWorkspace& workspace) override;
+
+ private:
+  template <class T>
+  T& Created(std::unique_ptr<T>& slot, std::unique_ptr<T> made);
+  void Connect(SinWorkspace& workspace);
+  void StartSmoking();
+
+  Session session_;
+  Balloons balloons_;
+  std::vector<Form*> windows_;
+  std::array<std::unique_ptr<SinWorkspace>, kSinCount> workspaces_;
+  std::unique_ptr<SinChooser> chooser_;
+  bool ended_ = false;
+};
+
+}  // namespace vicetoll
