@@ -1,0 +1,72 @@
+// What a scenario is played on: the bare controls, or widgets that show them.
+//
+// A stage does what a user does and reads what the user would see. Both stages run the same program; only
+// the hands and the eyes differ.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/drop_down_list.h"
+#include "controls/form.h"
+
+namespace vicetoll {
+
+// What is seen of a control. A stage fills what its kind has.
+struct ControlState {
+  std::string text;     // list, text box
+  std::string caption;  // captioned controls
+  int position = -1;    // list
+  int entries = 0;      // list
+  bool value = false;   // choices
+  int colour = -1;      // option
+  int tab = 0;          // tab control
+  int rows = 0;         // grid
+  int length = 0;       // document text
+  bool enabled = true;
+  bool visible = true;
+};
+
+struct FormState {
+  std::string caption;
+  bool shown = false;
+  int width = 0, height = 0;  // twips
+};
+
+class Stage {
+ public:
+  virtual ~Stage() = default;
+
+  // Hands.
+  virtual UserOutcome Focus(Control& control) = 0;
+  virtual UserOutcome Choose(DropDownList& list, int position) = 0;
+  virtual UserOutcome Click(Control& control) = 0;
+  virtual UserOutcome SelectTab(TabControl& tabs, int tab) = 0;
+  virtual UserOutcome Type(Control& control, std::string_view text) = 0;
+  virtual UserOutcome Resize(Form& form, int width, int height) = 0;
+
+  // Eyes.
+  virtual ControlState Read(Control& control) = 0;
+  virtual FormState Read(Form& form) = 0;
+  virtual std::vector<std::string> Entries(DropDownList& list) = 0;
+  virtual std::string Text(Control& control) = 0;  // of a text box, a list or a document text
+};
+
+// The bare controls.
+class ControlStage : public Stage {
+ public:
+  UserOutcome Focus(Control& control) override;
+  UserOutcome Choose(DropDownList& list, int position) override;
+  UserOutcome Click(Control& control) override;
+  UserOutcome SelectTab(TabControl& tabs, int tab) override;
+  UserOutcome Type(Control& control, std::string_view text) override;
+  UserOutcome Resize(Form& form, int width, int height) override;
+
+  ControlState Read(Control& control) override;
+  FormState Read(Form& form) override;
+  std::vector<std::string> Entries(DropDownList& list) override;
+  std::string Text(Control& control) override;
+};
+
+}  // namespace vicetoll
