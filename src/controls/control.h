@@ -8,9 +8,11 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vicetoll {
 
+class CaptionedControl;
 class Form;
 
 // What a user's action came to.
@@ -87,6 +89,10 @@ class Control {
   const std::string& ToolTip() const { return toolTip_; }
   void SetToolTip(std::string_view text);
 
+  // Whose captions, in this order, say what the control is to those who cannot see where it stands.
+  const std::vector<const CaptionedControl*>& LabelledBy() const { return labelledBy_; }
+  void SetLabelledBy(std::vector<const CaptionedControl*> labels) { labelledBy_ = std::move(labels); }
+
   const Place& GetPlace() const { return place_; }
   void SetPlace(const Place& place);
 
@@ -109,6 +115,7 @@ class Control {
   bool enabled_ = true;
   bool visible_ = true;
   std::string toolTip_;
+  std::vector<const CaptionedControl*> labelledBy_;
   Place place_;
 };
 
@@ -143,8 +150,16 @@ class MenuEntry : public Button {
 
 class Label : public CaptionedControl {
  public:
+  enum class Align { Left, Centre, Right };
+
   using CaptionedControl::CaptionedControl;
   ControlKind Kind() const override { return ControlKind::Label; }
+
+  Align GetAlign() const { return align_; }
+  void SetAlign(Align align) { align_ = align; }
+
+ private:
+  Align align_ = Align::Left;
 };
 
 class Frame : public CaptionedControl {

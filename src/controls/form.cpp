@@ -43,14 +43,14 @@ UserOutcome Form::UserResizes(int width, int height) {
   return UserOutcome::Done;
 }
 
-void Form::StartCanvasLine() {
-  canvas_.emplace_back();
+void Form::StartCanvasLine(int left) {
+  canvas_.push_back({left, {}});
   Changed();
 }
 
 void Form::TypeOnCanvas(char letter) {
   if (canvas_.empty()) canvas_.emplace_back();
-  canvas_.back() += letter;
+  canvas_.back().text += letter;
   Changed();
 }
 

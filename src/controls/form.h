@@ -22,6 +22,12 @@ class FormListener {
   virtual void FormChanged(Form& form) = 0;
 };
 
+// A line of text on the bare window, beginning so many twips from its left edge.
+struct CanvasLine {
+  int left = 0;
+  std::string text;
+};
+
 enum class WindowState { Normal, Minimised, Maximised };
 
 class Form {
@@ -41,6 +47,10 @@ class Form {
   void Show() { SetShown(true); }
   void Hide() { SetShown(false); }
 
+  // Whether the window system offers a way to close the window; without it cmdExit is the only way out.
+  bool HasCloseEntry() const { return hasCloseEntry_; }
+  void RemoveCloseEntry() { hasCloseEntry_ = false; }
+
   // Outer size in twips. Setting a size runs the resize event, as a user's resizing does.
   int Width() const { return width_; }
   int Height() const { return height_; }
@@ -51,9 +61,9 @@ class Form {
   UserOutcome UserResizes(int width, int height);  // Refused while the window is hidden
   std::function<void()> onResize;
 
-  // Texts typed on the bare window, a line each, blank lines included. A letter goes to the last line.
-  const std::vector<std::string>& Canvas() const { return canvas_; }
-  void StartCanvasLine();
+  // What is typed on the bare window, line by line, blank lines included. A letter goes to the last line.
+  const std::vector<CanvasLine>& Canvas() const { return canvas_; }
+  void StartCanvasLine(int left);
   void TypeOnCanvas(char letter);
   void ClearCanvas();
 
@@ -106,10 +116,11 @@ class Form {
   std::string name_;
   std::string caption_;
   bool shown_ = false;
+  bool hasCloseEntry_ = true;
   int width_ = 0;
   int height_ = 0;
   WindowState state_ = WindowState::Normal;
-  std::vector<std::string> canvas_;
+  std::vector<CanvasLine> canvas_;
   std::vector<std::unique_ptr<Control>> controls_;
   std::vector<std::unique_ptr<ChoiceGroup>> groups_;
   std::map<NameLess::Key, Control*, NameLess> byName_;  // the names live in the controls

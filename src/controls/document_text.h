@@ -1,0 +1,42 @@
+// A text of many lines that a user may edit, with a selection.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "controls/control.h"
+
+namespace vicetoll {
+
+// Lines end in CR LF, which counts as two characters in every position and length.
+class DocumentText : public Control {
+ public:
+  using Control::Control;
+  ControlKind Kind() const override { return ControlKind::DocumentText; }
+
+  const std::string& Text() const { return text_; }
+  // Takes the text as it stands. A new text has nothing selected, position 0.
+  void SetText(std::string text);
+
+  int Length() const { return static_cast<int>(text_.size()); }
+  int SelStart() const { return start_; }
+  int SelLength() const { return length_; }
+  std::string_view SelText() const { return std::string_view(text_).substr(start_, length_); }
+  // A selection that runs out of the text is cut at its end.
+  void Select(int start, int length);
+  void SelectAll() { Select(0, Length()); }
+  // Puts the text in the place of the selection, its line ends turned into CR LF; the position moves
+  // behind it. Without a selection the text goes in at the position.
+  void ReplaceSelection(std::string_view text);
+
+  // The user replaces the whole text by typing, its line ends turned into CR LF.
+  UserOutcome UserTypes(std::string_view text);
+  UserOutcome UserSelects(int start, int length);
+
+ private:
+  std::string text_;
+  int start_ = 0;
+  int length_ = 0;
+};
+
+}  // namespace vicetoll

@@ -1,0 +1,135 @@
+#include "controls/grid.h"
+
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+
+namespace vicetoll {
+namespace {
+
+constexpr char kCellEnd = '\t';
+
+int LeadingInteger(std::string_view text) {
+  int number = 0;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return number;
+}
+
+// The text of the cells `first` to `last` of a row, with a tab between each two, also where the row has
+// fewer cells.
+void AppendCells(std::string& out, std::string_view row, int first, int last) {
+  int column = 0;
+  for (; column < first; ++column) {
+    const std::size_t end = row.find(kCellEnd);
+    row = end == std::string_view::npos ? std::string_view() : row.substr(end + 1);
+  }
+  for (; column <= last; ++column) {
+    const std::size_t end = std::min(row.find(kCellEnd), row.size());
+    out += row.substr(0, end);
+    if (column < last) out += kCellEnd;
+    row.remove_prefix(std::min(end + 1, row.size()));
+  }
+}
+
+}  // namespace
+
+bool Grid::HasCell(int row, int column) const {
+  return row >= 0 && row < RowCount() && column >= 0 && column < kColumns;
+}
+
+std::string_view Grid::RowText(int row) const { return HasCell(row, 0) ? rows_[row] : std::string_view(); }
+
+std::string_view Grid::Cell(int row, int column) const {
+  if (!HasCell(row, column)) return {};
+  std::string_view rest = rows_[row];
+  for (; column > 0; --column) {
+    const std::size_t end = rest.find(kCellEnd);
+    if (end == std::string_view::npos) return {};
+    rest.remove_prefix(end + 1);
+  }
+  return rest.substr(0, rest.find(kCellEnd));
+}
+
+void Grid::Clear() {
+  rows_.clear();
+  hasHeading_ = false;
+  row_ = col_ = rowSel_ = colSel_ = 0;
+  Changed();
+}
+
+void Grid::SetHeading(std::string_view format) {
+  std::string heading;
+  for (int column = 0; column < kColumns && !format.empty(); ++column) {
+    const std::size_t end = std::min(format.find('|'), format.size());
+    std::string_view cell = format.substr(0, end);
+    format.remove_prefix(std::min(end + 1, format.size()));
+    alignments_[column] = cell.starts_with('^') ? Alignment::Centre : Alignment::Left;
+    if (cell.starts_with('^') || cell.starts_with('<')) cell.remove_prefix(1);
+    if (column > 0) heading += kCellEnd;
+    heading += cell;
+  }
+  if (hasHeading_)
+    rows_.front() = std::move(heading);
+  else
+    rows_.insert(rows_.begin(), std::move(heading));
+  hasHeading_ = true;
+  Changed();
+}
+
+void Grid::Append(std::vector<std::string> rows) {
+  if (rows_.empty())
+    rows_ = std::move(rows);
+  else
+    rows_.insert(rows_.end(), std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
+  Changed();
+}
+
+void Grid::SortByFirstCell() {
+  const auto first = rows_.begin() + (hasHeading_ ? 1 : 0);
+  const auto before = [](const std::string& a, const std::string& b) {
+    return LeadingInteger(a) < LeadingInteger(b);
+  };
+  // Reports nearly always come in order.
+  if (std::is_sorted(first, rows_.end(), before)) return;
+  std::stable_sort(first, rows_.end(), before);
+  Changed();
+}
+
+void Grid::SetHeadingHeight(int height) {
+  headingHeight_ = height;
+  Changed();
+}
+
+void Grid::SetColumnWidth(int column, int width) {
+  widths_.at(column) = width;
+  Changed();
+}
+
+void Grid::Select(int row, int col, int rowSel, int colSel) {
+  row_ = row;
+  col_ = col;
+  rowSel_ = rowSel;
+  colSel_ = colSel;
+  Changed();
+}
+
+std::string Grid::Clip() const {
+  std::string clip;
+  if (RowCount() <= (hasHeading_ ? 1 : 0)) return clip;
+  const auto [top, bottom] = std::minmax(row_, rowSel_);
+  const auto [left, right] = std::minmax(col_, colSel_);
+  for (int row = top; row <= bottom && row < RowCount(); ++row) {
+    if (row > top) clip += '\r';
+    AppendCells(clip, rows_[row], left, right);
+  }
+  return clip;
+}
+
+UserOutcome Grid::UserSelects(int row, int col, int rowSel, int colSel) {
+  if (!Reachable()) return UserOutcome::Refused;
+  if (!HasCell(row, col) || !HasCell(rowSel, colSel)) return UserOutcome::NoEntry;
+  Select(row, col, rowSel, colSel);
+  return UserOutcome::Done;
+}
+
+}  // namespace vicetoll
