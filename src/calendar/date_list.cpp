@@ -23,7 +23,7 @@ void FillDateList(bool clear, DropDownList& list, const std::string& first, cons
     };
     std::int16_t month = MonthNumberFromLabel(first);
     std::int16_t year = YearFromLabel(first);
-    for (double done = 0; months - step > done; done += step) {
+    for (int done = 0; months - step > done; done += step) {
       month = Add(month, step);
       if (month > 12) {
         year = Add(year, 1);

@@ -14,9 +14,9 @@ namespace {
 
 constexpr int kSignificantDigits = 15;
 
-// The decimal text of 15 digits differs from the double by less than 1e-15 of its size. Below this size
-// a scaled value farther than kTieWidth from a half rounds the same way in binary as in decimal.
-constexpr double kFastLimit = 1e9;
+// Below this limit a scaled value keeps four of its 15 digits behind the point. Farther than kTieWidth from
+// a half it rounds the same way in binary as in decimal.
+constexpr double kFastLimit = 1e11;
 constexpr double kTieWidth = 1e-4;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -64,9 +64,8 @@ std::string RoundedDigits(const Decimal& decimal, int decimals) {
 
 // |value| * 10^decimals rounded to a whole number, where binary arithmetic decides it beyond doubt.
 std::optional<std::uint64_t> FastRounded(double value, double scale) {
-  const double magnitude = std::fabs(value);
-  if (!(magnitude < kFastLimit)) return std::nullopt;
-  const double scaled = magnitude * scale;
+  const double scaled = std::fabs(value) * scale;
+  if (!(scaled < kFastLimit)) return std::nullopt;
   const double whole = std::floor(scaled);
   const double fraction = scaled - whole;
   if (std::fabs(fraction - 0.5) < kTieWidth) return std::nullopt;
@@ -79,7 +78,7 @@ std::string Assemble(bool negative, std::string_view digits, const Pattern& patt
   const std::size_t decimals = static_cast<std::size_t>(pattern.decimals);
   const std::size_t integerDigits = digits.size() > decimals ? digits.size() - decimals : 0;
   const std::size_t shown = std::max(integerDigits, static_cast<std::size_t>(pattern.forcedDigits));
-  if (shown * 2 + decimals + pattern.symbol.size() + 4 > sizeof buffer)
+  if (shown + shown / 3 + decimals + pattern.symbol.size() + 4 > sizeof buffer)
     throw Fault(FaultKind::Overflow, "An amount is too long to be shown.");
   char* out = buffer;
   if (negative) *out++ = '-';
@@ -128,7 +127,10 @@ Parsed ParseUnsigned(std::string_view text, double& value) {
   if (error == std::errc::result_out_of_range) {
     // Too small is zero; too large has no value.
     const std::size_t exponent = text.find_first_of("eE");
-    if (exponent != std::string_view::npos && text.substr(exponent + 1).starts_with('-')) {
+    const bool small = exponent == std::string_view::npos
+                           ? text.find_first_not_of('0') >= text.find('.')
+                           : text.substr(exponent + 1).starts_with('-');
+    if (small) {
       value = 0;
       return Parsed::Number;
     }

@@ -11,9 +11,10 @@ namespace vicetoll {
 namespace {
 
 // The balance after the months 1..count of a period, each month's cost put in before its interest.
-double WalkBalance(double balance, double count, std::int16_t months, const CostTerms& cost, double factor) {
+double WalkBalance(double balance, std::int16_t count, std::int16_t months, const CostTerms& cost,
+                   double factor) {
   MonthWalk walk(cost, months);
-  for (double i = 1; i <= count; ++i) balance = (balance + RoundToCents(walk.Next().monthCost)) * factor;
+  for (int i = 1; i <= count; ++i) balance = (balance + RoundToCents(walk.Next().monthCost)) * factor;
   return Finite(balance);
 }
 
@@ -86,7 +87,9 @@ double CostAfterLastPeriod(std::string_view startingCost, double interestRate, s
 }
 
 double TotalCostInCurrentPeriod(double count, double months, const Rates& rates, const CostTerms& cost) {
-  return WalkBalance(0, count, Int16(static_cast<std::int64_t>(months)), cost, rates.MonthlyFactor());
+  // A part of a month is no month.
+  const auto whole = [](double number) { return Int16(static_cast<std::int64_t>(std::floor(number))); };
+  return WalkBalance(0, whole(count), whole(months), cost, rates.MonthlyFactor());
 }
 
 }  // namespace vicetoll
