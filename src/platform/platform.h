@@ -26,7 +26,8 @@ class Platform {
   // Shows a message and waits for the answer. An empty title leaves the box the program's own.
   virtual Answer ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) = 0;
 
-  // Asks where to save. Starts from the name chosen last; a cancelled dialog returns no name.
+  // Asks where to save, starting from the name chosen last; a cancelled dialog returns no name. Paths are in
+  // the encoding of the file system.
   virtual std::optional<std::string> AskSavePath(std::string_view lastPath) = 0;
 
   // Writes a file in one go, replacing what was there. Throws Fault(File) naming the file and the reason.
@@ -36,8 +37,15 @@ class Platform {
   // cancelled dialog does not stop the printing.
   virtual void Print(std::string_view text, bool selection) = 0;
 
+  // The same, but the page stays open: it comes out with the next print or at the end of the run. A
+  // platform that cannot hold a page back prints it at once.
+  virtual void PrintKeepingPageOpen(std::string_view text, bool selection) { Print(text, selection); }
+
   virtual void SetClipboard(std::string_view text) = 0;
   virtual std::string Clipboard() = 0;
+
+  // The folder that the program lies in, in the encoding of the file system.
+  virtual std::string ProgramFolder() = 0;
 
   // Sends the browser to a page.
   virtual void Browse(std::string_view url) = 0;
