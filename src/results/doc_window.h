@@ -1,0 +1,57 @@
+// The document results window: the months of a report as a text that the user may read, edit, switch
+// between two layouts, print and save.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "controls/document_text.h"
+#include "controls/form.h"
+#include "workspace/workspaces.h"
+
+namespace vicetoll {
+
+class DocWindow : public Form {
+ public:
+  // One window serves all sins; it starts in the table layout. There is no way out but cmdExit.
+  explicit DocWindow(Workspaces& workspaces);
+
+  DocumentText& Text() { return *rtfAdvResultsDoc_; }
+  // Whether the block layout is on.
+  bool BlockLayout() const { return Opt_Doc_->Value(); }
+
+  // Refill the text for the current sin in the block or the table layout; what the user had edited is
+  // lost. With jail time current the text comes from the workspace of sloth; with sloth or tobacco current
+  // nothing happens. Users know it so.
+  void DocDocument() { RefillForCurrentSin(true); }
+  void CsvDocument() { RefillForCurrentSin(false); }
+
+  // Refills the text with what the workspace's last report showed: past, future or both. A workspace that
+  // made none leaves it alone. Past and future are the numbers under which the counted periods are read.
+  void DocSinData(SinWorkspace& ws, std::int16_t past, std::int16_t future, bool docFlag);
+
+ private:
+  void Design();
+  void PlaceControls();
+  void OnResize();
+  void RefillForCurrentSin(bool docFlag);
+  void Print();
+  void SaveAs();
+  void SelectAll();
+  void Copy();
+  void Cut();
+  void Paste();
+  void Exit();
+
+  Workspaces& workspaces_;
+  std::string filePath_;  // the name the save dialog holds
+  DocumentText* rtfAdvResultsDoc_ = nullptr;
+  Frame* SSFrame1_DocResults_ = nullptr;
+  Option* Opt_Csv_ = nullptr;
+  Option* Opt_Doc_ = nullptr;
+  Button* cmdPrint_ = nullptr;
+  Button* cmdSaveAs_ = nullptr;
+  Button* cmdExit_ = nullptr;
+};
+
+}  // namespace vicetoll
