@@ -68,7 +68,8 @@ void OnTab(SinWorkspace& ws) {
 
 void OnPanel(SinWorkspace& ws) {
   FitPanels(ws);
-  if (Control* reveal = ws.Find("cmdRevealDeveloper", kNoIndex)) reveal->SetVisible(true);
+  Control* reveal = ws.Find("cmdRevealDeveloper", kNoIndex);
+  if (reveal != nullptr && !ws.identificationOver) reveal->SetVisible(true);
 }
 
 void ConnectSide(SinWorkspace& ws, Side side) {

@@ -143,6 +143,8 @@ class SinWorkspace : public Form {
   std::int16_t CurrentIndexSub = 0;
   double CurrentCumulativeCost = 0;
   double CurrentCumulativeCostWithInterest = 0;
+  // The identification sequence was shown and undone: its button stays hidden.
+  bool identificationOver = false;
   ResultButtonFlags cmdAdvResultsSpd_Flag;
   ResultButtonFlags cmdAdvResultsDoc_Flag;
 

@@ -128,6 +128,28 @@ std::string PastCarriedIntoFuture(SinWorkspace& ws, std::int16_t futureSide, std
   return CumulativeChainFuture(ws, futureSide, NumberToText(opening));
 }
 
+namespace {
+
+// The balance of all that counts at its last stop, as text; empty where nothing counts.
+std::string BalanceOfBothSides(SinWorkspace& ws, const CountedPeriods& past, const CountedPeriods& future,
+                               std::int16_t futureSide, std::int16_t pastSide) {
+  if (past.worthCounting && future.worthCounting) return PastCarriedIntoFuture(ws, futureSide, pastSide);
+  if (future.worthCounting) return ws.Of(Side::Future).txtCumulativeResultsPeriod(future.last).Text();
+  if (past.worthCounting) return ws.Of(Side::Past).txtCumulativeResultsPeriod(past.last).Text();
+  return {};
+}
+
+}  // namespace
+
+void UpdateCombinedCumulative(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide) {
+  for (Side side : kSides) WriteZeroIfEmpty(*ws.Of(side).txtResultsTotal);
+  const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
+  const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
+  const bool anything = past.worthCounting || future.worthCounting;
+  ws.txtCumulativeResultsTotalSummaryTot->SetText(
+      anything ? BalanceOfBothSides(ws, past, future, futureSide, pastSide) : "0");
+}
+
 void UpdateTotalTab(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide) {
   ShowDates(ws, Side::Past, pastSide);
   ShowDates(ws, Side::Future, futureSide);
@@ -153,19 +175,12 @@ void UpdateTotalTab(SinWorkspace& ws, std::int16_t futureSide, std::int16_t past
     return;
   }
 
-  std::string balance, anchor;
-  std::int16_t years = 105;
-  if (futureCounted.worthCounting) {
-    anchor = ws.Store().At(futureCounted.last, futureSide).StopLabel;
-    balance = pastCounted.worthCounting ? PastCarriedIntoFuture(ws, futureSide, pastSide)
-                                        : future.txtCumulativeResultsPeriod(futureCounted.last).Text();
-  } else {
-    anchor = ws.Store().At(pastCounted.last, pastSide).StopLabel;
-    balance = past.txtCumulativeResultsPeriod(pastCounted.last).Text();
-    years = 155;
-  }
-  ws.txtCumulativeResultsTotalSummaryTot->SetText(balance);
-  FillFutureDates(ws, anchor, years);
+  ws.txtCumulativeResultsTotalSummaryTot->SetText(
+      BalanceOfBothSides(ws, pastCounted, futureCounted, futureSide, pastSide));
+  const std::string anchor = futureCounted.worthCounting
+                                 ? ws.Store().At(futureCounted.last, futureSide).StopLabel
+                                 : ws.Store().At(pastCounted.last, pastSide).StopLabel;
+  FillFutureDates(ws, anchor, futureCounted.worthCounting ? 105 : 155);
   EvaluateFutureDate(ws, anchor);
 }
 

@@ -41,6 +41,10 @@ CountedPeriods CountedOf(SinWorkspace& ws, Side side, std::int16_t sideIndex);
 // grown over the gap between them. Both sides must be worth counting.
 std::string PastCarriedIntoFuture(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide);
 
+// A short form of UpdateTotalTab for the table over all sins: brings txtCumulativeResultsTotalSummaryTot up
+// to date and leaves the rest of the tab alone. Where there is nothing it writes "0", not "n/a".
+void UpdateCombinedCumulative(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide);
+
 // Smoking's euro button goes for good, and the window, which was higher to make room for it, is lowered.
 void RetireEuroButton(SinWorkspace& ws);
 

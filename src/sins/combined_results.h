@@ -1,0 +1,57 @@
+// The table over all sins: twelve rows, six columns of money, a total for each column.
+//
+// It has no arithmetic of its own for the sins: it reads what their workspaces, hidden or not, show. Its
+// figures are a snapshot; nothing refreshes them when a workspace changes.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "controls/drop_down_list.h"
+#include "controls/form.h"
+#include "workspace/workspaces.h"
+
+namespace vicetoll {
+
+class CombinedResults : public Form {
+ public:
+  explicit CombinedResults(Workspaces& workspaces);
+
+  // Fills all twelve rows and the totals.
+  void PopulateCombResultsText();
+
+  // Fills the row of a sin. Its workspace's balance over both sides is brought up to date first.
+  void GetIndividualSinValues(SinWorkspace& workspace, int index, std::int16_t pastSide,
+                              std::int16_t futureSide);
+
+  // Fills the totals from the rows that are ticked.
+  void PopulateTotals();
+
+ private:
+  enum Column { kPastCost, kPastBalance, kFutureCost, kFutureBalance, kCost, kBalance, kColumns };
+
+  struct ColumnControls {
+    std::array<TextBox*, kSinCount> cells{};
+    TextBox* total = nullptr;
+  };
+
+  void MakeColumns();
+  void MakeTicks();
+  void MakeBottom();
+  void ShowRow(int index);
+  // What a cell shows for a sin that has no figure there.
+  const std::string& NoData();
+  std::string Money(double amount) const;
+  std::string LastShownBalance(const SideControls& side, const std::string& noData) const;
+  std::string Joined(const std::string& past, const std::string& future, double both,
+                     const std::string& noData) const;
+
+  Workspaces& workspaces_;
+  std::array<ColumnControls, kColumns> columns_;
+  std::array<CheckBox*, kSinCount> chkWhichSins_{};
+  DropDownList* comDataRep_ = nullptr;
+  std::string noData_;
+};
+
+}  // namespace vicetoll
