@@ -1,0 +1,52 @@
+#include "shell/info_window.h"
+
+#include <fstream>
+#include <iterator>
+
+#include "platform/code_page.h"
+
+namespace vicetoll {
+namespace {
+
+// In twips.
+constexpr int kWidth = 10500, kHeight = 9000;
+constexpr int kMargin = 200;
+
+}  // namespace
+
+InfoWindow::InfoWindow(Platform& platform) : Form("frmInfo", ""), platform_(platform) {
+  rtfInfo_ = &Add<DocumentText>({"rtfInfo"});
+  cmdExit_ = &Add<Button>({"cmdExit"}, "Exit");
+  cmdExit_->SetPlace({0, 0, 1500, 500});
+  cmdExit_->onClick = [this] { Hide(); };
+  onResize = [this] { PlaceControls(); };
+  Resize(kWidth, kHeight);
+}
+
+void InfoWindow::PlaceControls() {
+  const Place text = {kMargin, kMargin, Width() - 2 * kMargin, Height() - 1400};
+  rtfInfo_->SetPlace(text);
+  Place exit = cmdExit_->GetPlace();
+  exit.left = kMargin + text.width - exit.width;
+  exit.top = text.top + text.height + 400;
+  cmdExit_->SetPlace(exit);
+}
+
+void InfoWindow::ShowHelpFile() { Open("Sin_help.hlp", "info for The Vicetoll Financial Calculator"); }
+
+void InfoWindow::ShowInfoFile() { Open("Sin_Info.hlp", "Info and FAQ on The Vicetoll Financial Calculator"); }
+
+void InfoWindow::Open(std::string_view file, std::string_view caption) {
+  Show();
+  file_ = platform_.ProgramFolder() + "/" + std::string(file);
+  std::ifstream stream(file_, std::ios::binary);
+  if (stream)
+    rtfInfo_->SetText(FromUtf8(std::string(std::istreambuf_iterator<char>(stream), {})));
+  else
+    rtfInfo_->SetText("This text is missing: the file " + std::string(file) +
+                      " should lie beside the program, in the folder " + FromUtf8(platform_.ProgramFolder()) +
+                      ".");
+  SetCaption(caption);
+}
+
+}  // namespace vicetoll
