@@ -4,8 +4,12 @@
 #include <functional>
 
 #include "calendar/checked_int.h"
+#include "calendar/date_label.h"
 #include "calendar/date_list.h"
 #include "calendar/number_text.h"
+#include "results/report_operations.h"
+#include "results/result_buttons.h"
+#include "shell/identification.h"
 #include "shell/layout.h"
 #include "workspace/commit.h"
 #include "workspace/date_rules.h"
@@ -22,12 +26,19 @@ struct Call {
   SinWorkspace& ws;
   Side side;  // of the name that was called, where the name has a side
   const Arguments& args;
+  mutable std::int16_t index = 0;
 
   const std::string& Text(std::size_t i) const { return args.Text(i); }
   double Number(std::size_t i) const { return args.Number(i); }
   std::int16_t Int16(std::size_t i) const { return args.Int16(i); }
   bool Flag(std::size_t i) const { return args.Flag(i); }
   DropDownList& List(std::size_t i) const { return args.List(i, ws); }
+  // An index that the operation moves on.
+  std::int16_t& Index(std::size_t i) const {
+    index = args.Int16(i);
+    return index;
+  }
+  Grid& Rows() const { return program.Spd().Rows(); }
   Currency Money() const { return ws.GetSession().currency; }
 };
 
@@ -49,7 +60,14 @@ struct Operation {
   }
 #define GIVE(expression) [](const Call& c) -> OperationValue { return expression; }
 
-OperationValue MonthCells(const CostTerms& terms, std::int16_t month, std::int16_t months) {
+// The day count of the month is looked up and takes no part in the cost.
+OperationValue MonthCells(const Call& c, const CostTerms& terms, std::size_t monthArgument,
+                          std::size_t periodArgument) {
+  const std::int16_t month = c.Int16(monthArgument);
+  const std::int16_t months = c.Int16(monthArgument + 1);
+  const Side side = c.ws.FuturePast_Flag == 1 ? Side::Past : Side::Future;
+  std::string index = std::to_string(month);
+  DayCountOfMonthIndex(index, c.ws.Record(side, c.Int16(periodArgument)).StartLabel);
   return CellsOf(terms, FiguresOfMonth(terms, month, months));
 }
 
@@ -61,7 +79,7 @@ OperationValue MonthCostOfPacks(const Call& c) {
   terms.yearlyFraction = c.Number(5);
   terms.packsFlag = c.Flag(6);
   terms.percentMode = c.Flag(7);
-  return MonthCells(terms, c.Int16(0), c.Int16(1));
+  return MonthCells(c, terms, 0, 8);
 }
 
 OperationValue MonthCostOfUnits(const Call& c) {
@@ -71,14 +89,14 @@ OperationValue MonthCostOfUnits(const Call& c) {
   terms.quantity = c.Number(5);
   terms.yearlyFraction = c.Number(6);
   terms.percentMode = c.Flag(8);
-  return MonthCells(terms, c.Int16(1), c.Int16(2));
+  return MonthCells(c, terms, 1, 9);
 }
 
 OperationValue MonthCostOfFlatRate(const Call& c) {
   CostTerms terms{.costClass = CostClass::FlatRateClass};
   terms.initialCost = c.Number(3);
   terms.yearlyFraction = c.Number(4);
-  return MonthCells(terms, c.Int16(1), c.Int16(2));
+  return MonthCells(c, terms, 1, 6);
 }
 
 OperationValue MonthCostOfNetUnits(const Call& c) {
@@ -87,7 +105,7 @@ OperationValue MonthCostOfNetUnits(const Call& c) {
   terms.quantity = c.Number(5);
   terms.yearlyFraction = c.Number(6);
   terms.reasonableCost = c.Number(10);
-  return MonthCells(terms, c.Int16(1), c.Int16(2));
+  return MonthCells(c, terms, 1, 9);
 }
 
 double AsNumber(std::int16_t value) { return value; }
@@ -142,6 +160,7 @@ constexpr Operation kOperations[] = {
     {"PopulateResults{Side}", 1, DO(PopulateResults(c.ws, c.side, c.Int16(0)))},
     {"CumulativeChainFuture", 2, GIVE(CumulativeChainFuture(c.ws, c.Int16(0), c.Text(1)))},
     {"UpdateTotalTab", 2, DO(UpdateTotalTab(c.ws, c.Int16(0), c.Int16(1)))},
+    {"UpdateCombinedCumulative", 2, DO(UpdateCombinedCumulative(c.ws, c.Int16(0), c.Int16(1)))},
     {"UpdateFutureDateTotal", 2, DO(UpdateFutureDateTotal(c.ws, c.Int16(0), c.Int16(1)))},
 
     // Dates.
@@ -169,12 +188,59 @@ constexpr Operation kOperations[] = {
     {"CommitPeriod{Side}", 2, DO(CommitPeriod(c.ws, c.side, c.Int16(0), c.Int16(1)))},
     {"UpdateResultButtons{Side}", 1, DO(UpdateResultButtons(c.ws, c.side, c.Int16(0)))},
 
+    // Reports. An index that an operation moves on is given as a number and not given back.
+    {"GridHeaderText", 1, GIVE(std::string(GridHeaderText(c.Text(0))))},
+    {"FinishSpdGrid", 0, DO(FinishSpdGrid(c.Rows(), c.ws.GetSession().CurrentSinKey))},
+    {"BuildSpdRows{Side}", 4,
+     DO(BuildSpdRows(c.ws, c.side, c.Rows(), c.Flag(0), c.Flag(1), c.Index(2), c.Int16(3)))},
+    {"ParametersForMonthInPeriodSpd{Side}", 4,
+     DO(ParametersForMonthInPeriodSpd(c.ws, c.side, c.Rows(), c.Int16(0), c.Index(1), c.Number(2),
+                                      c.Number(3)))},
+    {"ParametersForMonthInPeriodSpdBetweenPeriods{Side}", 7,
+     DO(ParametersForMonthInPeriodSpdBetweenPeriods(c.ws, c.side, c.Rows(), c.Flag(0), c.Int16(1), c.Index(2),
+                                                    c.Number(3), c.Number(4), c.Text(5), c.Text(6)))},
+    {"CsvText", 1, GIVE(CsvText(c.ws, c.Flag(0)))},
+    {"BuildDocText{Side}", 4,
+     GIVE(BuildDocText(c.ws, c.side, c.program.Doc().Text(), c.Flag(0), c.Flag(1), c.Index(2), c.Int16(3)))},
+    {"ParametersInPeriodDoc{Side}", 1, GIVE(ParametersInPeriodDoc(c.ws, c.side, c.Int16(0)))},
+    {"ParametersForMonthInPeriodDoc{Side}", 5,
+     GIVE(ParametersForMonthInPeriodDoc(c.ws, c.side, c.Int16(0), c.Flag(1), c.Index(2), c.Number(3),
+                                        c.Number(4)))},
+    {"ParametersForMonthInPeriodDocBetweenPeriods{Side}", 8,
+     GIVE(ParametersForMonthInPeriodDocBetweenPeriods(c.ws, c.side, c.Flag(0), c.Int16(1), c.Flag(2),
+                                                      c.Index(3), c.Number(4), c.Number(5), c.Text(6),
+                                                      c.Text(7)))},
+    {"DocDocument", 0, DO(c.program.Doc().DocDocument())},
+    {"CsvDocument", 0, DO(c.program.Doc().CsvDocument())},
+    {"DocSinData", 3, DO(c.program.Doc().DocSinData(c.ws, c.Int16(0), c.Int16(1), c.Flag(2)))},
+    {"DisableSpdButtons", 0, DO(DisableSpdButtons(c.ws))},
+    {"RestoreSpdButtons", 0, DO(RestoreSpdButtons(c.ws))},
+    {"DisableDocButtons", 0, DO(DisableDocButtons(c.ws))},
+    {"RestoreDocButtons", 0, DO(RestoreDocButtons(c.ws))},
+    {"DisableSpdButtonsOfSin", 0, DO(DisableSpdButtonsOfSin(c.program))},
+    {"RestoreSpdButtonsOfSin", 0, DO(RestoreSpdButtonsOfSin(c.program))},
+    {"DisableDocButtonsOfSin", 0, DO(DisableDocButtonsOfSin(c.program))},
+    {"RestoreDocButtonsOfSin", 0, DO(RestoreDocButtonsOfSin(c.program))},
+
     // The program.
     {"ShowSinChooser", 1, DO(c.program.Chooser().ShowSinChooser(c.Int16(0)))},
     {"ShowAndHideForms", 0, DO(c.program.Chooser().ShowAndHideForms(c.ws))},
     {"ApplyFormLayout", 0, DO(ApplyFormLayout(c.ws))},
     {"PlaceWorkspaceControls", 0, DO(PlaceWorkspaceControls(c.ws))},
     {"AttachToolTips", 1, DO(c.program.AttachToolTips(c.Int16(0), c.ws))},
+    {"PopulateCombResultsText", 0, DO(c.program.Combined().PopulateCombResultsText())},
+    {"GetIndividualSinValues", 3,
+     DO(c.program.Combined().GetIndividualSinValues(c.ws, c.Int16(0), c.Int16(1), c.Int16(2)))},
+    {"PopulateTotals", 0, DO(c.program.Combined().PopulateTotals())},
+    {"EnableToolTips", 0, DO(c.program.GetBalloons().EnableToolTips())},
+    {"DisableToolTips", 0, DO(c.program.GetBalloons().DisableToolTips())},
+    {"ShowHelpFile", 0, DO(c.program.Info().ShowHelpFile())},
+    {"ShowInfoFile", 0, DO(c.program.Info().ShowInfoFile())},
+    {"RevealDeveloper", 0, DO(RevealDeveloper(c.ws))},
+    {"RestoreProgram", 0, DO(RestoreProgram(c.ws))},
+    {"SetSummaryVisibility", 2, DO(SetSummaryVisibility(c.ws, c.Flag(0), c.Int16(1)))},
+    {"WriteRevealText", 0, DO(WriteRevealText(c.ws))},
+    {"TypeLine", 5, DO(TypeLine(c.ws, c.Text(0), c.Int16(1), c.Int16(2), c.Int16(3), c.Int16(4)))},
     {"UnloadAllWindows", 0, DO(c.program.UnloadAllWindows())},
 };
 
@@ -270,7 +336,7 @@ OperationValue CallOperation(Program& program, SinWorkspace& workspace, std::str
   if (!found) throw BadCall("no operation: " + std::string(name));
   if (arguments.Count() != found->operation->argumentCount)
     throw BadCall("wrong number of arguments for " + std::string(name));
-  return found->operation->action({program, workspace, found->side, arguments});
+  return found->operation->action(Call{program, workspace, found->side, arguments});
 }
 
 }  // namespace vicetoll

@@ -1,7 +1,9 @@
 #include "shell/program.h"
 
 #include "calendar/fault.h"
+#include "shell/identification.h"
 #include "shell/layout.h"
+#include "shell/smoking_extras.h"
 #include "workspace/loading.h"
 #include "workspace/workspace_design.h"
 
@@ -53,7 +55,16 @@ void Program::Connect(SinWorkspace& ws) {
   ws.onResize = [&ws] { PlaceWorkspaceControls(ws); };
   ws.cmdSwitchSins->onClick = [this, &ws] { Chooser().Open(ws); };
   ws.cmdExit->onClick = [this] { UnloadAllWindows(); };
+  ws.Get<Button>("cmdCombinedResults").onClick = [this] {
+    Combined().Show();
+    Combined().PopulateCombResultsText();
+  };
+  ws.Get<Button>("cmdHelp").onClick = [this] { Info().ShowHelpFile(); };
+  ws.Get<Button>("cmdFaq").onClick = [this] { Info().ShowInfoFile(); };
+  ConnectReports(ws, *this, *this);
   balloons_.ConnectOptions(ws);
+  ConnectIdentification(ws);
+  if (ws.IsSmoking()) ConnectSmokingExtras(ws);
 }
 
 void Program::ApplyFormLayout(SinWorkspace& workspace) { vicetoll::ApplyFormLayout(workspace); }
@@ -66,15 +77,35 @@ SinChooser& Program::Chooser() {
   return chooser_ ? *chooser_ : Created(chooser_, std::make_unique<SinChooser>(*this, *this));
 }
 
+SpdWindow& Program::Spd() { return spd_ ? *spd_ : Created(spd_, std::make_unique<SpdWindow>(*this)); }
+
+DocWindow& Program::Doc() { return doc_ ? *doc_ : Created(doc_, std::make_unique<DocWindow>(*this)); }
+
+CombinedResults& Program::Combined() {
+  return combined_ ? *combined_ : Created(combined_, std::make_unique<CombinedResults>(*this));
+}
+
+InfoWindow& Program::Info() {
+  return info_ ? *info_ : Created(info_, std::make_unique<InfoWindow>(session_.platform));
+}
+
 Form* Program::Window(std::string_view name) {
   if (const int position = SinPosition(name); position != -1) return &At(position);
   if (name == "frmSwitchSins") return &Chooser();
+  if (name == "frmAdvResultsDoc") return &Doc();
+  if (name == "frmAdvResultsSpd") return &Spd();
+  if (name == "frmCombRes") return &Combined();
+  if (name == "frmInfo") return &Info();
   return nullptr;
 }
 
 void Program::UnloadAllWindows() {
   for (int i = 0; i < kSinCount; ++i) At(i).Hide();
   Chooser().Hide();
+  Doc().Hide();
+  Spd().Hide();
+  Combined().Hide();
+  Info().Hide();
   ended_ = true;
 }
 

@@ -10,13 +10,16 @@
 #include <string_view>
 #include <vector>
 
+#include "results/report_windows.h"
 #include "shell/balloons.h"
+#include "shell/info_window.h"
 #include "sins/chooser.h"
+#include "sins/combined_results.h"
 #include "workspace/workspaces.h"
 
 namespace vicetoll {
 
-class Program : public Workspaces, public SinSwitching {
+class Program final : public Workspaces, public SinSwitching, public ReportWindows {
  public:
   // Starts the program: the Smoking workspace is loaded and shown.
   explicit Program(Platform& platform);
@@ -35,7 +38,11 @@ class Program : public Workspaces, public SinSwitching {
   std::function<void(Form&)> onWindowCreated;
 
   SinChooser& Chooser();
-  const Balloons& GetBalloons() const { return balloons_; }
+  CombinedResults& Combined();
+  InfoWindow& Info();
+  SpdWindow& Spd() override;
+  DocWindow& Doc() override;
+  Balloons& GetBalloons() { return balloons_; }
 
   // Ends the run: every window is closed, nothing is asked, nothing saved.
   void UnloadAllWindows();
@@ -55,6 +62,10 @@ class Program : public Workspaces, public SinSwitching {
   std::vector<Form*> windows_;
   std::array<std::unique_ptr<SinWorkspace>, kSinCount> workspaces_;
   std::unique_ptr<SinChooser> chooser_;
+  std::unique_ptr<DocWindow> doc_;
+  std::unique_ptr<SpdWindow> spd_;
+  std::unique_ptr<CombinedResults> combined_;
+  std::unique_ptr<InfoWindow> info_;
   bool ended_ = false;
 };
 
