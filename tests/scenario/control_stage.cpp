@@ -1,3 +1,5 @@
+#include "controls/document_text.h"
+#include "controls/grid.h"
 #include "scenario/script.h"
 #include "scenario/stage.h"
 
@@ -19,11 +21,20 @@ UserOutcome ControlStage::SelectTab(TabControl& tabs, int tab) { return tabs.Use
 
 UserOutcome ControlStage::Type(Control& control, std::string_view text) {
   if (auto* list = dynamic_cast<DropDownList*>(&control)) return list->UserTypes(text);
+  if (auto* document = dynamic_cast<DocumentText*>(&control)) return document->UserTypes(text);
   throw BadLine(control.FullName() + " takes no typing");
 }
 
 UserOutcome ControlStage::Resize(Form& form, int width, int height) {
   return form.UserResizes(width, height);
+}
+
+UserOutcome ControlStage::SelectText(DocumentText& document, int start, int length) {
+  return document.UserSelects(start, length);
+}
+
+UserOutcome ControlStage::SelectCells(Grid& grid, const CellSpan& cells) {
+  return grid.UserSelects(cells.row, cells.col, cells.rowSel, cells.colSel);
 }
 
 ControlState ControlStage::Read(Control& control) {
@@ -42,6 +53,11 @@ ControlState ControlStage::Read(Control& control) {
     state.text = box->Text();
   } else if (auto* tabs = dynamic_cast<TabControl*>(&control)) {
     state.tab = tabs->Tab();
+  } else if (auto* grid = dynamic_cast<Grid*>(&control)) {
+    state.rows = grid->RowCount();
+  } else if (auto* document = dynamic_cast<DocumentText*>(&control)) {
+    state.text = document->Text();
+    state.length = document->Length();
   }
   return state;
 }
@@ -51,6 +67,17 @@ FormState ControlStage::Read(Form& form) {
 }
 
 std::vector<std::string> ControlStage::Entries(DropDownList& list) { return list.Entries(); }
+
+std::vector<std::vector<std::string>> ControlStage::Rows(Grid& grid) {
+  std::vector<std::vector<std::string>> rows(grid.RowCount());
+  for (int r = 0; r < grid.RowCount(); ++r)
+    for (int c = 0; c < Grid::kColumns; ++c) rows[r].emplace_back(grid.Cell(r, c));
+  return rows;
+}
+
+CellSpan ControlStage::Selection(Grid& grid) {
+  return {grid.Row(), grid.Col(), grid.RowSel(), grid.ColSel()};
+}
 
 std::string ControlStage::Text(Control& control) { return Read(control).text; }
 

@@ -96,7 +96,8 @@ PlayResult Player::Play(std::istream& lines) {
 void Player::Start() {
   program_ = std::make_unique<Program>(platform_);
   stage_ = makeStage_(*program_);
-  window_ = &program_->At(0);
+  workspace_ = &program_->At(0);
+  window_ = workspace_;
 }
 
 void Player::Run(Line& line) {
@@ -111,6 +112,7 @@ bool Player::RunUserLine(Line& line) {
     Form* window = program_->Window(name);
     if (window == nullptr) throw BadLine("no window " + name);
     window_ = window;
+    if (auto* workspace = dynamic_cast<SinWorkspace*>(window)) workspace_ = workspace;
   } else if (command == "focus") {
     Control& control = Find(line.TakeBare());
     Report(stage_->Focus(control), control.FullName());
@@ -127,6 +129,8 @@ bool Player::RunUserLine(Line& line) {
   } else if (command == "type") {
     Control& control = Find(line.TakeBare());
     Report(stage_->Type(control, line.TakeQuoted().text), control.FullName());
+  } else if (command == "select") {
+    Select(line);
   } else if (command == "resize") {
     Resize(line);
   } else if (command == "answer") {
@@ -159,6 +163,10 @@ bool Player::RunQuestion(Line& line) {
     CallOperationLine(line);
   } else if (command == "text") {
     ShowText(Find(line.TakeBare()));
+  } else if (command == "rows") {
+    ShowRows();
+  } else if (command == "selection") {
+    ShowSelection();
   } else if (command == "file") {
     ShowFile(line.TakeQuoted().utf8);
   } else if (command == "clipboard") {
@@ -202,6 +210,19 @@ void Player::Resize(Line& line) {
   Report(stage_->Resize(*window_, width, height), "window");
 }
 
+void Player::Select(Line& line) {
+  Control& control = Find(line.TakeBare());
+  if (auto* document = dynamic_cast<DocumentText*>(&control)) {
+    const int start = line.TakeInt();
+    return Report(stage_->SelectText(*document, start, line.TakeInt()), control.FullName());
+  }
+  auto* grid = dynamic_cast<Grid*>(&control);
+  if (grid == nullptr) throw BadLine(control.FullName() + " has no selection");
+  CellSpan cells;
+  for (int* number : {&cells.row, &cells.col, &cells.rowSel, &cells.colSel}) *number = line.TakeInt();
+  Report(stage_->SelectCells(*grid, cells), control.FullName());
+}
+
 void Player::Answer(Line& line) {
   const std::string what = line.TakeBare();
   QueuedAnswers& answers = platform_.answers;
@@ -235,11 +256,7 @@ T& Player::FindOf(const std::string& name, const char* kind) {
   return *control;
 }
 
-SinWorkspace& Player::Workspace() {
-  auto* workspace = dynamic_cast<SinWorkspace*>(window_);
-  if (workspace == nullptr) throw BadLine("the addressed window is no workspace");
-  return *workspace;
-}
+SinWorkspace& Player::Workspace() { return *workspace_; }
 
 std::string Player::StateLine(Control& control) {
   const ControlState state = stage_->Read(control);
@@ -430,10 +447,32 @@ void Player::ShowPlace(const std::string& name) {
 
 void Player::ShowCanvas() {
   std::vector<std::string> lines;
-  for (const std::string& line : window_->Canvas())
-    if (!line.empty()) lines.push_back(line);
+  for (const CanvasLine& line : window_->Canvas())
+    if (!line.text.empty()) lines.push_back(line.text);
   print_("canvas lines=" + std::to_string(lines.size()));
   for (const std::string& line : lines) print_("  " + Quoted(line));
+}
+
+void Player::ShowRows() {
+  const auto rows = stage_->Rows(program_->Spd().Rows());
+  print_("rows " + std::to_string(rows.size()));
+  for (const std::vector<std::string>& row : rows) {
+    std::string line = " ";
+    for (const std::string& cell : row) line += " " + Quoted(cell);
+    print_(line);
+  }
+}
+
+void Player::ShowSelection() {
+  if (window_->Name() == "frmAdvResultsDoc") {
+    DocumentText& document = program_->Doc().Text();
+    return print_("selection " + std::to_string(document.SelStart()) + " " +
+                  std::to_string(document.SelLength()) + " " + Quoted(document.SelText()));
+  }
+  Grid& grid = program_->Spd().Rows();
+  const CellSpan cells = stage_->Selection(grid);
+  print_("selection " + std::to_string(cells.row) + " " + std::to_string(cells.col) + " " +
+         std::to_string(cells.rowSel) + " " + std::to_string(cells.colSel) + " " + Quoted(grid.Clip()));
 }
 
 void Player::ShowText(Control& control) {

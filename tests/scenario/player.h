@@ -54,6 +54,8 @@ class Player {
   void ShowPlace(const std::string& name);
   void ShowCanvas();
   void ShowText(Control& control);
+  void ShowRows();
+  void ShowSelection();
 
   Control& Find(const std::string& name);
   template <class T>
@@ -66,6 +68,7 @@ class Player {
   std::unique_ptr<Program> program_;
   std::unique_ptr<Stage> stage_;
   Form* window_ = nullptr;
+  SinWorkspace* workspace_ = nullptr;  // addressed last
 };
 
 }  // namespace vicetoll

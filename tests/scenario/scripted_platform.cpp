@@ -1,5 +1,7 @@
 #include "scenario/scripted_platform.h"
 
+#include <filesystem>
+
 #include "scenario/script.h"
 
 namespace vicetoll {
@@ -14,6 +16,11 @@ Answer ScriptedPlatform::ShowMessage(std::string_view title, std::string_view te
 void ScriptedPlatform::Print(std::string_view text, bool) {
   QueuedAnswers::Take(answers.prints, Answer::Ok);
   print_("printed " + Quoted(text));
+}
+
+// The driver is built into the folder of the program.
+std::string ScriptedPlatform::ProgramFolder() {
+  return std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
 }
 
 void ScriptedPlatform::Browse(std::string_view url) { print_("browse " + std::string(url)); }

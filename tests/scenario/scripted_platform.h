@@ -44,6 +44,7 @@ class ScriptedPlatform : public Platform {
   void Print(std::string_view text, bool selection) override;
   void SetClipboard(std::string_view text) override { clipboard_ = text; }
   std::string Clipboard() override { return clipboard_; }
+  std::string ProgramFolder() override;
   void Browse(std::string_view url) override;
   void Pause(int) override {}
 

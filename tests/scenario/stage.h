@@ -8,8 +8,10 @@
 #include <string_view>
 #include <vector>
 
+#include "controls/document_text.h"
 #include "controls/drop_down_list.h"
 #include "controls/form.h"
+#include "controls/grid.h"
 
 namespace vicetoll {
 
@@ -34,6 +36,11 @@ struct FormState {
   int width = 0, height = 0;  // twips
 };
 
+// Selected cells, by the numbers of the grid.
+struct CellSpan {
+  int row = 0, col = 0, rowSel = 0, colSel = 0;
+};
+
 class Stage {
  public:
   virtual ~Stage() = default;
@@ -45,12 +52,16 @@ class Stage {
   virtual UserOutcome SelectTab(TabControl& tabs, int tab) = 0;
   virtual UserOutcome Type(Control& control, std::string_view text) = 0;
   virtual UserOutcome Resize(Form& form, int width, int height) = 0;
+  virtual UserOutcome SelectText(DocumentText& document, int start, int length) = 0;
+  virtual UserOutcome SelectCells(Grid& grid, const CellSpan& cells) = 0;
 
   // Eyes.
   virtual ControlState Read(Control& control) = 0;
   virtual FormState Read(Form& form) = 0;
   virtual std::vector<std::string> Entries(DropDownList& list) = 0;
   virtual std::string Text(Control& control) = 0;  // of a text box, a list or a document text
+  virtual std::vector<std::vector<std::string>> Rows(Grid& grid) = 0;  // heading first, eleven cells each
+  virtual CellSpan Selection(Grid& grid) = 0;
 };
 
 // The bare controls.
@@ -62,11 +73,15 @@ class ControlStage : public Stage {
   UserOutcome SelectTab(TabControl& tabs, int tab) override;
   UserOutcome Type(Control& control, std::string_view text) override;
   UserOutcome Resize(Form& form, int width, int height) override;
+  UserOutcome SelectText(DocumentText& document, int start, int length) override;
+  UserOutcome SelectCells(Grid& grid, const CellSpan& cells) override;
 
   ControlState Read(Control& control) override;
   FormState Read(Form& form) override;
   std::vector<std::string> Entries(DropDownList& list) override;
   std::string Text(Control& control) override;
+  std::vector<std::vector<std::string>> Rows(Grid& grid) override;
+  CellSpan Selection(Grid& grid) override;
 };
 
 }  // namespace vicetoll
