@@ -28,9 +28,8 @@ struct Border {
 // Finds the border and moves the totals from what the report reckoned to what the result boxes show.
 Border CrossBorder(SinWorkspace& ws, const Sides& sides, std::int16_t past, std::int16_t future) {
   const SideControls& boxes = ws.Of(Side::Past);
-  Border border{static_cast<std::int16_t>(sides.past.last),
-                      ws.Store().At(sides.past.last, past).StopLabel,
-                      ws.Store().At(sides.future.first, future).StartLabel};
+  Border border{static_cast<std::int16_t>(sides.past.last), ws.Store().At(sides.past.last, past).StopLabel,
+                ws.Store().At(sides.future.first, future).StartLabel};
   ws.CurrentCumulativeCostWithInterest =
       MoneyToNumber(boxes.txtCumulativeResultsPeriod(border.period).Text());
   ws.State(Side::Past).BeginManualDate = border.from;

@@ -1,0 +1,168 @@
+// The two controls that only the report windows have.
+#include <gtest/gtest.h>
+
+#include "controls/document_text.h"
+#include "controls/form.h"
+#include "controls/grid.h"
+
+namespace vicetoll {
+namespace {
+
+class CountingListener : public FormListener {
+ public:
+  void ControlChanged(Control&) override { ++changes; }
+  void FormChanged(Form&) override {}
+  int changes = 0;
+};
+
+class GridTest : public ::testing::Test {
+ protected:
+  Form form{"frmTest", ""};
+  Grid& grid = form.Add<Grid>({"fgd"});
+
+  void Fill() {
+    grid.SetHeading("<A|^ B|C");
+    grid.Append({"1 \ta\tb", "2 \tc", "10 \td\te\tf"});
+  }
+};
+
+TEST_F(GridTest, HasNoRowsBeforeTheFirstHeading) {
+  EXPECT_EQ(grid.RowCount(), 0);
+  EXPECT_EQ(grid.Cell(0, 0), "");
+  EXPECT_EQ(grid.Clip(), "");
+}
+
+TEST_F(GridTest, HeadingIsRowZero) {
+  grid.Append({"1\tx"});
+  grid.SetHeading("<A|^ B|C");
+  EXPECT_EQ(grid.RowCount(), 2);
+  EXPECT_EQ(grid.Cell(0, 0), "A");
+  EXPECT_EQ(grid.Cell(0, 1), " B");
+  EXPECT_EQ(grid.Cell(0, 2), "C");
+  EXPECT_EQ(grid.Cell(0, 3), "");
+  EXPECT_EQ(grid.Cell(1, 1), "x");
+  EXPECT_EQ(grid.ColumnAlignment(0), Grid::Alignment::Left);
+  EXPECT_EQ(grid.ColumnAlignment(1), Grid::Alignment::Centre);
+  EXPECT_EQ(grid.ColumnAlignment(2), Grid::Alignment::Left);
+  grid.SetHeading("D");
+  EXPECT_EQ(grid.RowCount(), 2);
+  EXPECT_EQ(grid.Cell(0, 0), "D");
+  EXPECT_EQ(grid.Cell(0, 1), "");
+}
+
+TEST_F(GridTest, CellsBeyondARowAreEmpty) {
+  Fill();
+  EXPECT_EQ(grid.Cell(2, 0), "2 ");
+  EXPECT_EQ(grid.Cell(2, 1), "c");
+  EXPECT_EQ(grid.Cell(2, 2), "");
+  EXPECT_EQ(grid.Cell(3, 3), "f");
+  EXPECT_EQ(grid.Cell(4, 0), "");
+  EXPECT_EQ(grid.Cell(-1, 0), "");
+  EXPECT_EQ(grid.Cell(1, Grid::kColumns), "");
+}
+
+TEST_F(GridTest, SortIsByNumberAndKeepsEquals) {
+  grid.SetHeading("Z");
+  grid.Append({"10 \ta", "9 \tb", "-1 \tc", "9 \td"});
+  grid.SortByFirstCell();
+  EXPECT_EQ(grid.Cell(0, 0), "Z");
+  EXPECT_EQ(grid.RowText(1), "-1 \tc");
+  EXPECT_EQ(grid.RowText(2), "9 \tb");
+  EXPECT_EQ(grid.RowText(3), "9 \td");
+  EXPECT_EQ(grid.RowText(4), "10 \ta");
+}
+
+TEST_F(GridTest, ClipJoinsCellsByTabAndRowsByCarriageReturn) {
+  Fill();
+  grid.Select(1, 0, 2, 2);
+  EXPECT_EQ(grid.Clip(), "1 \ta\tb\r2 \tc\t");
+  grid.Select(2, 2, 1, 1);  // dragged upwards
+  EXPECT_EQ(grid.Clip(), "a\tb\rc\t");
+  grid.Select(3, 2, 3, 4);
+  EXPECT_EQ(grid.Clip(), "e\tf\t");
+  grid.Select(0, 0, 1, 0);
+  EXPECT_EQ(grid.Clip(), "A\r1 ");
+}
+
+TEST_F(GridTest, ClipOfAHeadingAloneIsEmpty) {
+  grid.SetHeading("A");
+  grid.Select(0, 0, 0, 0);
+  EXPECT_EQ(grid.Clip(), "");
+}
+
+TEST_F(GridTest, ClearTakesTheSelectionToo) {
+  Fill();
+  grid.Select(3, 2, 2, 1);
+  grid.Clear();
+  EXPECT_EQ(grid.RowCount(), 0);
+  EXPECT_EQ(grid.Row() + grid.Col() + grid.RowSel() + grid.ColSel(), 0);
+}
+
+TEST_F(GridTest, UserSelectsCellsThatAreThere) {
+  Fill();
+  EXPECT_EQ(grid.UserSelects(1, 0, 2, 1), UserOutcome::Refused);  // the window is hidden
+  form.Show();
+  EXPECT_EQ(grid.UserSelects(1, 0, 4, 1), UserOutcome::NoEntry);
+  EXPECT_EQ(grid.UserSelects(1, 0, 2, 11), UserOutcome::NoEntry);
+  EXPECT_EQ(grid.Row(), 0);
+  EXPECT_EQ(grid.UserSelects(3, 10, 0, 1), UserOutcome::Done);
+  EXPECT_EQ(grid.Row(), 3);
+  EXPECT_EQ(grid.Col(), 10);
+  EXPECT_EQ(grid.RowSel(), 0);
+  EXPECT_EQ(grid.ColSel(), 1);
+}
+
+TEST_F(GridTest, TellsOfManyRowsOnce) {
+  CountingListener listener;
+  form.SetListener(&listener);
+  grid.Append(std::vector<std::string>(100, "1\tx"));
+  EXPECT_EQ(listener.changes, 1);
+}
+
+class DocumentTextTest : public ::testing::Test {
+ protected:
+  Form form{"frmTest", ""};
+  DocumentText& text = form.Add<DocumentText>({"rtf"});
+};
+
+TEST_F(DocumentTextTest, NewTextSelectsNothing) {
+  text.SetText("one\r\ntwo");
+  text.Select(2, 5);
+  EXPECT_EQ(text.SelText(), "e\r\ntw");  // a line end is two characters
+  text.SetText("three");
+  EXPECT_EQ(text.SelStart(), 0);
+  EXPECT_EQ(text.SelLength(), 0);
+}
+
+TEST_F(DocumentTextTest, SelectionIsCutAtTheEnds) {
+  text.SetText("abc");
+  form.Show();
+  EXPECT_EQ(text.UserSelects(1, 99), UserOutcome::Done);
+  EXPECT_EQ(text.SelText(), "bc");
+  EXPECT_EQ(text.UserSelects(99, 1), UserOutcome::Done);
+  EXPECT_EQ(text.SelStart(), 3);
+  EXPECT_EQ(text.SelLength(), 0);
+  EXPECT_EQ(text.UserSelects(-5, 2), UserOutcome::Done);
+  EXPECT_EQ(text.SelText(), "ab");
+}
+
+TEST_F(DocumentTextTest, TypedLineEndsBecomeCrLf) {
+  EXPECT_EQ(text.UserTypes("x"), UserOutcome::Refused);
+  form.Show();
+  EXPECT_EQ(text.UserTypes("a\nb\rc\r\nd\n\n"), UserOutcome::Done);
+  EXPECT_EQ(text.Text(), "a\r\nb\r\nc\r\nd\r\n\r\n");
+}
+
+TEST_F(DocumentTextTest, ReplacedSelectionLeavesThePositionBehindIt) {
+  text.SetText("abcdef");
+  text.Select(1, 2);
+  text.ReplaceSelection("X\nY");
+  EXPECT_EQ(text.Text(), "aX\r\nYdef");
+  EXPECT_EQ(text.SelStart(), 5);
+  EXPECT_EQ(text.SelLength(), 0);
+  text.ReplaceSelection("-");
+  EXPECT_EQ(text.Text(), "aX\r\nY-def");
+}
+
+}  // namespace
+}  // namespace vicetoll
