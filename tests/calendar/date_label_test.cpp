@@ -1,0 +1,117 @@
+#include "calendar/date_label.h"
+
+#include <gtest/gtest.h>
+
+#include "fault_of.h"
+
+namespace vicetoll {
+namespace {
+
+constexpr const char* kMonthNames[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                       "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+
+TEST(DateLabel, MonthIsReadFromTheFirstThreeCharactersInAnyCase) {
+  EXPECT_EQ(MonthNumberFromLabel("january 1999"), 1);
+  EXPECT_EQ(MonthNumberFromLabel("DECEMBER"), 12);
+  EXPECT_EQ(MonthNumberFromLabel("sEp"), 9);
+}
+
+TEST(DateLabel, WhatNamesNoMonthIsMonthZero) {
+  for (const char* label : {"xxx - 1999", "", "Ja", " Jan - 1999", "1999"})
+    EXPECT_EQ(MonthNumberFromLabel(label), 0) << label;
+}
+
+TEST(DateLabel, EveryMonthIsMadeAndReadBack) {
+  for (std::int16_t month = 1; month <= 12; ++month) {
+    const std::string label = MakeDateLabel(month, 1915);
+    EXPECT_EQ(label, std::string(kMonthNames[month - 1]) + " - 1915");
+    EXPECT_EQ(MonthNumberFromLabel(label), month);
+    EXPECT_EQ(YearFromLabel(label), 1915);
+  }
+}
+
+TEST(DateLabel, MonthsBesideTheYearKeepTheYear) {
+  EXPECT_EQ(MakeDateLabel(-1, 2000), "Nov - 2000");
+  EXPECT_EQ(MakeDateLabel(0, 2000), "Dec - 2000");
+  EXPECT_EQ(MakeDateLabel(13, 2000), "Jan - 2000");
+}
+
+TEST(DateLabel, OtherMonthsGiveNoLabelAtAll) {
+  for (std::int16_t month : {-32768, -2, 14, 32767}) EXPECT_EQ(MakeDateLabel(month, 2000), "") << month;
+}
+
+TEST(DateLabel, YearIsTheLastFourCharacters) {
+  EXPECT_EQ(YearFromLabel("Jun - 1915"), 1915);
+  EXPECT_EQ(YearFromLabel("Jun - 12026"), 2026);
+  EXPECT_EQ(YearFromLabel("199"), 199);
+}
+
+TEST(DateLabel, AYearThatIsNoNumberIsAFault) {
+  for (const char* label : {"Jan - 20x0", "January", ""})
+    EXPECT_EQ(FaultOf([&] { YearFromLabel(label); }), FaultKind::Conversion) << label;
+}
+
+TEST(DateLabel, MonthsAreCountedWithBothEnds) {
+  EXPECT_EQ(MonthsInclusive("Jan - 2000", "Jan - 2000"), 1);
+  EXPECT_EQ(MonthsInclusive("Dec - 1999", "Jan - 2000"), 2);
+  EXPECT_EQ(MonthsInclusive("Jan - 2000", "Dec - 2009"), 120);
+  EXPECT_EQ(MonthsInclusive("Feb - 2000", "Jan - 2000"), 0);
+  EXPECT_EQ(MonthsInclusive("Jan - 2000", "Jan - 1999"), -11);
+}
+
+TEST(DateLabel, NoMonthLiesBetweenAdjacentPeriods) {
+  EXPECT_EQ(MonthsInclusive("Dec - 1999", "Jan - 2000") - 2, 0);
+  EXPECT_EQ(MonthsInclusive("Mar - 2000", "Jun - 2000") - 2, 2);  // April and May
+}
+
+TEST(DateLabel, DistanceCountsNoEnd) {
+  EXPECT_EQ(MonthsBetween("Jan - 2000", "Jan - 2000"), 0);
+  EXPECT_EQ(MonthsBetween("Nov - 1999", "Feb - 2000"), 3);
+  EXPECT_EQ(MonthsBetween("Feb - 2000", "Nov - 1999"), -3);
+}
+
+// A count of months is a 16-bit number: 2730 years are 32760 months, so July is the last month that fits.
+TEST(DateLabel, ACountThatLeavesSixteenBitsIsAFault) {
+  EXPECT_EQ(MonthsInclusive("Jan - 0000", "Jul - 2730"), 32767);
+  EXPECT_EQ(FaultOf([] { MonthsInclusive("Jan - 0000", "Aug - 2730"); }), FaultKind::Overflow);
+  EXPECT_EQ(FaultOf([] { MonthsInclusive("Jan - 0001", "Jan - 9999"); }), FaultKind::Overflow);
+}
+
+TEST(DateLabel, TheMonthAfterDecemberIsJanuaryOfTheNextYear) {
+  EXPECT_EQ(MonthAfter("Dec - 1999"), "Jan - 2000");
+  EXPECT_EQ(MonthAfter("Nov - 1999"), "Dec - 1999");
+  EXPECT_EQ(MonthAfter("Jan - 1999"), "Feb - 1999");
+}
+
+double DayCount(std::string index, const char* start) { return DayCountOfMonthIndex(index, start); }
+
+TEST(DayCount, IsThatOfTheCalendarMonthInAYearOf365Days) {
+  constexpr double kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  for (std::int16_t month = 1; month <= 12; ++month) {
+    EXPECT_EQ(DayCount("1", MakeDateLabel(month, 2000).c_str()), kDays[month - 1]) << month;
+    EXPECT_EQ(DayCount(std::to_string(month), "Jan - 2000"), kDays[month - 1]) << month;
+  }
+}
+
+TEST(DayCount, LaterYearsRepeatTheFirstButForDecember) {
+  EXPECT_EQ(DayCount("12", "Jan - 2000"), 31);
+  EXPECT_EQ(DayCount("13", "Jan - 2000"), 31);  // the second January
+  EXPECT_EQ(DayCount("14", "Jan - 2000"), 28);
+  EXPECT_EQ(DayCount("24", "Jan - 2000"), 365.0 / 12);
+  EXPECT_EQ(DayCount("36", "Jan - 2000"), 365.0 / 12);
+  EXPECT_EQ(DayCount("10", "Mar - 2000"), 31);          // the first December
+  EXPECT_EQ(DayCount("22", "Mar - 2000"), 365.0 / 12);  // the second
+}
+
+TEST(DayCount, WritesTheCalendarMonthBack) {
+  std::string index = "3";
+  DayCountOfMonthIndex(index, "Mar - 2000");
+  EXPECT_EQ(index, "5");
+}
+
+TEST(DayCount, AnIndexThatIsNoNumberIsAFault) {
+  EXPECT_EQ(FaultOf([] { DayCount("one", "Jan - 2000"); }), FaultKind::Conversion);
+}
+
+}  // namespace
+}  // namespace vicetoll

@@ -1,0 +1,336 @@
+#include "workspace/loading.h"
+
+#include "program_fixture.h"
+#include "workspace/parameters.h"
+
+namespace vicetoll {
+namespace {
+
+class Loading : public EverySinAndSide {
+ protected:
+  std::vector<DropDownList*> ValueLists() const {
+    std::vector<DropDownList*> lists;
+    for (DropDownList* list : {c.quantity, c.comPercentIncrease, c.comInterestRate1, c.comInflationRate1,
+                               c.comInitialCost, c.comFinalCost, c.comSubCost})
+      if (list != nullptr) lists.push_back(list);
+    if (ws.IsSmoking()) lists.push_back(c.comCigsPerDay);
+    return lists;
+  }
+};
+INSTANTIATE_TEST_SUITE_P(, Loading, AllSinsAndSides(), NameOfSinAndSide);
+
+struct Defaults {
+  const char* key;
+  const char* quantity;
+  const char* initialCost;
+  const char* secondCost;
+  const char* percent;
+};
+
+constexpr Defaults kDefaults[] = {
+    {"Smoking", "1.00", "$5.00", "$7.00", "10%"},
+    {"Drinking", "6", "$3.00", "$5.50", "10%"},
+    {"Gambling", "$20", "", "", "5%"},
+    {"Coffeeing", "3", "$3.00", "$1.10", "10%"},
+    {"Watering", "4", "$3.00", "$1.10", "10%"},
+    {"Jailing", "$2400", "", "", "5%"},
+    {"Drugging", "$20", "", "", "10%"},
+    {"Slothing", "$600", "", "", "5%"},
+    {"Soliciting", "10", "$40.00", "$50.00", "10%"},
+    {"Tobaccoing", "$20", "", "", "5%"},
+    {"Interring", "$600", "", "", "5%"},
+    {"Shopping", "$20", "", "", "5%"},
+};
+
+TEST_P(Loading, ShowsTheDefaults) {
+  const Defaults& expected = kDefaults[position];
+  ASSERT_EQ(sin.key, expected.key);
+  EXPECT_EQ(c.quantity->Text(), expected.quantity);
+  EXPECT_EQ(c.comInitialCost == nullptr ? "" : c.comInitialCost->Text(), expected.initialCost);
+  DropDownList* second = c.comFinalCost != nullptr ? c.comFinalCost : c.comSubCost;
+  EXPECT_EQ(second == nullptr ? "" : second->Text(), expected.secondCost);
+  EXPECT_EQ(c.comPercentIncrease->Text(), expected.percent);
+  EXPECT_EQ(c.comInterestRate1->Text(), "5%");
+  EXPECT_EQ(c.comInflationRate1->Text(), "3%");
+  if (ws.IsSmoking()) {
+    EXPECT_EQ(c.comCigsPerDay->Text(), "20");
+  }
+}
+
+TEST_P(Loading, StoresTheDefaultsOfThePeriods) {
+  const Defaults& expected = kDefaults[position];
+  for (int p = 1; p <= 4; ++p) {
+    const PeriodRecord& record = Record(p);
+    EXPECT_TRUE(record.PeriodFresh && record.PeriodEnabled);
+    EXPECT_FALSE(record.PeriodSet);
+    EXPECT_EQ(record.PeriodSelected, p == 1);
+    EXPECT_EQ(record.QuantityListIndex, c.quantity->Position());
+    EXPECT_EQ(record.InitialCostText, expected.initialCost);
+    if (HasCostModes(sin.costClass)) {
+      EXPECT_EQ(record.FinalCostText, expected.secondCost);
+    }
+    if (c.comSubCost != nullptr) {
+      EXPECT_EQ(record.ReasonableCostText, expected.secondCost);
+      EXPECT_EQ(record.FinalCostText, "N/A");
+    }
+    EXPECT_TRUE(record.CostModeFlag);
+    // Period 1 is stored from the screen, and four sins start with Per Month.
+    EXPECT_EQ(record.QuantityUnitFlag, p > 1 || sin.startUnit == Unit::PerDay);
+    EXPECT_EQ(record.PercentIncreaseText, expected.percent);
+    EXPECT_EQ(record.InterestRateText, "5%");
+    EXPECT_EQ(record.InflationRateText, "3%");
+  }
+}
+
+TEST_P(Loading, OpensTheFirstPeriodAndNoResults) {
+  EXPECT_EQ(ws.State(side).CurrentPeriod, 1);
+  EXPECT_EQ(ws.State(side).PreviousPeriod, 1);
+  EXPECT_TRUE(ws.SSTab_PastFutureSwitch->Enabled());
+  EXPECT_TRUE(c.cmdSetPeriodParams->Enabled());
+  EXPECT_TRUE(c.quantity->Enabled() && c.quantity->Visible());
+  EXPECT_TRUE(c.comPercentIncrease->Enabled() && c.comPercentIncrease->Visible());
+  if (c.comCigsPerDay != nullptr) {
+    EXPECT_FALSE(c.comCigsPerDay->Enabled() || c.comCigsPerDay->Visible());
+  }
+  if (c.comInitialCost != nullptr) {
+    EXPECT_TRUE(c.comInitialCost->Enabled() && c.comInitialCost->Visible());
+  }
+  if (c.comFinalCost != nullptr) {
+    EXPECT_FALSE(c.comFinalCost->Enabled() || c.comFinalCost->Visible());
+  }
+  for (int p = 1; p <= 4; ++p) {
+    EXPECT_EQ(c.optTimePeriod(p).Enabled(), p == 1);
+    EXPECT_EQ(c.rbnEnabledPeriod(p).Enabled(), p == 1);
+    EXPECT_FALSE(c.txtResultsPeriod(p).Enabled() || c.txtResultsPeriod(p).Visible());
+    EXPECT_FALSE(c.txtCumulativeResultsPeriod(p).Enabled() || c.txtCumulativeResultsPeriod(p).Visible());
+  }
+  EXPECT_FALSE(c.txtResultsTotal->Enabled() || c.txtResultsTotal->Visible());
+  for (const Button* button :
+       {c.cmdAdvResultsDoc, c.cmdAdvResultsSpd, c.cmdAdvResultsDocSummary, c.cmdAdvResultsSpdSummary})
+    EXPECT_FALSE(button->Enabled());
+}
+
+// The rest of the captions follows the period; the frame of the daily figure was titled last.
+TEST_P(Loading, TitlesTheFrames) {
+  EXPECT_EQ(c.frmSetStart->Caption(),
+            std::string(PeriodPrefix(side)) + "1" + std::string(sin.startSuffix[side]));
+  EXPECT_EQ(c.frmDaily->Caption(), "Period 1" + std::string(sin.dailySuffix[side]));
+  EXPECT_EQ(c.cmdSetPeriodParams->Caption(), "Set " + std::string(PeriodPrefix(side)) + "1 Parameters");
+}
+
+TEST_P(Loading, LabelsFollowThePeriod) {
+  for (std::int16_t period = 1; period <= 4; ++period) {
+    LabelMaker(ws, side, period);
+    const std::string start = std::string(PeriodPrefix(side)) + std::to_string(period);
+    EXPECT_EQ(c.frmSetStart->Caption(), start + std::string(sin.startSuffix[side]));
+    EXPECT_EQ(c.frmSetStop->Caption(), start + std::string(sin.stopSuffix[side]));
+    EXPECT_EQ(c.frmDaily->Caption(), start + std::string(sin.dailySuffix[side]));
+    EXPECT_EQ(c.frmCostChange->Caption(), start + std::string(sin.costChangeSuffix[side]));
+    EXPECT_EQ(c.frmRates->Caption(), start + ": Savings and Inflation Rates");
+    EXPECT_EQ(c.cmdSetPeriodParams->Caption(), "Set " + start + " Parameters");
+  }
+}
+
+TEST_P(Loading, ARepeatedLoadAppendsAllEntriesAndSelectsTheFirstCopies) {
+  std::vector<std::pair<int, std::string>> before;
+  for (const DropDownList* list : ValueLists()) before.emplace_back(list->Position(), StateOf(*list));
+  std::vector<int> counts;
+  for (const DropDownList* list : ValueLists()) counts.push_back(list->Count());
+  LoadParameters(ws, side);
+  for (std::size_t i = 0; i < before.size(); ++i) {
+    const DropDownList& list = *ValueLists()[i];
+    EXPECT_EQ(list.Count(), 2 * counts[i]) << list.FullName();
+    EXPECT_EQ(list.Position(), before[i].first) << list.FullName();
+    for (int entry = 0; entry < counts[i]; ++entry)
+      ASSERT_EQ(list.Entry(entry), list.Entry(entry + counts[i])) << list.FullName();
+  }
+}
+
+// Options stay as they are; the flat rates fill the list of the unit that is on, the others that of their
+// unit at the start.
+TEST_P(Loading, ARepeatedLoadLeavesOptionsAsTheyAre) {
+  Option* other = sin.startUnit == Unit::PerDay ? c.secondUnit : c.firstUnit;
+  other->SetValue(true);
+  c.quantity->Clear();
+  LoadParameters(ws, side);
+  EXPECT_TRUE(other->Value());
+  const Unit filled = IsFlat() && sin.startUnit == Unit::PerDay ? Unit::PerMonth
+                      : IsFlat()                                ? Unit::PerDay
+                                                                : sin.startUnit;
+  DropDownList& expected = ws.Add<DropDownList>({"expected"});
+  AppendEntries(ws, expected, UnitList(sin, filled));
+  EXPECT_EQ(c.quantity->Entries(), expected.Entries());
+}
+
+TEST_P(Loading, ALoadThrowsACommittedSideAway) {
+  run.Press(ws, side);
+  ASSERT_TRUE(Record(1).PeriodSet);
+  LoadParameters(ws, side);
+  EXPECT_FALSE(Record(1).PeriodSet);
+  EXPECT_FALSE(c.txtResultsPeriod(1).Visible());
+  EXPECT_FALSE(c.optTimePeriod(2).Enabled());
+}
+
+TEST_P(Loading, EurosStandInTheMoneyLists) {
+  RunningProgram euros;
+  ASSERT_EQ(euros.Smoking().cmdEuro->UserClicks(), UserOutcome::Done);
+  const SideControls& inEuros = euros.Enter(sin.key, side).Of(side);
+  const auto expectEuros = [](const DropDownList* dollars, const DropDownList* other) {
+    if (dollars == nullptr || !dollars->Entry(0).starts_with('$')) return;
+    ASSERT_LE(dollars->Count(), other->Count());  // the euro button has filled the Smoking lists already
+    for (int i = 0; i < dollars->Count(); ++i)
+      ASSERT_EQ(other->Entry(i), "\x80" + dollars->Entry(i).substr(1)) << other->FullName();
+    EXPECT_EQ(other->Position(), dollars->Position());
+  };
+  expectEuros(c.quantity, inEuros.quantity);
+  expectEuros(c.comInitialCost, inEuros.comInitialCost);
+  expectEuros(c.comFinalCost, inEuros.comFinalCost);
+  expectEuros(c.comSubCost, inEuros.comSubCost);
+}
+
+// ---- Smoking ----
+
+class SmokingLoading : public EverySideOf {
+ protected:
+  SmokingLoading() : EverySideOf("Smoking") {}
+};
+INSTANTIATE_TEST_SUITE_P(, SmokingLoading, testing::ValuesIn(kSides), NameOfSide);
+
+TEST_P(SmokingLoading, CostsStandAtTheirPositions) {
+  for (const DropDownList* list : {c.comInitialCost, c.comFinalCost}) {
+    ASSERT_EQ(list->Count(), 277);
+    const std::pair<int, const char*> kExpected[] = {
+        {0, "$0.10"},  {18, "$1.00"}, {19, "$1.10"},   {38, "$3.00"},   {39, "$3.25"},
+        {46, "$5.00"}, {54, "$7.00"}, {126, "$25.00"}, {127, "$25.50"}, {276, "$100.00"}};
+    for (const auto& [entry, text] : kExpected) EXPECT_EQ(list->Entry(entry), text);
+  }
+}
+
+TEST_P(SmokingLoading, QuantitiesAndRatesStandAtTheirPositions) {
+  ASSERT_EQ(c.quantity->Count(), 200);
+  EXPECT_EQ(c.quantity->Entry(0), "0.05");
+  EXPECT_EQ(c.quantity->Entry(19), "1.00");
+  EXPECT_EQ(c.quantity->Entry(199), "10.00");
+  ASSERT_EQ(c.comCigsPerDay->Count(), 300);
+  EXPECT_EQ(c.comCigsPerDay->Entry(19), "20");
+  for (const DropDownList* list : {c.comPercentIncrease, c.comInterestRate1, c.comInflationRate1}) {
+    ASSERT_EQ(list->Count(), 101);
+    for (int i = 0; i <= 100; ++i) EXPECT_EQ(list->Entry(i), std::to_string(i) + "%");
+  }
+}
+
+// ---- Dates ----
+
+constexpr const char* kMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                   "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+
+std::string Label(int month, int year) {
+  return std::string(kMonths[month - 1]) + " - " + std::to_string(year);
+}
+
+TEST(LoadingDates, ThePastEndsInThePresentMonth) {
+  for (int month = 1; month <= 12; ++month) {
+    RunningProgram run({month, 2026});
+    SinWorkspace& ws = run.Smoking();
+    const SideControls& c = ws.Of(Side::Past);
+    EXPECT_EQ(c.comStart->Text(), Label(month, 2016));
+    EXPECT_EQ(c.comStop->Text(), Label(month, 2026));
+    for (const DropDownList* list : {c.comStart, c.comStop}) {
+      EXPECT_EQ(list->Count(), 91);
+      EXPECT_EQ(list->Entry(0), Label(month, 1936));
+      EXPECT_EQ(list->Entry(90), Label(month, 2026));
+    }
+    for (int p = 2; p <= 4; ++p) {
+      const PeriodRecord& record = ws.Record(Side::Past, p);
+      EXPECT_EQ(record.StartLabel, Label(month, 2026));
+      EXPECT_EQ(record.StopLabel, Label(month, 2026));
+      EXPECT_EQ(record.StartListFirst, Label(month, 1936));
+      EXPECT_EQ(record.StopListFirst, Label(month, 1936));
+      EXPECT_EQ(record.StartListLast, Label(month, 2026));
+      EXPECT_EQ(record.StopListLast, Label(month, 2026));
+    }
+  }
+}
+
+// In December the next month is the January eleven months back.
+TEST(LoadingDates, TheFutureBeginsInTheNextMonth) {
+  for (int month = 1; month <= 12; ++month) {
+    RunningProgram run({month, 2026});
+    SinWorkspace& ws = run.Enter("Smoking", Side::Future);
+    const SideControls& c = ws.Of(Side::Future);
+    const int next = month % 12 + 1;
+    EXPECT_EQ(c.comStart->Text(), Label(next, 2026));
+    EXPECT_EQ(c.comStop->Text(), Label(next, 2036));
+    for (const DropDownList* list : {c.comStart, c.comStop}) {
+      EXPECT_EQ(list->Count(), 76);
+      EXPECT_EQ(list->Entry(0), Label(next, 2026));
+      EXPECT_EQ(list->Entry(75), Label(next, 2101));
+    }
+    for (int p = 2; p <= 4; ++p) {
+      const PeriodRecord& record = ws.Record(Side::Future, p);
+      EXPECT_EQ(record.StartLabel, Label(next, 2026));
+      EXPECT_EQ(record.StopLabel, Label(next, 2026));
+      EXPECT_EQ(record.StartListFirst, Label(next, 2026));
+      EXPECT_EQ(record.StopListLast, Label(next, 2101));
+    }
+  }
+}
+
+// The first values of the lists, before the end of a load replaces them: the past's begin in a January.
+TEST(LoadingDates, TheFirstListsAreShort) {
+  RunningProgram run;
+  SinWorkspace& ws = run.Smoking();
+  InitializeDates(ws, Side::Past, 1);
+  const SideControls& past = ws.Of(Side::Past);
+  EXPECT_EQ(past.comStart->Entry(0), "Jan - 1936");
+  EXPECT_EQ(past.comStart->Entry(past.comStart->Count() - 1), "Jun - 2016");
+  EXPECT_EQ(past.comStart->Text(), "Jun - 2016");
+  EXPECT_EQ(past.comStop->Entries(), std::vector<std::string>{"Jun - 2026"});
+  InitializeDates(ws, Side::Future, 2);
+  const SideControls& future = ws.Of(Side::Future);
+  EXPECT_EQ(future.comStart->Entries(), std::vector<std::string>{"Jul - 2026"});
+  EXPECT_EQ(future.comStop->Entry(0), "Jul - 2036");
+  EXPECT_EQ(future.comStop->Text(), "Jul - 2036");
+  EXPECT_EQ(future.comStop->Entry(future.comStop->Count() - 1), "Jul - 2116");
+}
+
+// ---- When a side is loaded ----
+
+TEST(LoadingTheFuture, WaitsForItsTab) {
+  RunningProgram run;
+  for (const char* key : {"Smoking", "Gambling"}) {
+    SinWorkspace& ws = run.Enter(key);
+    const SideControls& c = ws.Of(Side::Future);
+    EXPECT_EQ(c.quantity->Count(), 0);
+    EXPECT_EQ(c.comStart->Count(), 0);
+    EXPECT_FALSE(c.txtResultsTotal->Visible() || c.txtResultsPeriod(1).Enabled());
+    run.OpenTab(ws, kFutureTab);
+    EXPECT_GT(c.quantity->Count(), 0);
+  }
+}
+
+TEST(LoadingTheFuture, HappensAtEveryArrivalUntilItIsCommitted) {
+  RunningProgram run;
+  SinWorkspace& ws = run.Enter("Smoking", Side::Future);
+  const SideControls& c = ws.Of(Side::Future);
+  const std::vector<DropDownList*> kSeven = {c.quantity,         c.comCigsPerDay,     c.comPercentIncrease,
+                                             c.comInterestRate1, c.comInflationRate1, c.comInitialCost,
+                                             c.comFinalCost};
+  std::vector<int> counts;
+  for (const DropDownList* list : kSeven) counts.push_back(list->Count());
+  run.Pick(*c.comInitialCost, "$9.00");
+  run.OpenTab(ws, kPastTab);
+  run.OpenTab(ws, kFutureTab);
+  EXPECT_EQ(c.comInitialCost->Text(), "$5.00");
+  for (std::size_t i = 0; i < kSeven.size(); ++i) EXPECT_EQ(kSeven[i]->Count(), 2 * counts[i]);
+
+  run.Pick(*c.comInitialCost, "$9.00");
+  run.Press(ws, Side::Future);
+  run.OpenTab(ws, kTotalTab);
+  run.OpenTab(ws, kFutureTab);
+  EXPECT_EQ(c.comInitialCost->Text(), "$9.00");
+  for (std::size_t i = 0; i < kSeven.size(); ++i) EXPECT_EQ(kSeven[i]->Count(), 2 * counts[i]);
+}
+
+}  // namespace
+}  // namespace vicetoll
