@@ -6,6 +6,7 @@
 #include "calendar/number_text.h"
 
 namespace vicetoll {
+inline namespace VTL_General {
 namespace {
 
 constexpr std::string_view kMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
@@ -96,4 +97,5 @@ double DayCountOfMonthIndex(std::string& monthIndex, std::string_view startLabel
   }
 }
 
+}  // namespace VTL_General
 }  // namespace vicetoll

@@ -6,6 +6,7 @@
 #include "calendar/date_label.h"
 
 namespace vicetoll {
+inline namespace VTL_General {
 
 void FillDateList(bool clear, DropDownList& list, const std::string& first, const std::string& last,
                   std::int16_t step) {
@@ -36,4 +37,5 @@ void FillDateList(bool clear, DropDownList& list, const std::string& first, cons
   list.SelectEntry(std::max(0, list.Find(selected)));
 }
 
+}  // namespace VTL_General
 }  // namespace vicetoll

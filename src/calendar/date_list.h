@@ -7,6 +7,7 @@
 #include "controls/drop_down_list.h"
 
 namespace vicetoll {
+inline namespace VTL_General {
 
 // Fills the list with `first`, every month that is a multiple of `step` months (1 to 12) behind it, and
 // `last`, also where `last` falls between two steps. Without `clear` the months go before the entries
@@ -18,4 +19,5 @@ namespace vicetoll {
 void FillDateList(bool clear, DropDownList& list, const std::string& first, const std::string& last,
                   std::int16_t step);
 
+}  // namespace VTL_General
 }  // namespace vicetoll

@@ -3,6 +3,7 @@
 #include "calendar/number_text.h"
 
 namespace vicetoll {
+inline namespace VTL_General {
 namespace {
 
 std::string InCurrency(Currency currency, char euro, std::string_view format) {
@@ -49,4 +50,5 @@ std::string PadRight(std::string_view text, std::int16_t width) {
   return padded;
 }
 
+}  // namespace VTL_General
 }  // namespace vicetoll

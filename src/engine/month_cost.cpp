@@ -4,6 +4,7 @@
 #include "calendar/number_text.h"
 
 namespace vicetoll {
+inline namespace VTL_General {
 namespace {
 
 constexpr double kMonthsPerYear = 12;
@@ -113,4 +114,5 @@ MonthCostCells CellsOf(const CostTerms& terms, const MonthFigures& figures) {
   return cells;
 }
 
+}  // namespace VTL_General
 }  // namespace vicetoll

@@ -10,6 +10,7 @@
 #include "sins/catalogue.h"
 
 namespace vicetoll {
+inline namespace VTL_General {
 
 inline constexpr double DaysPerMonth = 30.42;
 inline constexpr double kCigarettesPerPack = 20;
@@ -86,4 +87,5 @@ MonthFigures FiguresOfMonth(const CostTerms& terms, std::int16_t monthIndex, std
 // The figures as texts.
 MonthCostCells CellsOf(const CostTerms& terms, const MonthFigures& figures);
 
+}  // namespace VTL_General
 }  // namespace vicetoll

@@ -19,8 +19,8 @@ constexpr int kButtonWidth = 1500, kButtonHeight = 500;
 // The frame of the layout options is narrow enough for all three buttons beside it in the smallest window.
 constexpr int kFrameWidth = 2550, kFrameHeight = 1000;
 constexpr int kFrameGap = 100;
-constexpr Place kCsvPlace{100, 250, 2400, 300};
-constexpr Place kDocPlace{100, 600, 2400, 300};
+constexpr Place kCsvPlace{60, 250, 2460, 300};
+constexpr Place kDocPlace{60, 600, 2460, 300};
 
 // Where the layout switch finds its text, by the current sin. The slip from jail time to sloth, and the
 // two sins without a row, are as users know them.

@@ -5,6 +5,7 @@
 #include "results/spd_rows.h"
 
 namespace vicetoll {
+inline namespace VTL_CombFunctions {
 namespace {
 
 // Twips.
@@ -105,4 +106,5 @@ std::string BuildDocText(SinWorkspace& ws, Side side, DocumentText& view, bool d
   return text;
 }
 
+}  // namespace VTL_CombFunctions
 }  // namespace vicetoll

@@ -12,6 +12,7 @@
 #include "workspace/sin_workspace.h"
 
 namespace vicetoll {
+inline namespace VTL_CombFunctions {
 
 // What a workspace's last report showed, as its FuturePast_Flag says.
 enum ShownSides : std::int16_t { kShowsPast = 1, kShowsFuture = 2, kShowsBoth = 3 };
@@ -63,4 +64,5 @@ std::string DocText(SinWorkspace& ws, Side side, bool docFlag, bool resetTotals,
 std::string BuildDocText(SinWorkspace& ws, Side side, DocumentText& view, bool docFlag, bool resetTotals,
                          std::int16_t& index, std::int16_t sideIndex);
 
+}  // namespace VTL_CombFunctions
 }  // namespace vicetoll

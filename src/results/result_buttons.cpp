@@ -3,6 +3,7 @@
 #include <array>
 
 namespace vicetoll {
+inline namespace VTL_General {
 namespace {
 
 struct FlaggedButton {
@@ -54,4 +55,5 @@ void RestoreResultButtonsOfSin(Workspaces& workspaces, ReportStyle style) {
   RestoreResultButtons(WorkspaceOfButtons(workspaces), style);
 }
 
+}  // namespace VTL_General
 }  // namespace vicetoll

@@ -5,6 +5,7 @@
 #include "workspace/workspaces.h"
 
 namespace vicetoll {
+inline namespace VTL_General {
 
 // The two report windows, each with five buttons on every workspace.
 enum class ReportStyle { Spreadsheet, Document };
@@ -34,4 +35,5 @@ inline void RestoreSpdButtonsOfSin(Workspaces& all) {
 inline void DisableDocButtonsOfSin(Workspaces& all) { DisableResultButtonsOfSin(all, ReportStyle::Document); }
 inline void RestoreDocButtonsOfSin(Workspaces& all) { RestoreResultButtonsOfSin(all, ReportStyle::Document); }
 
+}  // namespace VTL_General
 }  // namespace vicetoll

@@ -3,6 +3,7 @@
 #include "shell/balloon_texts.h"
 
 namespace vicetoll {
+inline namespace ToolTipMod {
 
 void Balloons::AttachToolTips(int position, SinWorkspace& workspace) {
   sins_.at(position).balloons.clear();
@@ -47,4 +48,5 @@ void Balloons::SwitchAll(bool on) {
   }
 }
 
+}  // namespace ToolTipMod
 }  // namespace vicetoll

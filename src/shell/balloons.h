@@ -9,6 +9,7 @@
 #include "workspace/workspaces.h"
 
 namespace vicetoll {
+inline namespace ToolTipMod {
 
 // One balloon for a control, or one for all elements of a control array, under its bare name.
 struct Balloon {
@@ -50,4 +51,5 @@ class Balloons {
   std::array<OfSin, kSinCount> sins_;
 };
 
+}  // namespace ToolTipMod
 }  // namespace vicetoll

@@ -1,6 +1,7 @@
 #include "shell/identification.h"
 
 namespace vicetoll {
+inline namespace VTL_Developer {
 namespace {
 
 constexpr int kDelay = 100;  // milliseconds, between controls and between letters
@@ -146,4 +147,5 @@ void RestoreProgram(SinWorkspace& ws) {
   ws.identificationOver = true;
 }
 
+}  // namespace VTL_Developer
 }  // namespace vicetoll

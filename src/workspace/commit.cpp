@@ -8,6 +8,7 @@
 #include "workspace/totals.h"
 
 namespace vicetoll {
+inline namespace VTL_CombFunctions {
 namespace {
 
 std::string PeriodCaption(Side side, int period) {
@@ -138,4 +139,5 @@ void UpdateResultButtons(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
     button->SetEnabled(any);
 }
 
+}  // namespace VTL_CombFunctions
 }  // namespace vicetoll

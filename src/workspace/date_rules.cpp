@@ -8,6 +8,7 @@
 #include "calendar/date_list.h"
 
 namespace vicetoll {
+inline namespace VTL_CombFunctions {
 namespace {
 
 constexpr std::int16_t kFineStep = 1;
@@ -196,4 +197,5 @@ void ResetDateLists(SinWorkspace& ws, Side side) {
   c.comStop->SelectEntry(c.comStop->Count() - 1);
 }
 
+}  // namespace VTL_CombFunctions
 }  // namespace vicetoll

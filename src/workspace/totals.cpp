@@ -8,6 +8,7 @@
 #include "workspace/period_operations.h"
 
 namespace vicetoll {
+inline namespace VTL_CombFunctions {
 namespace {
 
 constexpr std::string_view kNotAvailable = "n/a";
@@ -215,4 +216,5 @@ void RetireEuroButton(SinWorkspace& ws) {
   ws.Resize(ws.Width(), ws.Height() - kEuroHeight);
 }
 
+}  // namespace VTL_CombFunctions
 }  // namespace vicetoll
