@@ -23,6 +23,33 @@ std::string Twelve(double value) {
   return text;
 }
 
+// The commands and how many words follow them.
+struct Command {
+  std::string_view name;
+  std::size_t least, most;
+};
+
+constexpr std::size_t kAny = 100;
+constexpr Command kCommands[] = {
+    {"clock", 2, 2},  {"in", 1, 1},      {"focus", 1, 1},   {"choose", 2, 2},    {"click", 1, 1},
+    {"tab", 1, 1},    {"type", 2, 2},    {"select", 3, 5},  {"resize", 2, 2},    {"answer", 2, 2},
+    {"show", 1, 1},   {"dump", 0, 0},    {"results", 0, 0}, {"entries", 1, 1},   {"record", 2, 2},
+    {"fields", 0, 0}, {"globals", 0, 0}, {"call", 1, kAny}, {"rows", 0, 0},      {"selection", 0, 0},
+    {"text", 1, 1},   {"file", 1, 1},    {"tips", 0, 0},    {"clipboard", 0, 0}, {"balloons", 0, 0},
+    {"place", 1, 1},  {"canvas", 0, 0},
+};
+
+// A line is understood or refused as a whole, before anything is done.
+void CheckWords(const std::vector<Word>& words) {
+  for (const Command& command : kCommands) {
+    if (words.front().text != command.name) continue;
+    if (words.size() - 1 < command.least) throw BadLine("a word is missing");
+    if (words.size() - 1 > command.most) throw BadLine("too many words");
+    return;
+  }
+  throw BadLine("an unknown command: " + words.front().text);
+}
+
 }  // namespace
 
 // A line in the works: its words, taken from left to right.
@@ -53,9 +80,6 @@ struct Player::Line {
     if (error != std::errc() || end != text.data() + text.size()) throw BadLine("no number: " + text);
     return value;
   }
-  void End() const {
-    if (next < words.size()) throw BadLine("too many words");
-  }
 };
 
 PlayResult Player::Play(std::istream& lines) {
@@ -66,11 +90,11 @@ PlayResult Player::Play(std::istream& lines) {
     try {
       Line line{SplitLine(text)};
       if (line.words.empty()) continue;
+      CheckWords(line.words);
       if (line.Command() == "clock") {
         if (!first) throw BadLine("the clock is set by the first line only");
         platform_.now.month = line.TakeInt();
         platform_.now.year = line.TakeInt();
-        line.End();
         if (platform_.now.month < 1 || platform_.now.month > 12) throw BadLine("no such month");
       }
       const bool isClock = line.Command() == "clock";
@@ -101,8 +125,7 @@ void Player::Start() {
 }
 
 void Player::Run(Line& line) {
-  if (RunUserLine(line) || RunQuestion(line)) return line.End();
-  throw BadLine("an unknown command: " + line.Command());
+  if (!RunUserLine(line)) RunQuestion(line);
 }
 
 bool Player::RunUserLine(Line& line) {
@@ -141,7 +164,7 @@ bool Player::RunUserLine(Line& line) {
   return true;
 }
 
-bool Player::RunQuestion(Line& line) {
+void Player::RunQuestion(Line& line) {
   const std::string& command = line.Command();
   if (command == "show") {
     const std::string name = line.TakeBare();
@@ -179,10 +202,7 @@ bool Player::RunQuestion(Line& line) {
     ShowPlace(line.TakeBare());
   } else if (command == "canvas") {
     ShowCanvas();
-  } else {
-    return false;
   }
-  return true;
 }
 
 void Player::Report(UserOutcome outcome, const std::string& control) {
@@ -214,7 +234,9 @@ void Player::Select(Line& line) {
   Control& control = Find(line.TakeBare());
   if (auto* document = dynamic_cast<DocumentText*>(&control)) {
     const int start = line.TakeInt();
-    return Report(stage_->SelectText(*document, start, line.TakeInt()), control.FullName());
+    const int length = line.TakeInt();
+    if (line.Left() > 0) throw BadLine("too many words");
+    return Report(stage_->SelectText(*document, start, length), control.FullName());
   }
   auto* grid = dynamic_cast<Grid*>(&control);
   if (grid == nullptr) throw BadLine(control.FullName() + " has no selection");

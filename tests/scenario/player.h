@@ -30,7 +30,7 @@ class Player {
 
   void Run(Line& line);
   bool RunUserLine(Line& line);
-  bool RunQuestion(Line& line);
+  void RunQuestion(Line& line);
   void Start();
 
   void Report(UserOutcome outcome, const std::string& control);
