@@ -1,5 +1,7 @@
 #include "engine/month_cost.h"
 
+#include <cmath>
+
 #include "calendar/checked_int.h"
 #include "calendar/number_text.h"
 
@@ -94,11 +96,12 @@ MonthFigures MonthWalk::Next() {
   return FiguresFrom(terms_, unitCost_, reasonableCost_);
 }
 
-MonthFigures FiguresOfMonth(const CostTerms& terms, std::int16_t monthIndex, std::int16_t monthsInPeriod) {
+MonthFigures FiguresOfMonth(const CostTerms& terms, double monthIndex, double monthsInPeriod) {
   if (!RisesByPercent(terms))
     return FiguresFrom(terms, LinearCost(terms.initialCost, terms.finalCost, monthIndex, monthsInPeriod), 0);
-  return FiguresFrom(terms, CompoundedCost(terms.initialCost, monthIndex, terms.yearlyFraction),
-                     CompoundedCost(terms.reasonableCost, monthIndex, terms.yearlyFraction));
+  const std::int16_t increases = Int16(static_cast<std::int64_t>(std::nearbyint(monthIndex)));
+  return FiguresFrom(terms, CompoundedCost(terms.initialCost, increases, terms.yearlyFraction),
+                     CompoundedCost(terms.reasonableCost, increases, terms.yearlyFraction));
 }
 
 MonthCostCells CellsOf(const CostTerms& terms, const MonthFigures& figures) {

@@ -81,8 +81,8 @@ class MonthWalk {
   double month_ = 0;
 };
 
-// The figures of a single month, its index counted from 1.
-MonthFigures FiguresOfMonth(const CostTerms& terms, std::int16_t monthIndex, std::int16_t monthsInPeriod);
+// The figures of a single month, its index counted from 1. Throws Fault(Overflow).
+MonthFigures FiguresOfMonth(const CostTerms& terms, double monthIndex, double monthsInPeriod);
 
 // The figures as texts.
 MonthCostCells CellsOf(const CostTerms& terms, const MonthFigures& figures);

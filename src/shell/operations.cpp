@@ -1,6 +1,7 @@
 #include "shell/operations.h"
 
 #include <charconv>
+#include <cmath>
 #include <functional>
 
 #include "calendar/checked_int.h"
@@ -63,10 +64,10 @@ struct Operation {
 // The day count of the month is looked up and takes no part in the cost.
 OperationValue MonthCells(const Call& c, const CostTerms& terms, std::size_t monthArgument,
                           std::size_t periodArgument) {
-  const std::int16_t month = c.Int16(monthArgument);
-  const std::int16_t months = c.Int16(monthArgument + 1);
+  const double month = c.Number(monthArgument);
+  const double months = c.Number(monthArgument + 1);
   const Side side = c.ws.FuturePast_Flag == 1 ? Side::Past : Side::Future;
-  std::string index = std::to_string(month);
+  std::string index = NumberToText(month);
   DayCountOfMonthIndex(index, c.ws.Record(side, c.Int16(periodArgument)).StartLabel);
   return CellsOf(terms, FiguresOfMonth(terms, month, months));
 }
@@ -317,7 +318,7 @@ double Arguments::Number(std::size_t i) const {
 }
 
 std::int16_t Arguments::Int16(std::size_t i) const {
-  const double value = Number(i);
+  const double value = std::nearbyint(Number(i));  // halves to the even neighbour
   if (!(value > -1e9 && value < 1e9)) return vicetoll::Int16(1'000'000'000);
   return vicetoll::Int16(static_cast<std::int64_t>(value));
 }

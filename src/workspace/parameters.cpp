@@ -35,6 +35,21 @@ void SaveSharedParameters(SinWorkspace& ws, Side side, std::int16_t period) {
   record.InflationRateText = c.comInflationRate1->Text();
 }
 
+// The position of the quantity that is stored. A repeated load appends the list again. Where the period
+// comes back to a list that is filled anew (all sins but Smoking), an entry of a later copy is stored as that
+// of the first, or another amount would come back.
+std::int16_t QuantityPosition(const SinWorkspace& ws, const SideControls& c) {
+  if (ws.IsSmoking()) {
+    const DropDownList& list = c.firstUnit->Value() ? *c.quantity : *c.comCigsPerDay;
+    return static_cast<std::int16_t>(list.Position());
+  }
+  int oneCopy = 0;
+  for (const Run& run : UnitList(ws.Sin(), c.firstUnit->Value() ? Unit::PerDay : Unit::PerMonth).runs)
+    oneCopy += run.last - run.first + 1;
+  const DropDownList& list = *c.quantity;
+  return static_cast<std::int16_t>(list.Position() < oneCopy ? list.Position() : list.Find(list.Text()));
+}
+
 // The position of the first entry with the stored cost, comparing texts without the euro sign, and where
 // none is equal, amounts: what was stored in dollars is found again in euros. -1 where there is none.
 int FindCost(const DropDownList& list, const std::string& stored) {
@@ -66,9 +81,7 @@ void SetParameters(SinWorkspace& ws, Side side, std::int16_t period) {
   // The future side of Drugging keeps the unit it had in the store; only its cost is stored.
   const bool keepsUnit = side == Side::Future && ws.Sin().key == "Drugging";
   if (!keepsUnit) record.QuantityUnitFlag = c.firstUnit->Value();
-  const bool cigarettes = ws.IsSmoking() && !c.firstUnit->Value();
-  record.QuantityListIndex =
-      static_cast<std::int16_t>((cigarettes ? c.comCigsPerDay : c.quantity)->Position());
+  record.QuantityListIndex = QuantityPosition(ws, c);
   if (c.comInitialCost != nullptr) record.InitialCostText = c.comInitialCost->Text();
   if (c.comFinalCost != nullptr) {
     record.FinalCostText = c.comFinalCost->Text();

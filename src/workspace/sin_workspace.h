@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string>
 
+#include "calendar/fault.h"
 #include "calendar/side.h"
 #include "controls/drop_down_list.h"
 #include "controls/form.h"
@@ -19,14 +20,19 @@ namespace vicetoll {
 
 enum Tab { kPastTab = 0, kFutureTab = 1, kTotalTab = 2 };
 
-// An array of controls indexed 1..N, as the periods are.
+// An array of controls indexed 1..N, as the periods are. Throws Fault(Index) outside.
 template <class T, int N>
 class ControlArray {
  public:
-  T& operator()(int index) const { return *elements_.at(index - 1); }
-  void Set(int index, T& control) { elements_.at(index - 1) = &control; }
+  T& operator()(int index) const { return *elements_[Place(index)]; }
+  void Set(int index, T& control) { elements_[Place(index)] = &control; }
 
  private:
+  static std::size_t Place(int index) {
+    if (index < 1 || index > N) throw Fault(FaultKind::Index, "A control array has no such element.");
+    return static_cast<std::size_t>(index - 1);
+  }
+
   std::array<T*, N> elements_{};
 };
 

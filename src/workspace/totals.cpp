@@ -113,8 +113,7 @@ CountedPeriods CountedOf(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
     counted.first = p;
   }
   // A side of which nothing counts goes as one with a zero total, whatever its box shows.
-  const double shown = MoneyToNumber(ws.Of(side).txtResultsTotal->Text());
-  counted.total = counted.last == 0 ? 0 : shown;
+  if (counted.last != 0) counted.total = MoneyToNumber(ws.Of(side).txtResultsTotal->Text());
   counted.worthCounting = counted.total != 0;
   return counted;
 }
