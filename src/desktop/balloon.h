@@ -1,0 +1,28 @@
+// A balloon of help: a rounded body with a stem that points at what it explains.
+#pragma once
+
+#include <QWidget>
+
+namespace vicetoll {
+
+// Stays until it is deleted. It is painted over the window's other widgets, so it cannot leave the window,
+// and it is smooth on every screen; a window of its own would have black corners where no compositor runs.
+class BalloonWidget : public QWidget {
+ public:
+  // The line breaks of the text count.
+  BalloonWidget(const QString& text, QWidget* owner, QWidget* window);
+
+  const QWidget* Owner() const { return owner_; }
+  const QString& Text() const { return text_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString text_;
+  const QWidget* owner_;
+  QRect body_;    // without the stem
+  QPoint point_;  // of the stem
+};
+
+}  // namespace vicetoll

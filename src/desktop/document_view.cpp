@@ -1,0 +1,196 @@
+#include "desktop/document_view.h"
+
+#include <QFileInfo>
+#include <QImage>
+#include <QKeyEvent>
+#include <QTextBlock>
+#include <QTextDocument>
+
+#include "desktop/desktop.h"
+#include "desktop/text.h"
+#include "shell/info_window.h"
+
+namespace vicetoll {
+namespace {
+
+constexpr double kDocumentPoints = 8.5;
+constexpr double kNarrowestColumn = 80, kWidestColumn = 160, kColumnGap = 6;  // pixels
+constexpr int kTableLinesRead = 40;
+constexpr int kPictureEdge = 20;  // pixels: a scroll bar may come
+
+QFont DocumentFont() {
+  QFont font;
+  // The second is the metric twin that Debian has.
+  font.setFamilies({QStringLiteral("Century Schoolbook"), QStringLiteral("C059"),
+                    QStringLiteral("Century Schoolbook L"), QStringLiteral("DejaVu Serif")});
+  font.setPointSizeF(kDocumentPoints);
+  return font;
+}
+
+// The distance of tab stops at which each cell of the text's table stays in its own column: the widest cell
+// of its first lines, headings among them.
+double TabDistance(const QString& text, const QFontMetricsF& metrics) {
+  double widest = kNarrowestColumn;
+  int lines = 0;
+  for (const QStringView line : QStringView(text).split(u'\n')) {
+    if (!line.contains(u'\t')) continue;
+    for (const QStringView cell : line.split(u'\t'))
+      widest = std::max(widest, metrics.horizontalAdvance(cell.toString()) + kColumnGap);
+    if (++lines == kTableLinesRead) break;
+  }
+  return std::min(widest, kWidestColumn);
+}
+
+}  // namespace
+
+DocumentEdit::DocumentEdit(QWidget* parent) : QPlainTextEdit(parent) {
+  setFont(DocumentFont());
+  setTabChangesFocus(true);
+  setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+bool DocumentEdit::event(QEvent* event) {
+  // These keys belong to the window's menu, which works on the control.
+  if (event->type() == QEvent::ShortcutOverride) {
+    auto* key = static_cast<QKeyEvent*>(event);
+    if (key->matches(QKeySequence::Copy) || key->matches(QKeySequence::Cut) ||
+        key->matches(QKeySequence::Paste) || key->matches(QKeySequence::SelectAll)) {
+      event->ignore();
+      return true;
+    }
+  }
+  return QPlainTextEdit::event(event);
+}
+
+void DocumentEdit::SetText(const std::string& text) {
+  if (text == shown_) return;
+  shown_ = text;
+  const QString shown = ToQt(text);
+  setTabStopDistance(TabDistance(shown, QFontMetricsF(font())));
+  setPlainText(shown);
+}
+
+std::string DocumentEdit::Text() const {
+  return FromQt(toPlainText().replace(u'\n', QStringLiteral("\r\n")));
+}
+
+int DocumentEdit::ControlPosition(int position) const {
+  return position + document()->findBlock(position).blockNumber();
+}
+
+int DocumentEdit::EditorPosition(int position) const {
+  int lines = 0;
+  const std::size_t end = static_cast<std::size_t>(position);
+  for (std::size_t i = shown_.find("\r\n"); i != std::string::npos && i + 2 <= end;
+       i = shown_.find("\r\n", i + 2))
+    ++lines;
+  return position - lines;
+}
+
+void DocumentEdit::Select(int start, int length) {
+  if (Selection() == std::pair(start, length)) return;
+  QTextCursor cursor = textCursor();
+  const int last = document()->characterCount() - 1;
+  cursor.setPosition(std::min(EditorPosition(start), last));
+  cursor.setPosition(std::min(EditorPosition(start + length), last), QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+}
+
+std::pair<int, int> DocumentEdit::Selection() const {
+  const int start = ControlPosition(textCursor().selectionStart());
+  return {start, ControlPosition(textCursor().selectionEnd()) - start};
+}
+
+PageBrowser::PageBrowser(QWidget* parent) : QTextBrowser(parent) {
+  setOpenExternalLinks(true);
+  document()->setDocumentMargin(14);
+}
+
+void PageBrowser::SetText(const std::string& text, const QString& folder) {
+  if (text == shown_) return;
+  shown_ = text;
+  setSearchPaths({folder});
+  setMarkdown(ToQt(text));
+}
+
+QVariant PageBrowser::loadResource(int type, const QUrl& name) {
+  QVariant resource = QTextBrowser::loadResource(type, name);
+  if (type != QTextDocument::ImageResource) return resource;
+  QImage picture = resource.canConvert<QImage>() ? resource.value<QImage>() : QImage();
+  if (picture.isNull()) picture.loadFromData(resource.toByteArray());
+  const double scale = devicePixelRatioF();
+  const int room =
+      static_cast<int>((viewport()->width() - 2 * document()->documentMargin() - kPictureEdge) * scale);
+  if (picture.isNull() || room <= 0 || picture.width() <= room) return resource;
+  picture = picture.convertToFormat(QImage::Format_RGB32).scaledToWidth(room, Qt::SmoothTransformation);
+  picture.setDevicePixelRatio(scale);
+  return picture;
+}
+
+namespace {
+
+class EditView : public ControlView {
+ public:
+  EditView(DocumentText& document, QWidget* parent, Desktop& desktop)
+      : ControlView(document, new DocumentEdit(parent)),
+        document_(document),
+        edit_(*static_cast<DocumentEdit*>(Widget())) {
+    QObject::connect(&edit_, &QPlainTextEdit::textChanged,
+                     [this, &desktop] { desktop.Enter([this] { TakeSelection(); }); });
+    for (const auto signal : {&QPlainTextEdit::selectionChanged, &QPlainTextEdit::cursorPositionChanged})
+      QObject::connect(&edit_, signal, [this, &desktop] { desktop.Enter([this] { TakeSelection(); }); });
+  }
+
+ protected:
+  void UpdateContents() override {
+    edit_.SetText(document_.Text());
+    taken_ = edit_.document()->revision();
+    edit_.Select(document_.SelStart(), document_.SelLength());
+  }
+
+ private:
+  void TakeText() {
+    if (edit_.document()->revision() == taken_) return;
+    document_.UserTypes(edit_.Text());
+    // To show it anew would move the cursor.
+    edit_.KeepTyped(document_.Text());
+    taken_ = edit_.document()->revision();
+  }
+  // The editor tells of a cursor that moved by typing before it tells of what was typed.
+  void TakeSelection() {
+    TakeText();
+    const auto [start, length] = edit_.Selection();
+    if (start != document_.SelStart() || length != document_.SelLength())
+      document_.UserSelects(start, length);
+  }
+
+  DocumentText& document_;
+  DocumentEdit& edit_;
+  int taken_ = 0;  // the revision of the editor's document that the control has
+};
+
+class PageView : public ControlView {
+ public:
+  PageView(DocumentText& document, QWidget* parent, const InfoWindow& window)
+      : ControlView(document, new PageBrowser(parent)), document_(document), window_(window) {}
+
+ protected:
+  void UpdateContents() override {
+    const QFileInfo file(QString::fromStdString(window_.File()));
+    static_cast<PageBrowser*>(Widget())->SetText(document_.Text(), file.path());
+  }
+
+ private:
+  DocumentText& document_;
+  const InfoWindow& window_;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeDocumentView(DocumentText& document, QWidget* parent, Desktop& desktop) {
+  if (const auto* window = dynamic_cast<const InfoWindow*>(&document.Window()))
+    return std::make_unique<PageView>(document, parent, *window);
+  return std::make_unique<EditView>(document, parent, desktop);
+}
+
+}  // namespace vicetoll

@@ -1,0 +1,58 @@
+// A document text as an editor; the help window's text as a page that is read.
+#pragma once
+
+#include <QPlainTextEdit>
+#include <QTextBrowser>
+#include <memory>
+#include <string>
+
+#include "controls/document_text.h"
+#include "desktop/control_view.h"
+
+namespace vicetoll {
+
+// Editors know one character for an end of line; in the control's text it is two. Positions are turned
+// from the one into the other here.
+class DocumentEdit : public QPlainTextEdit {
+ public:
+  explicit DocumentEdit(QWidget* parent);
+
+  void SetText(const std::string& text);
+  // The control has taken what was typed: it is shown already.
+  void KeepTyped(const std::string& text) { shown_ = text; }
+  // The text with its ends of line as CR LF.
+  std::string Text() const;
+
+  void Select(int start, int length);
+  // Position and length of the selection, by the control's reckoning.
+  std::pair<int, int> Selection() const;
+
+ protected:
+  bool event(QEvent* event) override;
+
+ private:
+  int ControlPosition(int position) const;
+  int EditorPosition(int position) const;
+
+  std::string shown_;
+};
+
+// A text in Markdown, with the pictures that lie beside its file.
+class PageBrowser : public QTextBrowser {
+ public:
+  explicit PageBrowser(QWidget* parent);
+
+  void SetText(const std::string& text, const QString& folder);
+  const std::string& Text() const { return shown_; }
+
+ protected:
+  // Pictures that are wider than the page are made to fit it.
+  QVariant loadResource(int type, const QUrl& name) override;
+
+ private:
+  std::string shown_;
+};
+
+std::unique_ptr<ControlView> MakeDocumentView(DocumentText& document, QWidget* parent, Desktop& desktop);
+
+}  // namespace vicetoll

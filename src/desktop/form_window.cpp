@@ -1,0 +1,350 @@
+#include "desktop/form_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QToolTip>
+#include <cmath>
+
+#include "desktop/balloon.h"
+#include "desktop/desktop.h"
+#include "desktop/look.h"
+#include "desktop/text.h"
+#include "desktop/widgets.h"
+#include "results/spd_window.h"
+#include "workspace/sin_workspace.h"
+
+namespace vicetoll {
+namespace {
+
+// A window manager tells of a new size and of a new state in two events, and of many sizes while an edge
+// is dragged: sizes are taken when none has come for so long.
+constexpr int kSettleMilliseconds = 60;
+
+// What is typed on the bare window: bold, 30 points, narrow enough for the longest line.
+constexpr int kCanvasPoints = 30;
+constexpr int kCanvasStretch = 72;
+
+const char* const kKeyHint = "Shift+F1 explains the control that has the focus.";
+
+bool IsModifier(int key) {
+  return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta;
+}
+
+bool IsCloseButton(const Control& control) { return control.Name() == "cmdExit"; }
+
+QString NameOf(const Control& control) {
+  QStringList words;
+  for (const CaptionedControl* label : control.LabelledBy()) words << ToQt(label->Caption());
+  for (const Control* c = control.Container(); words.isEmpty() && c != nullptr; c = c->Container())
+    if (const auto* frame = dynamic_cast<const Frame*>(c)) words << ToQt(frame->Caption());
+  return words.join(QStringLiteral(", "));
+}
+
+// The user's keys for entries of the right-click menu that have them everywhere.
+QKeySequence KeysFor(const std::string& caption) {
+  if (caption == "Select All") return QKeySequence::SelectAll;
+  if (caption == "Copy") return QKeySequence::Copy;
+  if (caption == "Cut") return QKeySequence::Cut;
+  if (caption == "Paste") return QKeySequence::Paste;
+  return {};
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, Desktop& desktop) : form_(form), desktop_(desktop) {
+  setObjectName(ToQt(form.Name()));
+  if (!form.HasCloseEntry())
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowMinMaxButtonsHint);
+  MakeControls();
+  GiveAccessKeys();
+  for (const auto& view : views_) view->Update();
+  UpdateNames();
+  settled_.setSingleShot(true);
+  settled_.setInterval(kSettleMilliseconds);
+  connect(&settled_, &QTimer::timeout, this, &FormWindow::TakeSettledSize);
+}
+
+FormWindow::~FormWindow() = default;
+
+void FormWindow::MakeControls() {
+  for (const auto& control : form_.Controls()) {
+    if (auto* entry = dynamic_cast<MenuEntry*>(control.get())) {
+      MakeMenuEntry(*entry);
+      continue;
+    }
+    QWidget* ground = this;
+    if (const Control* container = control->Container())
+      ground = viewOf_.at(container)->Ground(control->Page());
+    views_.push_back(MakeView(*control, ground, desktop_));
+    ControlView& view = *views_.back();
+    viewOf_[control.get()] = &view;
+    view.Widget()->setObjectName(ToQt(control->FullName()));
+    for (QWidget* widget : {view.Widget(), view.Hand()}) {
+      widget->installEventFilter(this);
+      controlOf_[widget] = control.get();
+    }
+  }
+}
+
+void FormWindow::MakeMenuEntry(MenuEntry& entry) {
+  auto* action = new QAction(ToQt(entry.Caption()), this);
+  action->setObjectName(ToQt(entry.FullName()));
+  action->setShortcut(KeysFor(entry.Caption()));
+  connect(action, &QAction::triggered, this, [this, &entry] { desktop_.Enter([&] { entry.UserClicks(); }); });
+  addAction(action);
+  menu_[&entry] = action;
+}
+
+// The first letter of a word of the caption that no other button has taken. Buttons on different tabs are
+// never in front together and may share one; P, U and T belong to the tabs.
+void FormWindow::GiveAccessKeys() {
+  QString taken[4];
+  taken[3] = QStringLiteral("PUT");
+  for (const auto& view : views_) {
+    auto* button = dynamic_cast<CaptionButton*>(view->Widget());
+    if (button == nullptr) continue;
+    int page = 3;
+    for (const Control* c = &view->Model(); c != nullptr; c = c->Container())
+      if (c->Page() != kAnyPage) page = c->Page();
+    const QString caption = ToQt(dynamic_cast<Button&>(view->Model()).Caption());
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+      const QChar letter = caption[i].toUpper();
+      if (!caption[i].isUpper() || taken[3].contains(letter) || taken[page].contains(letter)) continue;
+      button->SetAccessKey(letter);
+      taken[page] += letter;
+      break;
+    }
+  }
+}
+
+QWidget* FormWindow::WidgetOf(const Control& control) const {
+  const auto view = viewOf_.find(&control);
+  return view == viewOf_.end() ? nullptr : view->second->Widget();
+}
+
+QAction* FormWindow::MenuEntryOf(const Control& control) const {
+  const auto action = menu_.find(&control);
+  return action == menu_.end() ? nullptr : action->second;
+}
+
+void FormWindow::UpdateForm() {
+  setWindowTitle(ToQt(form_.Caption()));
+  const QSize size(ToPixels(form_.Width()), ToPixels(form_.Height()));
+  if (form_.GetWindowState() == WindowState::Normal && size != this->size()) resize(size);
+  if (form_.Shown() && !isVisible()) {
+    ComeInPlaceOfAnother();
+    show();
+    raise();
+    activateWindow();
+  } else if (!form_.Shown() && isVisible()) {
+    HideBalloon();
+    hide();
+  }
+  update();
+}
+
+// One sin takes the place of another, also on the screen.
+void FormWindow::ComeInPlaceOfAnother() {
+  if (dynamic_cast<SinWorkspace*>(&form_) == nullptr) return;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    const auto* other = dynamic_cast<const FormWindow*>(window);
+    if (other != nullptr && other->isVisible() && dynamic_cast<SinWorkspace*>(&other->form_) != nullptr)
+      move(other->pos());
+  }
+}
+
+void FormWindow::UpdateControl(Control& control) {
+  if (const auto view = viewOf_.find(&control); view != viewOf_.end()) return view->second->Update();
+  if (const auto action = menu_.find(&control); action != menu_.end()) {
+    action->second->setEnabled(control.Enabled());
+    action->second->setVisible(control.Visible());
+  }
+}
+
+void FormWindow::UpdateNames() {
+  for (const auto& view : views_) {
+    const Control& control = view->Model();
+    QWidget* hand = view->Hand();
+    const bool named = control.Kind() == ControlKind::List || control.Kind() == ControlKind::TextBox ||
+                       !control.LabelledBy().empty();
+    if (named) {
+      const QString name = NameOf(control);
+      if (hand->accessibleName() != name) hand->setAccessibleName(name);
+    }
+    QString description = BalloonText(control);
+    if (description.isEmpty()) description = ToQt(control.ToolTip());
+    if (hand->accessibleDescription() != description) hand->setAccessibleDescription(description);
+  }
+}
+
+// ---- What users do ----
+
+void FormWindow::TakeSettledSize() {
+  TakeState();
+  // A size of whole pixels stands for all twips that round to it.
+  const QSize known(ToPixels(form_.Width()), ToPixels(form_.Height()));
+  if (size() != known) TakeSize(ToTwips(width()), ToTwips(height()));
+}
+
+void FormWindow::TakeSize(int width, int height) {
+  settled_.stop();
+  desktop_.Enter([&] { form_.UserResizes(width, height); });
+}
+
+void FormWindow::TakeState() {
+  WindowState state = WindowState::Normal;
+  if (isMinimized()) state = WindowState::Minimised;
+  if (isMaximized() || isFullScreen()) state = WindowState::Maximised;
+  if (state != form_.GetWindowState()) desktop_.Enter([&] { form_.SetWindowState(state); });
+}
+
+void FormWindow::resizeEvent(QResizeEvent*) {
+  HideBalloon();
+  const QSize known(ToPixels(form_.Width()), ToPixels(form_.Height()));
+  if (isVisible() && (size() != known || isMaximized())) settled_.start();
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::WindowStateChange) settled_.start();
+  if (event->type() == QEvent::ActivationChange) HideBalloon();
+  QWidget::changeEvent(event);
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  // The form says whether the window goes.
+  event->ignore();
+  if (!form_.HasCloseEntry()) return;
+  for (const auto& view : views_)
+    if (IsCloseButton(view->Model()))
+      return desktop_.Enter([&] { dynamic_cast<Button&>(view->Model()).UserClicks(); });
+}
+
+void FormWindow::contextMenuEvent(QContextMenuEvent* event) {
+  if (menu_.empty()) return;
+  QMenu menu(this);
+  menu.addSection(ToQt(kRightClickMenuCaption));
+  menu.addActions(actions());
+  menu.exec(event->globalPos());
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  const auto found = controlOf_.find(watched);
+  if (found == controlOf_.end()) return QWidget::eventFilter(watched, event);
+  Control& control = *found->second;
+  switch (event->type()) {
+    case QEvent::FocusIn: {
+      // The focus comes back by itself with the window, and from a list's own popup: that is no arrival.
+      const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+      if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+        desktop_.Enter([&] { control.UserFocuses(); });
+      break;
+    }
+    case QEvent::ToolTip:
+      return ShowHover(static_cast<QWidget*>(watched), control);
+    case QEvent::KeyPress: {
+      const auto* key = static_cast<QKeyEvent*>(event);
+      if (key->key() == Qt::Key_F1 && key->modifiers() == Qt::ShiftModifier) {
+        ExplainFocus();
+        return true;
+      }
+      if (!IsModifier(key->key())) HideBalloon();
+      break;
+    }
+    case QEvent::MouseButtonPress:
+      HideBalloon();
+      break;
+    case QEvent::Enter:
+      // A container is not left by the pointer that goes on to what stands in it.
+      if (balloon_ != nullptr && balloon_->Owner() != watched) HideBalloon();
+      break;
+    case QEvent::Leave:
+    case QEvent::FocusOut:
+    case QEvent::Hide:
+      if (balloon_ != nullptr && balloon_->Owner() == watched) HideBalloon();
+      break;
+    default:
+      break;
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+// ---- Help ----
+
+QString FormWindow::BalloonText(const Control& control) const {
+  const auto* workspace = dynamic_cast<const SinWorkspace*>(&form_);
+  if (workspace == nullptr) return {};
+  return ToQt(desktop_.GetProgram().GetBalloons().TextFor(workspace->Position(), control));
+}
+
+// True if the event ends here: a container's help is for its own ground alone.
+bool FormWindow::ShowHover(QWidget* widget, const Control& control) {
+  const QString text = BalloonText(control);
+  if (balloon_ != nullptr && balloon_->Owner() == widget) return true;
+  HideBalloon();
+  if (text.isEmpty()) return control.ToolTip().empty();
+  balloon_ = new BalloonWidget(text, widget, this);
+  return true;
+}
+
+// The focused control's help, or that of the frame it stands in.
+void FormWindow::ExplainFocus() {
+  QWidget* focus = focusWidget();
+  const auto found = controlOf_.find(focus);
+  if (found == controlOf_.end()) return;
+  const bool shown = balloon_ != nullptr;
+  HideBalloon();
+  if (shown) return;
+  for (const Control* c = found->second; c != nullptr; c = c->Container()) {
+    const QString text = BalloonText(*c);
+    if (!text.isEmpty()) {
+      balloon_ = new BalloonWidget(text, focus, this);
+      return;
+    }
+    if (!c->ToolTip().empty()) {
+      QToolTip::showText(focus->mapToGlobal(QPoint(0, focus->height())), ToQt(c->ToolTip()), focus);
+      return;
+    }
+  }
+}
+
+void FormWindow::HideBalloon() {
+  delete balloon_;
+  balloon_ = nullptr;
+}
+
+// ---- The bare window ----
+
+void FormWindow::paintEvent(QPaintEvent*) {
+  if (dynamic_cast<SinWorkspace*>(&form_) != nullptr && form_.Canvas().empty()) {
+    QPainter painter(this);
+    painter.setPen(QColor(90, 94, 110));
+    DrawFitted(painter, QRect(8, height() - 30, width() - 16, 24), Qt::AlignLeft | Qt::AlignVCenter,
+               QString::fromLatin1(kKeyHint), font());
+  }
+  PaintCanvas();
+}
+
+void FormWindow::PaintCanvas() {
+  if (form_.Canvas().empty()) return;
+  QPainter painter(this);
+  QFont letters = font();
+  letters.setPointSize(kCanvasPoints);
+  letters.setBold(true);
+  letters.setStretch(kCanvasStretch);
+  painter.setFont(letters);
+  painter.setPen(QColor(look::kInk));
+  const int step = painter.fontMetrics().height();
+  int baseline = painter.fontMetrics().ascent();
+  for (const CanvasLine& line : form_.Canvas()) {
+    painter.drawText(ToPixels(line.left), baseline, ToQt(line.text));
+    baseline += step;
+  }
+}
+
+}  // namespace vicetoll

@@ -1,0 +1,126 @@
+#include "desktop/grid_view.h"
+
+#include <QAbstractTableModel>
+#include <QHeaderView>
+#include <QPainter>
+
+#include "desktop/desktop.h"
+#include "desktop/grid_model.h"
+#include "desktop/look.h"
+#include "desktop/text.h"
+
+namespace vicetoll {
+namespace {
+
+constexpr int kCellPadding = 6;   // pixels on each side of a cell's text
+constexpr int kEmptyColumn = 40;  // pixels of a column without heading
+
+}  // namespace
+
+GridWidget::GridWidget(QWidget* parent, Grid& grid)
+    : QTableView(parent), grid_(grid), model_(new GridModel(this)) {
+  setModel(model_);
+  setSelectionMode(QAbstractItemView::ContiguousSelection);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setWordWrap(false);
+  setTextElideMode(Qt::ElideNone);
+  setTabKeyNavigation(false);
+  setContextMenuPolicy(Qt::NoContextMenu);
+  verticalHeader()->hide();
+  // Heights that follow from contents would be reckoned row by row.
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 5);
+  horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
+  horizontalHeader()->setHighlightSections(false);
+  setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+}
+
+void GridWidget::Show() {
+  if (model_->Take(grid_))
+    for (int c = 0; c < Grid::kColumns; ++c) horizontalHeader()->resizeSection(c, ColumnPixels(c));
+  horizontalHeader()->setFixedHeight(HeadingPixels());
+  horizontalHeader()->setVisible(grid_.HasHeading());
+  ShowSelection();
+}
+
+// As wide as the grid has it, and wide enough for every figure and for every word of the heading.
+int GridWidget::ColumnPixels(int column) const {
+  const QString heading = model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+  const bool own = grid_.ColumnWidth(column) == Grid::kOwnSize;
+  int widest = fontMetrics().horizontalAdvance(model_->LongestText(column));
+  for (const QString& word : own ? QStringList(heading) : heading.split(u' '))
+    widest = std::max(widest, fontMetrics().horizontalAdvance(word));
+  const int needed = widest == 0 ? kEmptyColumn : widest + 2 * kCellPadding;
+  return own ? needed : std::max(needed, ToPixels(grid_.ColumnWidth(column)));
+}
+
+int GridWidget::HeadingPixels() const {
+  int needed = fontMetrics().height() + 6;
+  for (int c = 0; c < Grid::kColumns; ++c) {
+    const QString heading = model_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
+    const QRect room(0, 0, horizontalHeader()->sectionSize(c) - 2 * kCellPadding, 1 << 12);
+    needed = std::max(needed, fontMetrics().boundingRect(room, Qt::TextWordWrap, heading).height() + 8);
+  }
+  if (grid_.HeadingHeight() == Grid::kOwnSize) return needed;
+  return std::max(needed, ToPixels(grid_.HeadingHeight()));
+}
+
+void GridWidget::ShowSelection() {
+  const int rows = model_->rowCount({});
+  const auto [top, bottom] = std::minmax(grid_.Row() - 1, grid_.RowSel() - 1);
+  const auto [left, right] = std::minmax(grid_.Col(), grid_.ColSel());
+  // Row 0 is the heading, which shows no selection.
+  const QItemSelection cells(model_->index(std::max(top, 0), left),
+                             model_->index(std::min(bottom, rows - 1), right));
+  if (bottom < 0 || rows == 0) {
+    selectionModel()->clear();
+    return;
+  }
+  const QModelIndex current = model_->index(std::clamp(grid_.RowSel() - 1, 0, rows - 1), grid_.ColSel());
+  if (selectionModel()->selection() == cells && currentIndex() == current) return;
+  selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+  selectionModel()->select(cells, QItemSelectionModel::ClearAndSelect);
+}
+
+CellRange GridWidget::SelectedCells() const {
+  const QItemSelection selected = selectionModel()->selection();
+  if (selected.isEmpty()) return {0, 0, 0, 0};
+  const QItemSelectionRange& cells = selected.first();
+  const QModelIndex moved = currentIndex();
+  const int row = moved.row() == cells.top() ? cells.bottom() : cells.top();
+  const int column = moved.column() == cells.left() ? cells.right() : cells.left();
+  return {row + 1, column, moved.row() + 1, moved.column()};
+}
+
+namespace {
+
+class GridView : public ControlView {
+ public:
+  GridView(Grid& grid, QWidget* parent, Desktop& desktop)
+      : ControlView(grid, new GridWidget(parent, grid)),
+        grid_(grid),
+        widget_(*static_cast<GridWidget*>(Widget())) {
+    QObject::connect(widget_.selectionModel(), &QItemSelectionModel::selectionChanged,
+                     [this, &desktop] { desktop.Enter([this] { TakeSelection(); }); });
+  }
+
+ protected:
+  void UpdateContents() override { widget_.Show(); }
+
+ private:
+  void TakeSelection() {
+    const CellRange cells = widget_.SelectedCells();
+    if (cells.row != 0) grid_.UserSelects(cells.row, cells.col, cells.rowSel, cells.colSel);
+  }
+
+  Grid& grid_;
+  GridWidget& widget_;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeGridView(Grid& grid, QWidget* parent, Desktop& desktop) {
+  return std::make_unique<GridView>(grid, parent, desktop);
+}
+
+}  // namespace vicetoll

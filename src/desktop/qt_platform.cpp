@@ -1,0 +1,109 @@
+#include "desktop/qt_platform.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDate>
+#include <QDesktopServices>
+#include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileDialog>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QTimer>
+#include <QUrl>
+
+#include "desktop/printing.h"
+#include "desktop/text.h"
+#include "platform/file_writer.h"
+
+namespace vicetoll {
+
+QString ProgramName() { return QStringLiteral("The Vicetoll Financial Calculator"); }
+
+std::unique_ptr<QMessageBox> MakeMessageBox(std::string_view title, std::string_view text,
+                                            MessageButtons buttons) {
+  auto box = std::make_unique<QMessageBox>(QApplication::activeWindow());
+  box->setWindowTitle(title.empty() ? ProgramName() : ToQt(title));
+  box->setTextFormat(Qt::PlainText);
+  box->setText(ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+  box->setIcon(buttons == MessageButtons::Ok ? QMessageBox::Information : QMessageBox::Question);
+  box->setStandardButtons(buttons == MessageButtons::Ok ? QMessageBox::Ok
+                                                        : QMessageBox::Ok | QMessageBox::Cancel);
+  box->setDefaultButton(QMessageBox::Ok);
+  return box;
+}
+
+void QtPlatform::ShowChanges() const {
+  if (beforeWaiting) beforeWaiting();
+}
+
+MonthAndYear QtPlatform::Now() {
+  const QDate today = QDate::currentDate();
+  return {today.month(), today.year()};
+}
+
+Answer QtPlatform::ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) {
+  ShowChanges();
+  return MakeMessageBox(title, text, buttons)->exec() == QMessageBox::Ok ? Answer::Ok : Answer::Cancel;
+}
+
+void QtPlatform::Tell(const QString& text) {
+  const std::unique_ptr<QMessageBox> box = MakeMessageBox({}, {}, MessageButtons::Ok);
+  box->setText(text);
+  box->exec();
+}
+
+std::optional<std::string> QtPlatform::AskSavePath(std::string_view lastPath) {
+  ShowChanges();
+  // Without a name of this run the dialog begins in the folder that the program was started in; left to
+  // itself it would remember one from an earlier run.
+  const QString start =
+      lastPath.empty()
+          ? QDir::currentPath()
+          : QFile::decodeName(QByteArray(lastPath.data(), static_cast<qsizetype>(lastPath.size())));
+  const QString path =
+      QFileDialog::getSaveFileName(QApplication::activeWindow(), QStringLiteral("Save As"), start);
+  if (path.isEmpty()) return std::nullopt;
+  return QFile::encodeName(path).toStdString();
+}
+
+void QtPlatform::WriteFile(const std::string& path, std::string_view bytes) { WriteWholeFile(path, bytes); }
+
+void QtPlatform::Print(std::string_view text, bool selection) {
+  ShowChanges();
+  QPrinter printer;
+  QPrintDialog dialog(&printer, QApplication::activeWindow());
+  dialog.setOption(QAbstractPrintDialog::PrintSelection, selection);
+  dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+  dialog.exec();  // a cancelled dialog prints all the same
+  if (PrintText(printer, text)) return;
+  if (printer.outputFileName().isEmpty())
+    Tell(QStringLiteral("Nothing was printed: there is no printer, and no file was named to print to."));
+  else
+    Tell(QStringLiteral("Nothing was printed: %1 could not be written.").arg(printer.outputFileName()));
+}
+
+void QtPlatform::SetClipboard(std::string_view text) { QApplication::clipboard()->setText(ToQt(text)); }
+
+std::string QtPlatform::Clipboard() { return FromQt(QApplication::clipboard()->text()); }
+
+std::string QtPlatform::ProgramFolder() {
+  return QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
+}
+
+void QtPlatform::Browse(std::string_view url) {
+  if (!QDesktopServices::openUrl(QUrl(ToQt(url))))
+    Tell(QStringLiteral("No browser could be opened for %1.").arg(ToQt(url)));
+}
+
+void QtPlatform::Pause(int milliseconds) {
+  ShowChanges();
+  QEventLoop loop;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+  timer.start(milliseconds);
+  loop.exec();
+}
+
+}  // namespace vicetoll

@@ -1,0 +1,40 @@
+// The world outside as Qt reaches it.
+#pragma once
+
+#include <QMessageBox>
+#include <functional>
+#include <memory>
+
+#include "platform/platform.h"
+
+namespace vicetoll {
+
+// The program's name, as windows and boxes without a title of their own bear it.
+QString ProgramName();
+
+// The modal box for a message. An empty title becomes the program's name.
+std::unique_ptr<QMessageBox> MakeMessageBox(std::string_view title, std::string_view text,
+                                            MessageButtons buttons);
+
+class QtPlatform : public Platform {
+ public:
+  // Run before a box or a pause lets the user see the windows: what changed must be shown by then.
+  std::function<void()> beforeWaiting;
+
+  MonthAndYear Now() override;
+  Answer ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) override;
+  std::optional<std::string> AskSavePath(std::string_view lastPath) override;
+  void WriteFile(const std::string& path, std::string_view bytes) override;
+  void Print(std::string_view text, bool selection) override;
+  void SetClipboard(std::string_view text) override;
+  std::string Clipboard() override;
+  std::string ProgramFolder() override;
+  void Browse(std::string_view url) override;
+  void Pause(int milliseconds) override;
+
+ private:
+  void Tell(const QString& text);
+  void ShowChanges() const;
+};
+
+}  // namespace vicetoll

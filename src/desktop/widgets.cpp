@@ -1,0 +1,315 @@
+#include "desktop/widgets.h"
+
+#include <QAbstractItemView>
+#include <QAbstractListModel>
+#include <QKeySequence>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+#include <QWheelEvent>
+
+#include "desktop/look.h"
+#include "desktop/text.h"
+
+namespace vicetoll {
+namespace {
+
+constexpr int kArrowRoom = 20;      // pixels at the right end of a list
+constexpr int kIndicatorRoom = 20;  // pixels in front of the caption of a choice
+constexpr int kPopupRows = 18;
+constexpr int kTabHeight = 46, kTabTop = 8, kTabLeft = 8;
+constexpr int kTabWidth = 96, kTabPadding = 9;
+
+// Clicks on a widget are not handed on to what lies under it.
+void KeepClicks(QWidget* widget) { widget->setAttribute(Qt::WA_NoMousePropagation); }
+
+}  // namespace
+
+// ---- Lists ----
+
+// The entries of a list, in the core's code page until somebody looks at them.
+class EntryModel : public QAbstractListModel {
+ public:
+  using QAbstractListModel::QAbstractListModel;
+
+  int rowCount(const QModelIndex& parent) const override {
+    return parent.isValid() ? 0 : static_cast<int>(entries_.size());
+  }
+  QVariant data(const QModelIndex& index, int role) const override {
+    if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
+    return ToQt(entries_.at(index.row()));
+  }
+  const std::vector<std::string>& Entries() const { return entries_; }
+  void SetEntries(const std::vector<std::string>& entries) {
+    beginResetModel();
+    entries_ = entries;
+    endResetModel();
+  }
+
+ private:
+  std::vector<std::string> entries_;
+};
+
+BlueList::BlueList(QWidget* parent) : QComboBox(parent), entries_(new EntryModel(this)) {
+  setPlaceholderText(QStringLiteral(" "));
+  setModel(entries_);
+  setMaxVisibleItems(kPopupRows);
+  setInsertPolicy(QComboBox::NoInsert);
+  setFocusPolicy(Qt::StrongFocus);
+  QPalette colours = palette();
+  colours.setColor(QPalette::Base, QColor(look::kListGround));
+  colours.setColor(QPalette::Disabled, QPalette::Base, QColor(look::kListOff));
+  colours.setColor(QPalette::Text, Qt::white);
+  colours.setColor(QPalette::Disabled, QPalette::Text, QColor(230, 230, 238));
+  // The entry under the pointer is turned about: blue on white.
+  colours.setColor(QPalette::Highlight, Qt::white);
+  colours.setColor(QPalette::HighlightedText, QColor(look::kListGround));
+  setPalette(colours);
+  KeepClicks(this);
+}
+
+void BlueList::SetEntries(const std::vector<std::string>& entries) {
+  if (entries != entries_->Entries()) entries_->SetEntries(entries);
+}
+
+const std::vector<std::string>& BlueList::Entries() const { return entries_->Entries(); }
+
+void BlueList::SetShown(const QString& text, int position) {
+  // Assistive tools read the current entry, and this where there is none. Without it, be it but a blank, a
+  // list picks its first entry by itself.
+  setPlaceholderText(text.isEmpty() ? QStringLiteral(" ") : text);
+  if (currentIndex() != position) setCurrentIndex(position);
+  if (isEditable() && lineEdit()->text() != text) lineEdit()->setText(text);
+  if (text_ == text) return;
+  text_ = text;
+  update();
+}
+
+QString BlueList::ShownText() const { return isEditable() ? lineEdit()->text() : text_; }
+
+void BlueList::showPopup() {
+  // The popup is made at its first use; making it earlier would cost every list of a window.
+  if (!popupColoured_) {
+    view()->setPalette(palette());
+    view()->setFont(font());
+    popupColoured_ = true;
+  }
+  QComboBox::showPopup();
+}
+
+void BlueList::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QColor ground = palette().color(QPalette::Base);
+  painter.setPen(ground.darker(150));
+  painter.setBrush(ground);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+  painter.setPen(palette().color(QPalette::Text));
+  if (!isEditable())
+    DrawFitted(painter, rect().adjusted(7, 1, -kArrowRoom, -1), Qt::AlignLeft | Qt::AlignVCenter,
+               QString(text_).replace(u'&', QStringLiteral("&&")), font());
+  PaintArrow(painter, QRect(width() - kArrowRoom, 0, kArrowRoom, height()));
+  if (hasFocus()) {
+    DrawFocusRing(painter, rect());
+    painter.setPen(QPen(Qt::white, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 2, 2);
+  }
+}
+
+void BlueList::PaintArrow(QPainter& painter, const QRect& room) const {
+  const QPointF c = QRectF(room).center();
+  const QPolygonF arrow({c + QPointF(-4, -2), c + QPointF(4, -2), c + QPointF(0, 3)});
+  painter.setBrush(palette().color(QPalette::Text));
+  painter.setPen(Qt::NoPen);
+  painter.drawPolygon(arrow);
+}
+
+void BlueList::wheelEvent(QWheelEvent* event) {
+  // A wheel that turns over a list on its way elsewhere must not change it.
+  if (hasFocus())
+    QComboBox::wheelEvent(event);
+  else
+    event->ignore();
+}
+
+// ---- Boxes, buttons, choices ----
+
+ResultBox::ResultBox(QWidget* parent) : QLineEdit(parent) {
+  setReadOnly(true);
+  setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  setFocusPolicy(Qt::StrongFocus);
+  KeepClicks(this);
+}
+
+void ResultBox::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  if (!hasFocus()) return;
+  QPainter painter(this);
+  DrawFocusRing(painter, rect());
+}
+
+CaptionButton::CaptionButton(QWidget* parent) : QPushButton(parent) {
+  setAutoDefault(false);
+  KeepClicks(this);
+}
+
+void CaptionButton::SetCaption(const QString& caption) {
+  if (caption == caption_) return;
+  caption_ = caption;
+  QString text = caption;
+  text.replace(u'&', QStringLiteral("&&"));
+  const qsizetype at = accessKey_.isNull() ? -1 : text.indexOf(accessKey_);
+  if (at >= 0) text.insert(at, u'&');
+  setText(text);
+}
+
+void CaptionButton::paintEvent(QPaintEvent*) {
+  QStylePainter painter(this);
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  option.text.clear();
+  option.state &= ~QStyle::State_HasFocus;
+  painter.drawControl(QStyle::CE_PushButton, option);
+  painter.setPen(palette().color(QPalette::ButtonText));
+  DrawFitted(painter, rect().adjusted(5, 2, -5, -2), Qt::AlignCenter, text(), font());
+  if (hasFocus()) DrawFocusRing(painter, rect());
+}
+
+template <class Base>
+CaptionChoice<Base>::CaptionChoice(QWidget* parent) : Base(parent) {
+  // Which of a group is on is not for the widgets to say.
+  this->setAutoExclusive(false);
+  this->setFocusPolicy(Qt::StrongFocus);
+  KeepClicks(this);
+}
+
+template <class Base>
+void CaptionChoice<Base>::SetColour(int colour) {
+  if (colour_ == colour) return;
+  colour_ = colour;
+  this->update();
+}
+
+template <class Base>
+void CaptionChoice<Base>::paintEvent(QPaintEvent*) {
+  QStylePainter painter(this);
+  QStyleOptionButton option;
+  this->initStyleOption(&option);
+  constexpr bool isRadio = std::is_same_v<Base, QRadioButton>;
+  const int size = this->style()->pixelMetric(
+      isRadio ? QStyle::PM_ExclusiveIndicatorWidth : QStyle::PM_IndicatorWidth, &option, this);
+  option.rect = QRect(2, (this->height() - size) / 2, size, size);
+  painter.drawPrimitive(isRadio ? QStyle::PE_IndicatorRadioButton : QStyle::PE_IndicatorCheckBox, option);
+  QColor ink = this->palette().color(QPalette::WindowText);
+  if (colour_ != -1) {
+    ink = Readable(QColor(colour_ & 0xFF, colour_ >> 8 & 0xFF, colour_ >> 16 & 0xFF));
+    if (!this->isEnabled()) ink.setAlpha(110);
+  }
+  painter.setPen(ink);
+  DrawFitted(painter, this->rect().adjusted(kIndicatorRoom, 0, -2, 0), Qt::AlignLeft | Qt::AlignVCenter,
+             this->text(), this->font());
+  if (this->hasFocus()) DrawFocusRing(painter, this->rect());
+}
+
+template class CaptionChoice<QRadioButton>;
+template class CaptionChoice<QCheckBox>;
+
+// ---- Labels and containers ----
+
+CaptionLabel::CaptionLabel(QWidget* parent) : QLabel(parent) {
+  setTextFormat(Qt::PlainText);
+  setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  KeepClicks(this);
+}
+
+void CaptionLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::WindowText));
+  DrawFitted(painter, rect(), static_cast<int>(alignment()),
+             QString(text()).replace(u'&', QStringLiteral("&&")), font());
+}
+
+void CaptionFrame::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QColor(look::kFrameLine));
+  painter.setBrush(QColor(look::kFrameGround));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+  int contents = height();
+  for (const QObject* child : children())
+    if (const auto* widget = qobject_cast<const QWidget*>(child)) contents = std::min(contents, widget->y());
+  QFont bold = font();
+  bold.setBold(true);
+  QColor ink(look::kInk);
+  if (!isEnabled()) ink.setAlpha(110);
+  painter.setPen(ink);
+  DrawFitted(painter, QRect(8, 3, width() - 12, contents - 3), Qt::AlignLeft | Qt::AlignTop, title(), bold);
+}
+
+void PanelWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()) && onClick) onClick();
+}
+
+// ---- Tabs ----
+
+namespace {
+
+class TallTabBar : public QTabBar {
+ public:
+  using QTabBar::QTabBar;
+
+ protected:
+  QSize tabSizeHint(int index) const override {
+    const int text = fontMetrics().horizontalAdvance(WithoutAccessKey(tabText(index)));
+    return {std::max(text + 2 * kTabPadding, kTabWidth), kTabHeight};
+  }
+  void paintEvent(QPaintEvent* event) override {
+    QTabBar::paintEvent(event);
+    if (!hasFocus()) return;
+    QPainter painter(this);
+    DrawFocusRing(painter, tabRect(currentIndex()).adjusted(3, 3, -3, -2));
+  }
+};
+
+}  // namespace
+
+TabPages::TabPages(QWidget* parent) : QWidget(parent), bar_(new TallTabBar(this)) {
+  QFont bold = bar_->font();
+  bold.setBold(true);
+  bar_->setFont(bold);
+  bar_->setDrawBase(false);
+  bar_->setExpanding(false);
+  bar_->setUsesScrollButtons(false);
+  bar_->setElideMode(Qt::ElideNone);
+  bar_->setFocusPolicy(Qt::StrongFocus);
+  // The access keys are letters that no button of a workspace needs.
+  for (const char* caption : {"&PAST", "FUT&URE", "&TOTAL"}) {
+    bar_->addTab(QString::fromLatin1(caption));
+    pages_.push_back(new QWidget(this));
+  }
+  bar_->move(kTabLeft, kTabTop);
+  bar_->raise();
+  SetTab(0);
+}
+
+void TabPages::SetTab(int tab) {
+  bar_->setCurrentIndex(tab);
+  for (std::size_t i = 0; i < pages_.size(); ++i) pages_[i]->setVisible(static_cast<int>(i) == tab);
+}
+
+void TabPages::resizeEvent(QResizeEvent*) {
+  bar_->resize(bar_->sizeHint());
+  for (QWidget* page : pages_) page->setGeometry(rect());
+}
+
+void TabPages::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QColor(look::kFrameLine));
+  painter.setBrush(QColor(look::kPanelGround));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, kTabTop + kTabHeight - 1.5, -2.5, -0.5), 3, 3);
+}
+
+}  // namespace vicetoll

@@ -1,0 +1,139 @@
+// The widgets that controls are shown by. They look like something and pass on what a user does; what they
+// show is set from outside, and a user's action changes nothing of it by itself.
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace vicetoll {
+
+class EntryModel;
+
+// A drop-down list, white on blue. It can show a text that is none of its entries.
+class BlueList : public QComboBox {
+ public:
+  explicit BlueList(QWidget* parent);
+
+  // Replaces the entries, where they differ from what is there.
+  void SetEntries(const std::vector<std::string>& entries);
+  const std::vector<std::string>& Entries() const;
+  void SetShown(const QString& text, int position);
+  QString ShownText() const;
+
+  void showPopup() override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  void PaintArrow(QPainter& painter, const QRect& room) const;
+
+  EntryModel* entries_;
+  QString text_;
+  bool popupColoured_ = false;
+};
+
+// A box that shows a result: right-aligned, to be read, selected and copied, not to be typed into.
+class ResultBox : public QLineEdit {
+ public:
+  explicit ResultBox(QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+class CaptionButton : public QPushButton {
+ public:
+  explicit CaptionButton(QWidget* parent);
+
+  // Alt and this letter, or none. It must occur in the caption to be underlined there.
+  void SetAccessKey(QChar letter) { accessKey_ = letter; }
+  void SetCaption(const QString& caption);
+  const QString& Caption() const { return caption_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString caption_;
+  QChar accessKey_;
+};
+
+// An option, a radio or a check box. A click leaves its value as it is: whoever hears of the click sets it.
+template <class Base>
+class CaptionChoice : public Base {
+ public:
+  explicit CaptionChoice(QWidget* parent);
+
+  // A colour of the core's making for the caption, -1 for the window's own.
+  void SetColour(int colour);
+  int Colour() const { return colour_; }
+
+ protected:
+  void nextCheckState() override {}
+  bool hitButton(const QPoint& point) const override { return this->rect().contains(point); }
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  int colour_ = -1;
+};
+using RadioWidget = CaptionChoice<QRadioButton>;
+using CheckWidget = CaptionChoice<QCheckBox>;
+
+class CaptionLabel : public QLabel {
+ public:
+  explicit CaptionLabel(QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+// A frame with its caption in the room above what stands in it.
+class CaptionFrame : public QGroupBox {
+ public:
+  explicit CaptionFrame(QWidget* parent) : QGroupBox(parent) {}
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+// A background panel that takes clicks. Its ground is that of the tabs.
+class PanelWidget : public QWidget {
+ public:
+  explicit PanelWidget(QWidget* parent) : QWidget(parent) {}
+  std::function<void()> onClick;
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
+};
+
+// A tab control: a bar over three pages, of which one is in front. The pages cover all of it, so that what
+// stands on them may stand beside the bar too.
+class TabPages : public QWidget {
+ public:
+  explicit TabPages(QWidget* parent);
+
+  QTabBar* Bar() const { return bar_; }
+  QWidget* Page(int page) const { return pages_.at(page); }
+  void SetTab(int tab);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  QTabBar* bar_;
+  std::vector<QWidget*> pages_;
+};
+
+}  // namespace vicetoll
