@@ -1,0 +1,185 @@
+// window-pictures FOLDER [POINTS]: draws every window and tab to PNG files, to be looked at. POINTS is the
+// size of the system font to try. The scale is Qt's: QT_SCALE_FACTOR=2.
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QDir>
+#include <QHash>
+#include <QHelpEvent>
+#include <QImage>
+#include <QPixmap>
+#include <QSet>
+#include <algorithm>
+#include <cstdio>
+
+#include "desktop/desktop.h"
+#include "desktop/form_window.h"
+#include "desktop/look.h"
+#include "desktop/widgets.h"
+#include "scenario/scripted_platform.h"
+
+namespace vicetoll {
+namespace {
+
+// A table of 256 colours for an image: the most frequent one of each kind of colour, so that none gets lost,
+// and then the most frequent ones. `colours` begins with the most frequent.
+QList<QRgb> ColourTable(const QList<QRgb>& colours) {
+  constexpr int kKinds = 200, kSize = 256;
+  QList<QRgb> table;
+  QSet<QRgb> kinds;
+  for (const QRgb colour : colours) {
+    const QRgb kind = colour & 0xE0E0E0;
+    if (table.size() == kKinds || kinds.contains(kind)) continue;
+    kinds.insert(kind);
+    table.append(colour);
+  }
+  for (const QRgb colour : colours)
+    if (table.size() < kSize && !table.contains(colour)) table.append(colour);
+  return table;
+}
+
+// The image in 256 colours, the others turned into their nearest: small files that look the same.
+QImage WithFewColours(const QImage& image) {
+  QHash<QRgb, int> counts;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) ++counts[image.pixel(x, y)];
+  QList<QRgb> colours = counts.keys();
+  std::ranges::sort(colours,
+                    [&](QRgb a, QRgb b) { return counts[a] != counts[b] ? counts[a] > counts[b] : a < b; });
+  const QList<QRgb> table = ColourTable(colours);
+  const auto distance = [](QRgb a, QRgb b) {
+    const int red = qRed(a) - qRed(b), green = qGreen(a) - qGreen(b), blue = qBlue(a) - qBlue(b);
+    return red * red + green * green + blue * blue;
+  };
+  QHash<QRgb, int> indexOf;
+  for (const QRgb colour : colours) {
+    const auto nearest = std::ranges::min_element(table, {}, [&](QRgb t) { return distance(t, colour); });
+    indexOf[colour] = static_cast<int>(nearest - table.begin());
+  }
+  QImage small(image.size(), QImage::Format_Indexed8);
+  small.setColorTable(table);
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) small.setPixel(x, y, indexOf[image.pixel(x, y)]);
+  return small;
+}
+
+class Pictures {
+ public:
+  Pictures(Program& program, Desktop& desktop, QString folder)
+      : program_(program), desktop_(desktop), folder_(std::move(folder)) {}
+
+  void All() {
+    Tab(0, 0, "smoking-past");
+    Hover(0, "frmRatesPast", "balloon");
+    OpenList(0, "comInterestRate1Past", "list");
+    Commit(0, Side::Past, "Jun - 2020");
+    Tab(0, 0, "smoking-past-set");
+    Tab(0, 1, "smoking-future");
+    Commit(0, Side::Future, "Jul - 2030");
+    Tab(0, 1, "smoking-future-set");
+    Tab(0, 2, "smoking-total");
+    Reports();
+    for (const int sin : {1, 2, 3, 4, 5, 8, 10, 11}) {
+      Switch(sin);
+      const std::string key = program_.At(sin).Name();
+      Tab(sin, 1, (key + "-future").c_str());
+      if (sin == 3) Tab(sin, 2, (key + "-total").c_str());
+    }
+    Picture(program_.Combined(), "combined", [this] {
+      program_.Combined().Show();
+      program_.Combined().PopulateCombResultsText();
+    });
+    Picture(program_.Info(), "help", [this] { program_.Info().ShowHelpFile(); });
+    Identification();
+  }
+
+ private:
+  FormWindow& Window(Form& form) { return desktop_.WindowOf(form); }
+
+  void Save(QWidget& window, const char* name) {
+    for (int i = 0; i < 5; ++i) QApplication::processEvents();
+    const QString path = folder_ + u'/' + QString::fromLatin1(name).toLower() + QStringLiteral(".png");
+    const QImage image = WithFewColours(window.grab().toImage().convertToFormat(QImage::Format_RGB32));
+    if (!image.save(path, "PNG", 0)) std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
+  }
+  void Picture(Form& form, const char* name, const std::function<void()>& action) {
+    desktop_.Enter(action);
+    Save(Window(form), name);
+  }
+  void Tab(int sin, int tab, const char* name) {
+    SinWorkspace& ws = program_.At(sin);
+    Picture(ws, name, [&] { ws.SSTab_PastFutureSwitch->UserSelects(tab); });
+  }
+  void Commit(int sin, Side side, std::string_view stop) {
+    SinWorkspace& ws = program_.At(sin);
+    SideControls& c = ws.Of(side);
+    desktop_.Enter([&] {
+      c.comStop->UserFocuses();
+      c.comStop->UserPicks(stop);
+      c.cmdSetPeriodParams->UserClicks();
+    });
+    desktop_.Enter([&] { c.optTimePeriod(2).UserClicks(); });
+    desktop_.Enter([&] { c.cmdSetPeriodParams->UserClicks(); });
+  }
+  void Switch(int sin) {
+    SinWorkspace& from = program_.GetSession().CurrentSinKey.empty() ? program_.At(0) : program_.Current();
+    Picture(program_.Chooser(), "chooser", [&] { from.cmdSwitchSins->UserClicks(); });
+    desktop_.Enter([&] { program_.Chooser().Get<Option>("OptSwitchSins", sin).UserClicks(); });
+  }
+  void Hover(int sin, const char* control, const char* name) {
+    FormWindow& window = Window(program_.At(sin));
+    QWidget* widget = window.WidgetOf(*program_.At(sin).Find(control));
+    QHelpEvent hover(QEvent::ToolTip, QPoint(5, 5), widget->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(widget, &hover);
+    Save(window, name);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(widget, &leave);
+  }
+  void OpenList(int sin, const char* control, const char* name) {
+    auto* list = dynamic_cast<BlueList*>(Window(program_.At(sin)).WidgetOf(*program_.At(sin).Find(control)));
+    list->showPopup();
+    Save(*list->view()->window(), name);
+    list->hidePopup();
+  }
+  void Reports() {
+    SinWorkspace& ws = program_.At(0);
+    Picture(program_.Spd(), "grid", [&] { ws.cmdAdvResultsSpdSummaryTot->UserClicks(); });
+    Picture(program_.Doc(), "document-table", [&] { ws.cmdAdvResultsDocSummaryTot->UserClicks(); });
+    Picture(program_.Doc(), "document-table-wide", [&] { program_.Doc().UserResizes(19200, 12000); });
+    Picture(program_.Doc(), "document-text", [&] { program_.Doc().Get<Option>("Opt_Doc").UserClicks(); });
+    for (Form* form : {static_cast<Form*>(&program_.Spd()), static_cast<Form*>(&program_.Doc())})
+      desktop_.Enter([&] { form->Get<Button>("cmdExit").UserClicks(); });
+  }
+  void Identification() {
+    Switch(0);
+    SinWorkspace& ws = program_.At(0);
+    Tab(0, 2, "smoking-total-empty");
+    desktop_.Enter([&] { ws.Get<Panel>("SSPanel_BackColor", 2).UserClicks(); });
+    Picture(ws, "identification", [&] { ws.Get<Button>("cmdRevealDeveloper").UserClicks(); });
+  }
+
+  Program& program_;
+  Desktop& desktop_;
+  QString folder_;
+};
+
+}  // namespace
+}  // namespace vicetoll
+
+int main(int argc, char** argv) {
+  using namespace vicetoll;
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  if (argc < 2) return 2;
+  ApplyLook(application);
+  if (argc > 2) {
+    QFont font = QApplication::font();
+    font.setPointSize(std::atoi(argv[2]));
+    QApplication::setFont(font);
+  }
+  QDir().mkpath(QString::fromLocal8Bit(argv[1]));
+  ScriptedPlatform platform([](const std::string&) {});
+  Program program(platform);
+  Desktop desktop(program);
+  Pictures(program, desktop, QString::fromLocal8Bit(argv[1])).All();
+  return 0;
+}

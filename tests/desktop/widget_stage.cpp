@@ -1,0 +1,276 @@
+#include "desktop/widget_stage.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QTest>
+#include <QTimer>
+#include <iostream>
+
+#include "desktop/document_view.h"
+#include "desktop/form_window.h"
+#include "desktop/grid_model.h"
+#include "desktop/grid_view.h"
+#include "desktop/look.h"
+#include "desktop/qt_platform.h"
+#include "desktop/text.h"
+#include "desktop/widgets.h"
+#include "scenario/script.h"
+
+namespace vicetoll {
+namespace {
+
+constexpr int kActivationMilliseconds = 1000;
+
+// Text as an input method brings it: in one piece, in the place of what is selected.
+void Enter(QWidget& widget, const QString& text) {
+  if (text.isEmpty()) return QTest::keyClick(&widget, Qt::Key_Delete);
+  QInputMethodEvent typing;
+  typing.setCommitString(text);
+  QApplication::sendEvent(&widget, &typing);
+}
+
+QString CaptionOf(const QWidget& widget) {
+  if (const auto* button = dynamic_cast<const CaptionButton*>(&widget)) return button->Caption();
+  if (const auto* choice = qobject_cast<const QAbstractButton*>(&widget))
+    return WithoutAccessKey(choice->text());
+  if (const auto* frame = dynamic_cast<const CaptionFrame*>(&widget)) return frame->title();
+  if (const auto* label = dynamic_cast<const CaptionLabel*>(&widget)) return label->text();
+  return {};
+}
+
+int ColourOf(const QWidget& widget) {
+  if (const auto* radio = dynamic_cast<const RadioWidget*>(&widget)) return radio->Colour();
+  return -1;
+}
+
+std::string TextOf(const QWidget& widget) {
+  if (const auto* list = dynamic_cast<const BlueList*>(&widget)) return FromQt(list->ShownText());
+  if (const auto* box = dynamic_cast<const ResultBox*>(&widget)) return FromQt(box->text());
+  if (const auto* edit = dynamic_cast<const DocumentEdit*>(&widget)) return edit->Text();
+  if (const auto* page = dynamic_cast<const PageBrowser*>(&widget)) return page->Text();
+  return {};
+}
+
+}  // namespace
+
+WidgetStage::WidgetStage(Program& program) : desktop_(program) {
+  desktop_.onFault = [this](const Fault& fault) { fault_ = fault; };
+}
+
+FormWindow& WidgetStage::Window(Form& form) {
+  desktop_.Flush();
+  return desktop_.WindowOf(form);
+}
+
+template <class W>
+W& WidgetStage::Widget(Control& control) {
+  return dynamic_cast<W&>(*Window(control.Window()).WidgetOf(control));
+}
+
+// Whether a user reaches the control; if so, its window comes to the front, as it would by the user's click.
+bool WidgetStage::Reaches(Control& control) {
+  FormWindow& window = Window(control.Window());
+  if (window.isVisible()) Activate(window);
+  if (QAction* entry = window.MenuEntryOf(control))
+    return window.isVisible() && entry->isVisible() && entry->isEnabled();
+  QWidget* widget = window.WidgetOf(control);
+  return widget->isVisible() && widget->isEnabled();
+}
+
+// Widgets of a window that is not the active one get no focus.
+void WidgetStage::Activate(QWidget& window) {
+  if (window.isActiveWindow()) return;
+  window.activateWindow();
+  if (!QTest::qWaitForWindowActive(&window, kActivationMilliseconds))
+    std::cerr << "a window could not be made the active one\n";
+}
+
+UserOutcome WidgetStage::Done() {
+  desktop_.Flush();
+  if (fault_) throw Fault(*fault_);
+  return UserOutcome::Done;
+}
+
+UserOutcome WidgetStage::Focus(Control& control) {
+  if (!Reaches(control)) return UserOutcome::Refused;
+  QWidget& widget = Widget<QWidget>(control);
+  if (widget.focusPolicy() == Qt::NoFocus) return Done();
+  if (widget.hasFocus()) widget.clearFocus();
+  widget.setFocus(Qt::TabFocusReason);
+  return Done();
+}
+
+UserOutcome WidgetStage::Choose(DropDownList& list, int position) {
+  if (!Reaches(list)) return UserOutcome::Refused;
+  auto& widget = Widget<BlueList>(list);
+  if (position < 0 || position >= widget.count()) return UserOutcome::NoEntry;
+  widget.showPopup();
+  QCoreApplication::processEvents();
+  widget.view()->setCurrentIndex(widget.model()->index(position, 0));
+  QTest::keyClick(widget.view(), Qt::Key_Return);
+  return Done();
+}
+
+UserOutcome WidgetStage::Click(Control& control) {
+  if (!Reaches(control)) return UserOutcome::Refused;
+  if (QAction* entry = Window(control.Window()).MenuEntryOf(control)) {
+    entry->trigger();
+    return Done();
+  }
+  QWidget& widget = Widget<QWidget>(control);
+  // A click on anything else does nothing, but a list would open.
+  if (qobject_cast<QAbstractButton*>(&widget) != nullptr || dynamic_cast<PanelWidget*>(&widget) != nullptr)
+    QTest::mouseClick(&widget, Qt::LeftButton);
+  return Done();
+}
+
+UserOutcome WidgetStage::SelectTab(TabControl& tabs, int tab) {
+  if (!Reaches(tabs)) return UserOutcome::Refused;
+  QTabBar* bar = Widget<TabPages>(tabs).Bar();
+  QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(tab).center());
+  return Done();
+}
+
+UserOutcome WidgetStage::Type(Control& control, std::string_view text) {
+  if (control.Kind() != ControlKind::List && control.Kind() != ControlKind::DocumentText)
+    throw BadLine(control.FullName() + " takes no typing");
+  if (!Reaches(control)) return UserOutcome::Refused;
+  if (control.Kind() == ControlKind::List) {
+    auto& list = Widget<BlueList>(control);
+    if (!list.isEditable()) return UserOutcome::Refused;
+    list.lineEdit()->selectAll();
+    Enter(*list.lineEdit(), ToQt(text));
+    return Done();
+  }
+  auto& edit = Widget<DocumentEdit>(control);
+  edit.selectAll();
+  Enter(edit, ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n'));
+  QTest::keyClick(&edit, Qt::Key_Home, Qt::ControlModifier);
+  return Done();
+}
+
+UserOutcome WidgetStage::Resize(Form& form, int width, int height) {
+  FormWindow& window = Window(form);
+  if (!window.isVisible()) return UserOutcome::Refused;
+  window.resize(ToPixels(width), ToPixels(height));
+  // The window tells when sizes have settled; the scenario's is settled, to the twip.
+  window.TakeSize(width, height);
+  return Done();
+}
+
+UserOutcome WidgetStage::SelectText(DocumentText& document, int start, int length) {
+  if (!Reaches(document)) return UserOutcome::Refused;
+  auto& edit = Widget<DocumentEdit>(document);
+  edit.Select(start, length);
+  // Between the two characters of an end of line no cursor can stand.
+  if (document.SelStart() != start || document.SelLength() != length)
+    desktop_.Enter([&] { document.UserSelects(start, length); });
+  return Done();
+}
+
+UserOutcome WidgetStage::SelectCells(Grid& grid, const CellSpan& cells) {
+  if (!Reaches(grid)) return UserOutcome::Refused;
+  auto& table = Widget<GridWidget>(grid);
+  const auto inside = [&](int row, int column) {
+    return row >= 0 && row < grid.RowCount() && column >= 0 && column < Grid::kColumns;
+  };
+  if (!inside(cells.row, cells.col) || !inside(cells.rowSel, cells.colSel)) return UserOutcome::NoEntry;
+  if (cells.row == 0 || cells.rowSel == 0) {  // the header takes no selection
+    desktop_.Enter([&] { grid.UserSelects(cells.row, cells.col, cells.rowSel, cells.colSel); });
+    return Done();
+  }
+  const auto click = [&](int row, int column, Qt::KeyboardModifiers keys) {
+    const QModelIndex index = table.model()->index(row - 1, column);
+    table.scrollTo(index);
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, keys, table.visualRect(index).center());
+  };
+  click(cells.row, cells.col, Qt::NoModifier);
+  if (cells.row != cells.rowSel || cells.col != cells.colSel)
+    click(cells.rowSel, cells.colSel, Qt::ShiftModifier);
+  return Done();
+}
+
+ControlState WidgetStage::Read(Control& control) {
+  ControlState state;
+  FormWindow& window = Window(control.Window());
+  if (const QAction* entry = window.MenuEntryOf(control)) {
+    state.caption = FromQt(entry->text());
+    state.enabled = entry->isEnabled();
+    state.visible = entry->isVisible();
+    return state;
+  }
+  const QWidget& widget = *window.WidgetOf(control);
+  state.enabled = !widget.testAttribute(Qt::WA_ForceDisabled);
+  state.visible = !widget.isHidden();
+  state.caption = FromQt(CaptionOf(widget));
+  state.colour = ColourOf(widget);
+  state.text = TextOf(widget);
+  state.length = static_cast<int>(state.text.size());
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) state.value = button->isChecked();
+  if (const auto* list = dynamic_cast<const BlueList*>(&widget)) {
+    state.position = list->currentIndex();
+    state.entries = list->count();
+  }
+  if (const auto* tabs = dynamic_cast<const TabPages*>(&widget)) state.tab = tabs->Bar()->currentIndex();
+  if (auto* grid = dynamic_cast<Grid*>(&control)) state.rows = static_cast<int>(Rows(*grid).size());
+  return state;
+}
+
+FormState WidgetStage::Read(Form& form) {
+  const FormWindow& window = Window(form);
+  FormState state{FromQt(window.windowTitle()), window.isVisible(), ToTwips(window.width()),
+                  ToTwips(window.height())};
+  // A pixel is 15 twips: the form knows which of them.
+  if (ToPixels(form.Width()) == window.width()) state.width = form.Width();
+  if (ToPixels(form.Height()) == window.height()) state.height = form.Height();
+  return state;
+}
+
+std::vector<std::string> WidgetStage::Entries(DropDownList& list) { return Widget<BlueList>(list).Entries(); }
+
+std::string WidgetStage::Text(Control& control) { return TextOf(Widget<QWidget>(control)); }
+
+std::vector<std::vector<std::string>> WidgetStage::Rows(Grid& grid) {
+  auto& table = Widget<GridWidget>(grid);
+  const GridModel& cells = table.Cells();
+  std::vector<std::vector<std::string>> rows;
+  if (grid.HasHeading()) {
+    rows.emplace_back();
+    for (int c = 0; c < Grid::kColumns; ++c)
+      rows.back().push_back(FromQt(cells.headerData(c, Qt::Horizontal, Qt::DisplayRole).toString()));
+  }
+  for (int r = 0; r < cells.rowCount({}); ++r) {
+    rows.emplace_back();
+    for (int c = 0; c < Grid::kColumns; ++c) rows.back().push_back(cells.Cell(r, c));
+  }
+  return rows;
+}
+
+CellSpan WidgetStage::Selection(Grid& grid) {
+  auto& table = Widget<GridWidget>(grid);
+  const QItemSelection selected = table.selectionModel()->selection();
+  // What reaches into the heading the table cannot show.
+  if (selected.isEmpty() || grid.Row() == 0 || grid.RowSel() == 0)
+    return {grid.Row(), grid.Col(), grid.RowSel(), grid.ColSel()};
+  const CellRange cells = table.SelectedCells();
+  return {cells.row, cells.col, cells.rowSel, cells.colSel};
+}
+
+Answer WidgetPlatform::ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) {
+  const Answer answer = ScriptedPlatform::ShowMessage(title, text, buttons);
+  if (desktop != nullptr) desktop->Flush();
+  const std::unique_ptr<QMessageBox> box = MakeMessageBox(title, text, buttons);
+  QTimer::singleShot(0, box.get(), [&] {
+    const auto which = answer == Answer::Ok ? QMessageBox::Ok : QMessageBox::Cancel;
+    if (QAbstractButton* button = box->button(which))
+      QTest::mouseClick(button, Qt::LeftButton);
+    else
+      box->reject();
+  });
+  const bool ok = box->exec() == QMessageBox::Ok;
+  return ok ? Answer::Ok : Answer::Cancel;
+}
+
+}  // namespace vicetoll

@@ -1,0 +1,446 @@
+// What holds for the real windows beyond what scenarios can say: that every control is there, to be seen,
+// reached and named; that widgets show what controls say; what closing, help and printing do.
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QHelpEvent>
+#include <QMessageBox>
+#include <QPrinter>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include "desktop/balloon.h"
+#include "desktop/desktop.h"
+#include "desktop/document_view.h"
+#include "desktop/form_window.h"
+#include "desktop/look.h"
+#include "desktop/printing.h"
+#include "desktop/run_program.h"
+#include "desktop/text.h"
+#include "desktop/widgets.h"
+#include "scenario/scripted_platform.h"
+
+namespace vicetoll {
+namespace {
+
+// ---- Whole runs ----
+
+QWidget* WindowNamed(const char* name) {
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (window->objectName() == name) return window;
+  return nullptr;
+}
+
+void ClickIn(const char* window, const char* control) {
+  QTest::mouseClick(WindowNamed(window)->findChild<QWidget*>(control), Qt::LeftButton);
+}
+
+// Acts on the next modal box of that class once it is up, and again until it goes.
+template <class Box>
+void WhenUp(std::function<void(Box&)> action) {
+  QTimer::singleShot(20, [action] {
+    auto* box = qobject_cast<Box*>(QApplication::activeModalWidget());
+    if (box != nullptr) action(*box);
+    if (box == nullptr || box->isVisible()) WhenUp<Box>(action);
+  });
+}
+
+// Saves a report into a folder that has just gone, and reads what the program then says.
+TEST(Run, EndsAfterAFatalFaultThatItTells) {
+  QTemporaryDir room;
+  const QString path = room.filePath("report.txt");
+  QString told;
+  WhenUp<QFileDialog>([&](QFileDialog& dialog) {
+    dialog.findChild<QLineEdit*>("fileNameEdit")->setText(path);
+    QMetaObject::invokeMethod(&dialog, "accept");
+    if (!dialog.isVisible()) room.remove();
+  });
+  WhenUp<QMessageBox>([&told](QMessageBox& box) {
+    told = box.text();
+    box.accept();
+  });
+  QTimer::singleShot(0, [] {
+    ClickIn("Smoking", "cmdSetPeriodParamsPast");
+    ClickIn("Smoking", "cmdAdvResultsDocPast");
+    ClickIn("frmAdvResultsDoc", "cmdSaveAs");
+  });
+  EXPECT_EQ(RunProgram(*qobject_cast<QApplication*>(QCoreApplication::instance())), 1);
+  EXPECT_TRUE(told.contains(path)) << told.toStdString();
+  EXPECT_TRUE(told.contains("Results that were not saved are gone.")) << told.toStdString();
+}
+
+TEST(Run, EndsWithStatusZeroByItsExitButton) {
+  QTimer::singleShot(0, [] { ClickIn("Smoking", "cmdExit"); });
+  EXPECT_EQ(RunProgram(*qobject_cast<QApplication*>(QCoreApplication::instance())), 0);
+}
+
+// ---- Windows ----
+
+class Windows : public testing::Test {
+ protected:
+  FormWindow& Of(Form& form) { return desktop.WindowOf(form); }
+  QWidget& Widget(Form& form, const char* name) { return *Of(form).WidgetOf(*form.Find(name)); }
+  SinWorkspace& Smoking() { return program.At(0); }
+
+  // Brings a sin's window to the front, as the chooser would.
+  SinWorkspace& Visit(int sin) {
+    desktop.Enter([&] { program.Current().cmdSwitchSins->UserClicks(); });
+    desktop.Enter([&] { program.Chooser().Get<Option>("OptSwitchSins", sin).UserClicks(); });
+    return program.At(sin);
+  }
+  void Open(SinWorkspace& ws, int tab) {
+    desktop.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(tab); });
+  }
+  void Activate(QWidget& window) {
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window, 2000));
+  }
+  void Hover(QWidget& widget) {
+    QHelpEvent hover(QEvent::ToolTip, QPoint(3, 3), widget.mapToGlobal(QPoint(3, 3)));
+    QApplication::sendEvent(&widget, &hover);
+  }
+
+  ScriptedPlatform platform{[](const std::string&) {}};
+  Program program{platform};
+  Desktop desktop{program};
+};
+
+TEST_F(Windows, HaveAWidgetForEveryControlUnderItsName) {
+  for (const char* name : {"Smoking", "Drinking", "Gambling", "Coffeeing", "frmSwitchSins", "frmCombRes",
+                           "frmInfo", "frmAdvResultsSpd", "frmAdvResultsDoc"}) {
+    Form& form = *program.Window(name);
+    for (const auto& control : form.Controls()) {
+      const QString full = ToQt(control->FullName());
+      const bool isEntry = control->Kind() == ControlKind::MenuEntry;
+      EXPECT_TRUE(isEntry ? Of(form).findChild<QAction*>(full) != nullptr
+                          : Of(form).findChild<QWidget*>(full) != nullptr)
+          << name << " " << control->FullName();
+    }
+  }
+}
+
+TEST_F(Windows, AreNotMadeBeforeTheyAreShown) {
+  program.At(5);
+  desktop.Flush();
+  for (QWidget* window : QApplication::topLevelWidgets()) EXPECT_NE(window->objectName(), "Jailing");
+}
+
+TEST_F(Windows, HaveTheSizeOfTheirFormInPixels) {
+  EXPECT_EQ(Of(Smoking()).size(), QSize(800, 750));
+  Open(Smoking(), kFutureTab);  // the euro button goes
+  EXPECT_EQ(Of(Smoking()).size(), QSize(800, 700));
+}
+
+TEST_F(Windows, SnapBackFromASizeThatIsTooLarge) {
+  Of(Smoking()).resize(1200, 750);
+  QTRY_COMPARE_WITH_TIMEOUT(Of(Smoking()).size(), QSize(800, 750), 2000);
+  Of(Smoking()).resize(900, 800);
+  QTRY_COMPARE_WITH_TIMEOUT(Smoking().Height(), 12000, 2000);
+  EXPECT_EQ(Widget(Smoking(), "cmdExit").y(), ToPixels(12000 - 875 - 600));
+}
+
+// ---- Layout ----
+
+QRect RoomForText(const QWidget& widget) {
+  if (dynamic_cast<const CaptionButton*>(&widget)) return widget.rect().adjusted(5, 2, -5, -2);
+  if (qobject_cast<const QAbstractButton*>(&widget)) return widget.rect().adjusted(20, 0, -2, 0);
+  if (dynamic_cast<const BlueList*>(&widget)) return widget.rect().adjusted(7, 1, -20, -1);
+  return widget.rect();
+}
+
+QString ShownText(const QWidget& widget) {
+  if (const auto* button = dynamic_cast<const CaptionButton*>(&widget)) return button->Caption();
+  if (const auto* choice = qobject_cast<const QAbstractButton*>(&widget)) return choice->text();
+  if (const auto* list = dynamic_cast<const BlueList*>(&widget)) return list->ShownText();
+  if (const auto* label = dynamic_cast<const CaptionLabel*>(&widget)) return label->text();
+  return {};
+}
+
+// No visible widget lies over another or leaves its container, and no text needs a font below `smallest`.
+void CheckLayout(FormWindow& window, const Form& form, double smallest) {
+  std::vector<const QWidget*> seen;
+  for (const auto& control : form.Controls()) {
+    const QWidget* widget = window.WidgetOf(*control);
+    if (widget == nullptr || !widget->isVisible() || control->Kind() == ControlKind::Panel ||
+        control->Name() == "cmdRevealDeveloper")
+      continue;
+    const std::string name = form.Name() + " " + control->FullName();
+    EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry()))
+        << name << " leaves its container";
+    for (const QWidget* other : seen) {
+      const bool overlaps =
+          other->parentWidget() == widget->parentWidget() && other->geometry().intersects(widget->geometry());
+      EXPECT_FALSE(overlaps) << name << " overlaps " << other->objectName().toStdString();
+    }
+    seen.push_back(widget);
+    const QString text = ShownText(*widget);
+    const QFont font = FittedFont(text, RoomForText(*widget).size(), widget->font());
+    EXPECT_GE(font.pointSizeF(), smallest) << name << ": " << text.toStdString();
+  }
+}
+
+class Layout : public Windows, public testing::WithParamInterface<int> {
+ protected:
+  Layout() {
+    QFont font = QApplication::font();
+    usual_ = font.pointSize();
+    font.setPointSize(GetParam());
+    QApplication::setFont(font);
+  }
+  ~Layout() override {
+    QFont font = QApplication::font();
+    font.setPointSize(usual_);
+    QApplication::setFont(font);
+  }
+
+ private:
+  int usual_;
+};
+
+TEST_P(Layout, CutsNothingOffAndOverlapsNothing) {
+  // The usual font stays as it is, but for a caption or two; a large one shrinks where it must.
+  const double smallest = GetParam() == 9 ? 8.5 : 8;
+  for (int sin = 0; sin < kSinCount; ++sin) {
+    SinWorkspace& ws = Visit(sin);
+    for (const int tab : {kPastTab, kFutureTab, kTotalTab}) {
+      Open(ws, tab);
+      CheckLayout(Of(ws), ws, smallest);
+    }
+    for (Side side : kSides) {
+      Open(ws, side == Side::Past ? kPastTab : kFutureTab);
+      desktop.Enter([&] { ws.Of(side).cmdSetPeriodParams->UserClicks(); });
+      if (ws.Of(side).OptCigInitialFinalCostIncrease != nullptr)
+        desktop.Enter([&] { ws.Of(side).OptCigInitialFinalCostIncrease->UserClicks(); });
+      desktop.Enter([&] { ws.Of(side).secondUnit->UserClicks(); });
+      CheckLayout(Of(ws), ws, smallest);
+    }
+    Open(ws, kTotalTab);
+    CheckLayout(Of(ws), ws, smallest);
+  }
+  desktop.Enter([&] { program.Combined().Show(); });
+  CheckLayout(Of(program.Combined()), program.Combined(), smallest);
+  desktop.Enter([&] { program.Chooser().Show(); });
+  CheckLayout(Of(program.Chooser()), program.Chooser(), smallest);
+}
+
+INSTANTIATE_TEST_SUITE_P(Fonts, Layout, testing::Values(9, 12), testing::PrintToStringParamName());
+
+// ---- In step with the controls ----
+
+TEST_F(Windows, OptionsShowWhatTheControlsSay) {
+  auto& fine = dynamic_cast<RadioWidget&>(Widget(Smoking(), "optFineDateStartPast"));
+  auto& course = dynamic_cast<RadioWidget&>(Widget(Smoking(), "optCourseDateStartPast"));
+  QTest::mouseClick(&fine, Qt::LeftButton);
+  EXPECT_TRUE(fine.isChecked());
+  EXPECT_FALSE(course.isChecked());
+  QTest::mouseClick(&fine, Qt::LeftButton);
+  EXPECT_TRUE(fine.isChecked());
+  // By program both can be off.
+  desktop.Enter([&] { Smoking().Get<Option>("optFineDateStartPast").SetValue(false); });
+  EXPECT_FALSE(fine.isChecked());
+  EXPECT_FALSE(course.isChecked());
+}
+
+TEST_F(Windows, ListsShowATextThatIsNoEntry) {
+  desktop.Enter([&] { Smoking().Of(Side::Past).comStart->SetText("elsewhere"); });
+  auto& list = dynamic_cast<BlueList&>(Widget(Smoking(), "comStartPast"));
+  EXPECT_EQ(list.ShownText(), "elsewhere");
+  EXPECT_EQ(list.currentIndex(), -1);
+}
+
+TEST_F(Windows, ListsAreOpenedAndPickedFromByKeyboard) {
+  Activate(Of(Smoking()));
+  auto& list = dynamic_cast<BlueList&>(Widget(Smoking(), "comInterestRate1Past"));
+  list.setFocus(Qt::TabFocusReason);
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_EQ(Smoking().Of(Side::Past).comInterestRate1->Text(), "6%");
+  QTest::keyClick(&list, Qt::Key_F4);
+  QApplication::processEvents();
+  ASSERT_TRUE(list.view()->isVisible());
+  QTest::keyClick(list.view(), Qt::Key_Down);
+  QTest::keyClick(list.view(), Qt::Key_Return);
+  EXPECT_EQ(Smoking().Of(Side::Past).comInterestRate1->Text(), "7%");
+}
+
+TEST_F(Windows, ADisabledControlHandsTheFocusToNoList) {
+  Activate(Of(Smoking()));
+  QWidget& set = Widget(Smoking(), "cmdSetPeriodParamsPast");
+  set.setFocus(Qt::TabFocusReason);
+  QTest::keyClick(&set, Qt::Key_Space);
+  EXPECT_FALSE(set.isEnabled());
+  EXPECT_FALSE(Smoking().Of(Side::Past).cmdSetPeriodParams->Enabled());
+}
+
+TEST_F(Windows, DocumentsKeepTheirEndsOfLine) {
+  DocWindow& window = program.Doc();
+  desktop.Enter([&] {
+    window.Text().SetText("one\r\ntwo");
+    window.Show();
+  });
+  Activate(Of(window));
+  auto& edit = dynamic_cast<DocumentEdit&>(Widget(window, "rtfAdvResultsDoc"));
+  QTest::keyClick(&edit, Qt::Key_End, Qt::ControlModifier);
+  QTest::keyClick(&edit, Qt::Key_Return);
+  QTest::keyClicks(&edit, "three");
+  EXPECT_EQ(window.Text().Text(), "one\r\ntwo\r\nthree");
+  EXPECT_EQ(window.Text().SelStart(), window.Text().Length());
+  QTest::keyClick(&edit, Qt::Key_Home, Qt::ShiftModifier);
+  EXPECT_EQ(window.Text().SelText(), "three");
+}
+
+// ---- Closing ----
+
+TEST_F(Windows, ClosingAWorkspaceEndsTheProgram) {
+  bool ended = false;
+  desktop.onEnded = [&ended] { ended = true; };
+  EXPECT_FALSE(Of(Smoking()).close());
+  EXPECT_TRUE(program.Ended());
+  EXPECT_TRUE(ended);
+  EXPECT_FALSE(Of(Smoking()).isVisible());
+}
+
+TEST_F(Windows, ClosingTheChooserLeavesIt) {
+  QTest::mouseClick(&Widget(Smoking(), "cmdSwitchSins"), Qt::LeftButton);
+  FormWindow& chooser = Of(program.Chooser());
+  ASSERT_TRUE(chooser.isVisible());
+  chooser.close();
+  EXPECT_FALSE(chooser.isVisible());
+  EXPECT_TRUE(Smoking().cmdSwitchSins->Enabled());
+  EXPECT_FALSE(program.Ended());
+}
+
+TEST_F(Windows, ReportsIgnoreRequestsToClose) {
+  desktop.Enter([&] { program.Spd().Show(); });
+  Of(program.Spd()).close();
+  EXPECT_TRUE(Of(program.Spd()).isVisible());
+  EXPECT_FALSE(Of(program.Spd()).windowFlags().testFlag(Qt::WindowCloseButtonHint));
+}
+
+TEST_F(Windows, NothingEntersAfterAFault) {
+  std::string said;
+  desktop.onFault = [&said](const Fault& fault) { said = fault.what(); };
+  desktop.Enter([] { throw Fault(FaultKind::File, "The disk is full."); });
+  EXPECT_EQ(said, "The disk is full.");
+  bool entered = false;
+  desktop.Enter([&entered] { entered = true; });
+  EXPECT_FALSE(entered);
+}
+
+// ---- Help, keyboard, names ----
+
+TEST_F(Windows, BalloonsExplainOnHoverAndGoWithThePointer) {
+  QWidget& list = Widget(Smoking(), "comInterestRate1Past");
+  Hover(list);
+  const BalloonWidget* balloon = Of(Smoking()).ShownBalloon();
+  ASSERT_NE(balloon, nullptr);
+  EXPECT_TRUE(balloon->Text().startsWith("Set the Average Rate of Return"));
+  EXPECT_TRUE(Of(Smoking()).rect().contains(balloon->geometry()));
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&list, &leave);
+  EXPECT_EQ(Of(Smoking()).ShownBalloon(), nullptr);
+}
+
+TEST_F(Windows, AFramesBalloonIsForItsOwnGround) {
+  Hover(Widget(Smoking(), "frmRatesPast"));
+  EXPECT_NE(Of(Smoking()).ShownBalloon(), nullptr);
+  QTest::mouseClick(&Widget(Smoking(), "optToolTipDisable"), Qt::LeftButton);
+  Hover(Widget(Smoking(), "lblInterestRatePast"));
+  Hover(Widget(Smoking(), "frmRatesPast"));
+  EXPECT_EQ(Of(Smoking()).ShownBalloon(), nullptr);
+}
+
+TEST_F(Windows, AKeyExplainsTheControlThatHasTheFocus) {
+  Activate(Of(Smoking()));
+  QWidget& list = Widget(Smoking(), "comInflationRate1Past");
+  list.setFocus(Qt::TabFocusReason);
+  QTest::keyClick(&list, Qt::Key_F1, Qt::ShiftModifier);
+  ASSERT_NE(Of(Smoking()).ShownBalloon(), nullptr);
+  EXPECT_TRUE(Of(Smoking()).ShownBalloon()->Text().startsWith("Set the Inflation Rate"));
+  QTest::keyClick(&list, Qt::Key_F1, Qt::ShiftModifier);
+  EXPECT_EQ(Of(Smoking()).ShownBalloon(), nullptr);
+}
+
+TEST_F(Windows, EveryListAndBoxHasAName) {
+  for (const int sin : {0, 1, 2, 3}) {
+    SinWorkspace& ws = Visit(sin);
+    for (const auto& control : ws.Controls()) {
+      if (control->Kind() != ControlKind::List && control->Kind() != ControlKind::TextBox) continue;
+      EXPECT_FALSE(Of(ws).WidgetOf(*control)->accessibleName().isEmpty()) << control->FullName();
+    }
+  }
+  EXPECT_EQ(Widget(Smoking(), "txtResultsPeriodPast(2)").accessibleName(),
+            "Period 2: Past Ashtoll, Out of Pocket Expense");
+  EXPECT_EQ(Widget(Smoking(), "comStartPast").accessibleName(), "Past Period 1: Date Started Smoking");
+  EXPECT_EQ(Widget(Smoking(), "comStartPast").accessibleDescription(), "Start Smoking Date for Period");
+  EXPECT_TRUE(Widget(Smoking(), "frmDailyPast").accessibleDescription().contains("inbibes"));
+}
+
+TEST_F(Windows, TabVisitsEveryReachableControlInReadingOrder) {
+  SinWorkspace& ws = Smoking();
+  desktop.Enter([&] { ws.Of(Side::Past).cmdSetPeriodParams->UserClicks(); });
+  // The visit of a list enables the button again.
+  desktop.Enter([&] { ws.Of(Side::Past).cmdSetPeriodParams->SetEnabled(true); });
+  Activate(Of(ws));
+  std::vector<std::string> expected;
+  for (const auto& control : ws.Controls()) {
+    const ControlKind kind = control->Kind();
+    const bool takesFocus = kind != ControlKind::Label && kind != ControlKind::Frame &&
+                            kind != ControlKind::Panel && kind != ControlKind::TabControl;
+    if (takesFocus && control->Reachable()) expected.push_back(control->FullName());
+  }
+  dynamic_cast<TabPages&>(Widget(ws, "SSTab_PastFutureSwitch")).Bar()->setFocus();
+  std::vector<std::string> visited;
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    visited.push_back(QApplication::focusWidget()->objectName().toStdString());
+  }
+  EXPECT_EQ(visited, expected);
+}
+
+// ---- Printing ----
+
+TEST(Printing, ReachesAFileThatCanBeReadBack) {
+  const QTemporaryDir room;
+  const QString file = room.filePath("report.pdf");
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(file);
+  EXPECT_TRUE(PrintText(printer,
+                        "1 \tJun - 2016\t\x80"
+                        "153\r2 \tJul - 2016\t\x80"
+                        "308"));
+  QProcess reader;
+  reader.start("pdftotext", {"-layout", file, "-"});
+  ASSERT_TRUE(reader.waitForFinished());
+  const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+  EXPECT_TRUE(text.contains(
+      QRegularExpression(QStringLiteral("1 +Jun - 2016 +\u20ac153\\n2 +Jul - 2016 +\u20ac308"))))
+      << text.toStdString();
+}
+
+TEST(Printing, WithoutAPrinterAndAFileGoesNowhereAndSaysSo) {
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  EXPECT_FALSE(PrintText(printer, "text"));
+}
+
+}  // namespace
+}  // namespace vicetoll
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  // Dialogs keep settings of their own.
+  const QTemporaryDir settings;
+  qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+  testing::InitGoogleTest(&argc, argv);
+  QApplication application(argc, argv);
+  vicetoll::ApplyLook(application);
+  application.setQuitOnLastWindowClosed(false);
+  return RUN_ALL_TESTS();
+}
