@@ -1,6 +1,6 @@
 #include "desktop/printing.h"
 
-#include <QPrinter>
+#include <QAbstractTextDocumentLayout>
 #include <QTextDocument>
 #include <QTextOption>
 
@@ -12,14 +12,9 @@ namespace {
 constexpr double kPoints = 8;
 constexpr int kTabbedColumns = 11;
 
-}  // namespace
-
-bool PrintText(QPrinter& printer, std::string_view text) {
-  // Without a printer Qt falls back to PDF, and without a file name that goes nowhere.
-  if (printer.outputFormat() == QPrinter::PdfFormat && printer.outputFileName().isEmpty()) return false;
-  const bool columns = text.find('\t') != std::string_view::npos;
-  if (columns) printer.setPageOrientation(QPageLayout::Landscape);
-  QTextDocument document;
+// Lays the text out for the printer's pages.
+void LayOut(QTextDocument& document, QPrinter& printer, std::string_view text, bool columns) {
+  document.documentLayout()->setPaintDevice(&printer);
   QFont font;
   font.setPointSizeF(kPoints);
   document.setDefaultFont(font);
@@ -33,8 +28,30 @@ bool PrintText(QPrinter& printer, std::string_view text) {
   QString lines = ToQt(text);
   lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
   document.setPlainText(lines);
-  document.print(&printer);
-  return printer.printerState() != QPrinter::Error;
+  document.setPageSize(printer.pageRect(QPrinter::DevicePixel).size());
 }
+
+}  // namespace
+
+bool PrintJob::Print(std::string_view text) {
+  // Without a printer Qt falls back to PDF, and without a file name that goes nowhere.
+  if (printer_.outputFormat() == QPrinter::PdfFormat && printer_.outputFileName().isEmpty()) return false;
+  const bool columns = text.find('\t') != std::string_view::npos;
+  if (columns) printer_.setPageOrientation(QPageLayout::Landscape);
+  if (!painter_.begin(&printer_)) return false;
+  QTextDocument document;
+  LayOut(document, printer_, text, columns);
+  const QSizeF page = document.pageSize();
+  for (int i = 0; i < document.pageCount(); ++i) {
+    if (i > 0 && !printer_.newPage()) return false;
+    painter_.save();
+    painter_.translate(0, -i * page.height());
+    document.drawContents(&painter_, QRectF(QPointF(0, i * page.height()), page));
+    painter_.restore();
+  }
+  return printer_.printerState() != QPrinter::Error;
+}
+
+bool PrintJob::Close() { return !painter_.isActive() || painter_.end(); }
 
 }  // namespace vicetoll

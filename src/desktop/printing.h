@@ -1,14 +1,27 @@
 // Printing a report.
 #pragma once
 
+#include <QPainter>
+#include <QPrinter>
 #include <string_view>
-
-class QPrinter;
 
 namespace vicetoll {
 
-// Prints the text (code page 1252) on the printer, page by page. Tabs part columns; a carriage return, a
-// line feed or both end a line. False if the printer takes nothing, as one without paper or file name.
-bool PrintText(QPrinter& printer, std::string_view text);
+// A print on a printer, page by page. The last page stays open until the print is closed or goes away.
+class PrintJob {
+ public:
+  QPrinter& Printer() { return printer_; }
+
+  // Prints the text (code page 1252). Tabs part columns; a carriage return, a line feed or both end a line.
+  // False if the printer takes nothing, as one without paper or file name.
+  bool Print(std::string_view text);
+
+  // Lets the last page out. False if it could not be written.
+  bool Close();
+
+ private:
+  QPrinter printer_;
+  QPainter painter_;  // gone before the printer it paints on
+};
 
 }  // namespace vicetoll

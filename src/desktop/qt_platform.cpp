@@ -34,6 +34,9 @@ std::unique_ptr<QMessageBox> MakeMessageBox(std::string_view title, std::string_
   return box;
 }
 
+QtPlatform::QtPlatform() = default;
+QtPlatform::~QtPlatform() = default;
+
 void QtPlatform::ShowChanges() const {
   if (beforeWaiting) beforeWaiting();
 }
@@ -71,17 +74,29 @@ std::optional<std::string> QtPlatform::AskSavePath(std::string_view lastPath) {
 void QtPlatform::WriteFile(const std::string& path, std::string_view bytes) { WriteWholeFile(path, bytes); }
 
 void QtPlatform::Print(std::string_view text, bool selection) {
+  if (const auto print = AskAndPrint(text, selection)) print->Close();
+}
+
+void QtPlatform::PrintKeepingPageOpen(std::string_view text, bool selection) {
+  openPrint_ = AskAndPrint(text, selection);
+}
+
+// What was printed, its last page still open; nothing if it went nowhere, which the user is told.
+std::unique_ptr<PrintJob> QtPlatform::AskAndPrint(std::string_view text, bool selection) {
   ShowChanges();
-  QPrinter printer;
+  openPrint_.reset();  // the next print lets the open page out
+  auto print = std::make_unique<PrintJob>();
+  QPrinter& printer = print->Printer();
   QPrintDialog dialog(&printer, QApplication::activeWindow());
   dialog.setOption(QAbstractPrintDialog::PrintSelection, selection);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   dialog.exec();  // a cancelled dialog prints all the same
-  if (PrintText(printer, text)) return;
+  if (print->Print(text)) return print;
   if (printer.outputFileName().isEmpty())
     Tell(QStringLiteral("Nothing was printed: there is no printer, and no file was named to print to."));
   else
     Tell(QStringLiteral("Nothing was printed: %1 could not be written.").arg(printer.outputFileName()));
+  return nullptr;
 }
 
 void QtPlatform::SetClipboard(std::string_view text) { QApplication::clipboard()->setText(ToQt(text)); }

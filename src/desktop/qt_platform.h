@@ -16,8 +16,13 @@ QString ProgramName();
 std::unique_ptr<QMessageBox> MakeMessageBox(std::string_view title, std::string_view text,
                                             MessageButtons buttons);
 
+class PrintJob;
+
 class QtPlatform : public Platform {
  public:
+  QtPlatform();
+  ~QtPlatform() override;
+
   // Run before a box or a pause lets the user see the windows: what changed must be shown by then.
   std::function<void()> beforeWaiting;
 
@@ -26,6 +31,7 @@ class QtPlatform : public Platform {
   std::optional<std::string> AskSavePath(std::string_view lastPath) override;
   void WriteFile(const std::string& path, std::string_view bytes) override;
   void Print(std::string_view text, bool selection) override;
+  void PrintKeepingPageOpen(std::string_view text, bool selection) override;
   void SetClipboard(std::string_view text) override;
   std::string Clipboard() override;
   std::string ProgramFolder() override;
@@ -33,8 +39,12 @@ class QtPlatform : public Platform {
   void Pause(int milliseconds) override;
 
  private:
+  std::unique_ptr<PrintJob> AskAndPrint(std::string_view text, bool selection);
   void Tell(const QString& text);
   void ShowChanges() const;
+
+  // A print whose last page waits for the next print or the end of the run.
+  std::unique_ptr<PrintJob> openPrint_;
 };
 
 }  // namespace vicetoll

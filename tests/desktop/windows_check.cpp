@@ -408,13 +408,14 @@ TEST_F(Windows, TabVisitsEveryReachableControlInReadingOrder) {
 TEST(Printing, ReachesAFileThatCanBeReadBack) {
   const QTemporaryDir room;
   const QString file = room.filePath("report.pdf");
-  QPrinter printer;
-  printer.setOutputFormat(QPrinter::PdfFormat);
-  printer.setOutputFileName(file);
-  EXPECT_TRUE(PrintText(printer,
-                        "1 \tJun - 2016\t\x80"
-                        "153\r2 \tJul - 2016\t\x80"
-                        "308"));
+  PrintJob print;
+  print.Printer().setOutputFormat(QPrinter::PdfFormat);
+  print.Printer().setOutputFileName(file);
+  EXPECT_TRUE(
+      print.Print("1 \tJun - 2016\t\x80"
+                  "153\r2 \tJul - 2016\t\x80"
+                  "308"));
+  EXPECT_TRUE(print.Close());
   QProcess reader;
   reader.start("pdftotext", {"-layout", file, "-"});
   ASSERT_TRUE(reader.waitForFinished());
@@ -424,10 +425,33 @@ TEST(Printing, ReachesAFileThatCanBeReadBack) {
       << text.toStdString();
 }
 
+// 200 rows fill several pages: every one arrives, in order, on more than one page.
+TEST(Printing, ALongReportRunsOverSeveralPages) {
+  const QTemporaryDir room;
+  const QString file = room.filePath("report.pdf");
+  std::string text;
+  for (int i = 1; i <= 200; ++i) text += "row " + std::to_string(i) + "\r\n";
+  {
+    PrintJob print;
+    print.Printer().setOutputFormat(QPrinter::PdfFormat);
+    print.Printer().setOutputFileName(file);
+    EXPECT_TRUE(print.Print(text));
+  }  // the open page comes out when the print goes
+  QProcess reader;
+  reader.start("pdftotext", {"-layout", file, "-"});
+  ASSERT_TRUE(reader.waitForFinished());
+  const QString printed = QString::fromUtf8(reader.readAllStandardOutput());
+  EXPECT_GT(printed.count(u'\f'), 1);
+  QStringList rows = printed.split(QRegularExpression(QStringLiteral("[\n\f]+")), Qt::SkipEmptyParts);
+  ASSERT_EQ(rows.size(), 200);
+  EXPECT_EQ(rows.first(), "row 1");
+  EXPECT_EQ(rows.last(), "row 200");
+}
+
 TEST(Printing, WithoutAPrinterAndAFileGoesNowhereAndSaysSo) {
-  QPrinter printer;
-  printer.setOutputFormat(QPrinter::PdfFormat);
-  EXPECT_FALSE(PrintText(printer, "text"));
+  PrintJob print;
+  print.Printer().setOutputFormat(QPrinter::PdfFormat);
+  EXPECT_FALSE(print.Print("text"));
 }
 
 }  // namespace
