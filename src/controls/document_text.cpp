@@ -43,7 +43,7 @@ void DocumentText::ReplaceSelection(std::string_view text) {
 }
 
 UserOutcome DocumentText::UserTypes(std::string_view text) {
-  if (!Reachable()) return UserOutcome::Refused;
+  if (!Reachable() || readOnly_) return UserOutcome::Refused;
   SetText(WithCrLf(text));
   return UserOutcome::Done;
 }

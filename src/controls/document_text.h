@@ -29,6 +29,10 @@ class DocumentText : public Control {
   // behind it. Without a selection the text goes in at the position.
   void ReplaceSelection(std::string_view text);
 
+  // A text to read only; a user's typing is refused.
+  bool ReadOnly() const { return readOnly_; }
+  void SetReadOnly(bool readOnly) { readOnly_ = readOnly; }
+
   // The user replaces the whole text by typing, its line ends turned into CR LF.
   UserOutcome UserTypes(std::string_view text);
   UserOutcome UserSelects(int start, int length);
@@ -37,6 +41,7 @@ class DocumentText : public Control {
   std::string text_;
   int start_ = 0;
   int length_ = 0;
+  bool readOnly_ = false;
 };
 
 }  // namespace vicetoll

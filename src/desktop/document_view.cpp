@@ -118,12 +118,12 @@ QVariant PageBrowser::loadResource(int type, const QUrl& name) {
   if (type != QTextDocument::ImageResource) return resource;
   QImage picture = resource.canConvert<QImage>() ? resource.value<QImage>() : QImage();
   if (picture.isNull()) picture.loadFromData(resource.toByteArray());
-  const double scale = devicePixelRatioF();
-  const int room =
-      static_cast<int>((viewport()->width() - 2 * document()->documentMargin() - kPictureEdge) * scale);
+  // A picture that is too wide shrinks to the window's width, in as many pixels as the screen has for it.
+  const double room = viewport()->width() - 2 * document()->documentMargin() - kPictureEdge;
   if (picture.isNull() || room <= 0 || picture.width() <= room) return resource;
-  picture = picture.convertToFormat(QImage::Format_RGB32).scaledToWidth(room, Qt::SmoothTransformation);
-  picture.setDevicePixelRatio(scale);
+  const int pixels = std::min(picture.width(), static_cast<int>(room * devicePixelRatioF()));
+  picture = picture.convertToFormat(QImage::Format_RGB32).scaledToWidth(pixels, Qt::SmoothTransformation);
+  picture.setDevicePixelRatio(pixels / room);
   return picture;
 }
 

@@ -16,6 +16,7 @@ constexpr int kMargin = 200;
 
 InfoWindow::InfoWindow(Platform& platform) : Form("frmInfo", ""), platform_(platform) {
   rtfInfo_ = &Add<DocumentText>({"rtfInfo"});
+  rtfInfo_->SetReadOnly(true);
   cmdExit_ = &Add<Button>({"cmdExit"}, "Exit");
   cmdExit_->SetPlace({0, 0, 1500, 500});
   cmdExit_->onClick = [this] { Hide(); };

@@ -2,18 +2,22 @@
 // size of the system font to try. The scale is Qt's: QT_SCALE_FACTOR=2.
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QDir>
 #include <QHash>
 #include <QHelpEvent>
 #include <QImage>
+#include <QPainter>
 #include <QPixmap>
 #include <QSet>
+#include <QTimer>
 #include <algorithm>
 #include <cstdio>
 
 #include "desktop/desktop.h"
 #include "desktop/form_window.h"
 #include "desktop/look.h"
+#include "desktop/qt_platform.h"
 #include "desktop/widgets.h"
 #include "scenario/scripted_platform.h"
 
@@ -62,10 +66,25 @@ QImage WithFewColours(const QImage& image) {
   return small;
 }
 
+// The scripted world, but for the save dialog, which is Qt's own, and a pause that can be looked into.
+class PicturePlatform : public ScriptedPlatform {
+ public:
+  using ScriptedPlatform::ScriptedPlatform;
+  std::function<void()> onPause;
+
+  std::optional<std::string> AskSavePath(std::string_view lastPath) override {
+    QtPlatform().AskSavePath(lastPath);
+    return ScriptedPlatform::AskSavePath(lastPath);
+  }
+  void Pause(int) override {
+    if (onPause) onPause();
+  }
+};
+
 class Pictures {
  public:
-  Pictures(Program& program, Desktop& desktop, QString folder)
-      : program_(program), desktop_(desktop), folder_(std::move(folder)) {}
+  Pictures(PicturePlatform& platform, Program& program, Desktop& desktop, QString folder)
+      : platform_(platform), program_(program), desktop_(desktop), folder_(std::move(folder)) {}
 
   void All() {
     Tab(0, 0, "smoking-past");
@@ -82,7 +101,14 @@ class Pictures {
       Switch(sin);
       const std::string key = program_.At(sin).Name();
       Tab(sin, 1, (key + "-future").c_str());
+      if (sin != 3 && sin != 11) continue;
+      Commit(sin, Side::Future, "Jul - 2030");
       if (sin == 3) Tab(sin, 2, (key + "-total").c_str());
+      desktop_.Enter([&] { program_.At(sin).SSTab_PastFutureSwitch->UserSelects(kFutureTab); });
+      desktop_.Enter([&] { program_.Spd().UserResizes(14000, 7845); });
+      Picture(program_.Spd(), (key + "-grid").c_str(),
+              [&] { program_.At(sin).Of(Side::Future).cmdAdvResultsSpd->UserClicks(); });
+      desktop_.Enter([&] { program_.Spd().Get<Button>("cmdExit").UserClicks(); });
     }
     Picture(program_.Combined(), "combined", [this] {
       program_.Combined().Show();
@@ -97,8 +123,11 @@ class Pictures {
 
   void Save(QWidget& window, const char* name) {
     for (int i = 0; i < 5; ++i) QApplication::processEvents();
+    Write(window.grab().toImage(), name);
+  }
+  void Write(const QImage& picture, const char* name) {
     const QString path = folder_ + u'/' + QString::fromLatin1(name).toLower() + QStringLiteral(".png");
-    const QImage image = WithFewColours(window.grab().toImage().convertToFormat(QImage::Format_RGB32));
+    const QImage image = WithFewColours(picture.convertToFormat(QImage::Format_RGB32));
     if (!image.save(path, "PNG", 0)) std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
   }
   void Picture(Form& form, const char* name, const std::function<void()>& action) {
@@ -143,20 +172,56 @@ class Pictures {
   void Reports() {
     SinWorkspace& ws = program_.At(0);
     Picture(program_.Spd(), "grid", [&] { ws.cmdAdvResultsSpdSummaryTot->UserClicks(); });
+    Menu(program_.Spd(), "menu");
+    SaveDialog(program_.Spd(), "save-dialog");
     Picture(program_.Doc(), "document-table", [&] { ws.cmdAdvResultsDocSummaryTot->UserClicks(); });
     Picture(program_.Doc(), "document-table-wide", [&] { program_.Doc().UserResizes(19200, 12000); });
     Picture(program_.Doc(), "document-text", [&] { program_.Doc().Get<Option>("Opt_Doc").UserClicks(); });
     for (Form* form : {static_cast<Form*>(&program_.Spd()), static_cast<Form*>(&program_.Doc())})
       desktop_.Enter([&] { form->Get<Button>("cmdExit").UserClicks(); });
   }
+  // What opens a loop of its own is drawn from inside, on the window it belongs to, and sent away.
+  void DrawInside(QWidget& window, const char* name, QWidget* (*inside)()) {
+    QTimer::singleShot(200, &window, [this, &window, name, inside] {
+      QWidget* box = inside();
+      if (box == nullptr) return;
+      box->isWindow() && box->windowType() == Qt::Dialog ? Save(*box, name) : SaveWith(window, *box, name);
+      box->close();
+    });
+  }
+  void SaveWith(QWidget& window, QWidget& popup, const char* name) {
+    QPixmap picture = window.grab();
+    QPainter(&picture).drawPixmap(window.mapFromGlobal(popup.pos()), popup.grab());
+    Write(picture.toImage(), name);
+  }
+  void Menu(Form& form, const char* name) {
+    FormWindow& window = Window(form);
+    DrawInside(window, name, [] { return QApplication::activePopupWidget(); });
+    const QPoint place(250, 180);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, window.mapToGlobal(place));
+    QApplication::sendEvent(&window, &event);
+  }
+  void SaveDialog(Form& form, const char* name) {
+    DrawInside(Window(form), name, [] { return QApplication::activeModalWidget(); });
+    platform_.answers.files.push_back("/dev/null");
+    desktop_.Enter([&] { form.Get<Button>("cmdSaveAs").UserClicks(); });
+  }
   void Identification() {
     Switch(0);
     SinWorkspace& ws = program_.At(0);
     Tab(0, 2, "smoking-total-empty");
     desktop_.Enter([&] { ws.Get<Panel>("SSPanel_BackColor", 2).UserClicks(); });
+    platform_.onPause = [this, &ws] {
+      desktop_.Flush();
+      // The third line is on its way.
+      if (ws.Canvas().size() == 4 && ws.Canvas().back().text == "The Ash")
+        Save(Window(ws), "identification-half");
+    };
     Picture(ws, "identification", [&] { ws.Get<Button>("cmdRevealDeveloper").UserClicks(); });
+    platform_.onPause = nullptr;
   }
 
+  PicturePlatform& platform_;
   Program& program_;
   Desktop& desktop_;
   QString folder_;
@@ -177,9 +242,9 @@ int main(int argc, char** argv) {
     QApplication::setFont(font);
   }
   QDir().mkpath(QString::fromLocal8Bit(argv[1]));
-  ScriptedPlatform platform([](const std::string&) {});
+  PicturePlatform platform([](const std::string&) {});
   Program program(platform);
   Desktop desktop(program);
-  Pictures(program, desktop, QString::fromLocal8Bit(argv[1])).All();
+  Pictures(platform, program, desktop, QString::fromLocal8Bit(argv[1])).All();
   return 0;
 }

@@ -144,6 +144,7 @@ UserOutcome WidgetStage::Type(Control& control, std::string_view text) {
     Enter(*list.lineEdit(), ToQt(text));
     return Done();
   }
+  if (dynamic_cast<DocumentEdit*>(&Widget<QWidget>(control)) == nullptr) return UserOutcome::Refused;
   auto& edit = Widget<DocumentEdit>(control);
   edit.selectAll();
   Enter(edit, ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n'));
