@@ -16,6 +16,12 @@ inline std::int16_t Int16(std::int64_t value) {
   return static_cast<std::int16_t>(value);
 }
 
+// The number as a 16-bit one, halves to the even neighbour. Throws Fault(Overflow).
+inline std::int16_t RoundToInt16(double value) {
+  if (!(std::fabs(value) < 1e6)) return Int16(1'000'000);
+  return Int16(static_cast<std::int64_t>(std::nearbyint(value)));
+}
+
 inline std::int16_t Add(std::int16_t a, std::int16_t b) { return Int16(std::int64_t{a} + b); }
 inline std::int16_t Subtract(std::int16_t a, std::int16_t b) { return Int16(std::int64_t{a} - b); }
 inline std::int16_t Multiply(std::int16_t a, std::int16_t b) { return Int16(std::int64_t{a} * b); }

@@ -1,7 +1,5 @@
 #include "calendar/date_label.h"
 
-#include <cmath>
-
 #include "calendar/checked_int.h"
 #include "calendar/number_text.h"
 
@@ -22,12 +20,6 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b) {
   return true;
 }
 
-// A number as a 16-bit one, halves to the even neighbour.
-std::int16_t ToInt16(double value) {
-  if (!(std::fabs(value) < 1e6)) return Int16(1'000'000);
-  return Int16(static_cast<std::int64_t>(std::nearbyint(value)));
-}
-
 }  // namespace
 
 std::int16_t MonthNumberFromLabel(std::string_view label) {
@@ -44,7 +36,7 @@ std::int16_t YearFromLabel(std::string_view label) {
     for (char c : label) year = c >= '0' && c <= '9' && year >= 0 ? year * 10 + (c - '0') : -1;
     if (year >= 0) return static_cast<std::int16_t>(year);
   }
-  return ToInt16(TextToNumber(label));
+  return RoundToInt16(TextToNumber(label));
 }
 
 std::string MakeDateLabel(std::int16_t month, std::int16_t year) {
@@ -72,7 +64,7 @@ std::string MonthAfter(std::string_view label) {
 }
 
 double DayCountOfMonthIndex(std::string& monthIndex, std::string_view startLabel) {
-  std::int16_t month = Add(ToInt16(TextToNumber(monthIndex)), MonthNumberFromLabel(startLabel));
+  std::int16_t month = Add(RoundToInt16(TextToNumber(monthIndex)), MonthNumberFromLabel(startLabel));
   month = Subtract(month, 1);
   monthIndex = std::to_string(month);
   if (month > kMonthsPerYear) month %= kMonthsPerYear;

@@ -127,9 +127,8 @@ Parsed ParseUnsigned(std::string_view text, double& value) {
   if (error == std::errc::result_out_of_range) {
     // Too small is zero; too large has no value.
     const std::size_t exponent = text.find_first_of("eE");
-    const bool small = exponent == std::string_view::npos
-                           ? text.find_first_not_of('0') >= text.find('.')
-                           : text.substr(exponent + 1).starts_with('-');
+    const bool small = exponent == std::string_view::npos ? text.find_first_not_of('0') >= text.find('.')
+                                                          : text.substr(exponent + 1).starts_with('-');
     if (small) {
       value = 0;
       return Parsed::Number;

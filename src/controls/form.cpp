@@ -81,7 +81,7 @@ Control* Form::Find(std::string_view fullName) const {
   const std::string_view digits = fullName.substr(open + 1, fullName.size() - open - 2);
   int index = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), index);
-  if (error != std::errc() || end != digits.data() + digits.size()) return nullptr;
+  if (digits.starts_with('-') || error != std::errc() || end != digits.data() + digits.size()) return nullptr;
   return Find(fullName.substr(0, open), index);
 }
 

@@ -1,7 +1,5 @@
 #include "engine/month_cost.h"
 
-#include <cmath>
-
 #include "calendar/checked_int.h"
 #include "calendar/number_text.h"
 
@@ -80,7 +78,7 @@ const std::string& MonthCostCells::Column(int column) const {
   }
 }
 
-MonthWalk::MonthWalk(const CostTerms& terms, std::int16_t monthsInPeriod)
+MonthWalk::MonthWalk(const CostTerms& terms, double monthsInPeriod)
     : terms_(terms),
       months_(monthsInPeriod),
       factor_(1 + terms.yearlyFraction / kMonthsPerYear),
@@ -99,7 +97,7 @@ MonthFigures MonthWalk::Next() {
 MonthFigures FiguresOfMonth(const CostTerms& terms, double monthIndex, double monthsInPeriod) {
   if (!RisesByPercent(terms))
     return FiguresFrom(terms, LinearCost(terms.initialCost, terms.finalCost, monthIndex, monthsInPeriod), 0);
-  const std::int16_t increases = Int16(static_cast<std::int64_t>(std::nearbyint(monthIndex)));
+  const std::int16_t increases = RoundToInt16(monthIndex);
   return FiguresFrom(terms, CompoundedCost(terms.initialCost, increases, terms.yearlyFraction),
                      CompoundedCost(terms.reasonableCost, increases, terms.yearlyFraction));
 }

@@ -67,7 +67,7 @@ struct MonthCostCells {
 // month: the same multiplications in the same order as CompoundedCost does, so no cent can differ.
 class MonthWalk {
  public:
-  MonthWalk(const CostTerms& terms, std::int16_t monthsInPeriod);
+  MonthWalk(const CostTerms& terms, double monthsInPeriod);
 
   // The next month's figures. Throws Fault(Overflow).
   MonthFigures Next();

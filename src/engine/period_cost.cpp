@@ -11,8 +11,7 @@ namespace vicetoll {
 namespace {
 
 // The balance after the months 1..count of a period, each month's cost put in before its interest.
-double WalkBalance(double balance, std::int16_t count, std::int16_t months, const CostTerms& cost,
-                   double factor) {
+double WalkBalance(double balance, std::int16_t count, double months, const CostTerms& cost, double factor) {
   MonthWalk walk(cost, months);
   for (int i = 1; i <= count; ++i) balance = (balance + RoundToCents(walk.Next().monthCost)) * factor;
   return Finite(balance);
@@ -88,8 +87,7 @@ double CostAfterLastPeriod(std::string_view startingCost, double interestRate, s
 
 double TotalCostInCurrentPeriod(double count, double months, const Rates& rates, const CostTerms& cost) {
   // A part of a month is no month.
-  const auto whole = [](double number) { return Int16(static_cast<std::int64_t>(std::floor(number))); };
-  return WalkBalance(0, whole(count), whole(months), cost, rates.MonthlyFactor());
+  return WalkBalance(0, RoundToInt16(std::floor(count)), months, cost, rates.MonthlyFactor());
 }
 
 }  // namespace vicetoll

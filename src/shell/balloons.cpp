@@ -1,20 +1,26 @@
 #include "shell/balloons.h"
 
+#include "calendar/fault.h"
 #include "shell/balloon_texts.h"
 
 namespace vicetoll {
 inline namespace ToolTipMod {
 
 void Balloons::AttachToolTips(int position, SinWorkspace& workspace) {
-  sins_.at(position).balloons.clear();
-  sins_.at(position).active = true;
+  At(position).balloons.clear();
+  At(position).active = true;
   for (const BalloonRow& row : BalloonRows())
     if (!workspace.FindAll(row.control).empty()) AddBalloon(position, row.control, row.text);
   if (workspace.IsSmoking()) AddBalloon(position, EuroBalloon().control, EuroBalloon().text);
 }
 
 void Balloons::AddBalloon(int position, std::string_view control, std::string_view text) {
-  sins_.at(position).balloons.push_back({control, text});
+  At(position).balloons.push_back({std::string(control), std::string(text)});
+}
+
+Balloons::OfSin& Balloons::At(int position) {
+  if (position < 0 || position >= kSinCount) throw Fault(FaultKind::Index, "There is no such sin.");
+  return sins_[position];
 }
 
 void Balloons::ConnectOptions(SinWorkspace& workspace) {

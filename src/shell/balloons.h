@@ -13,14 +13,15 @@ inline namespace ToolTipMod {
 
 // One balloon for a control, or one for all elements of a control array, under its bare name.
 struct Balloon {
-  std::string_view control;
-  std::string_view text;  // lines broken by CR LF
+  std::string control;
+  std::string text;  // lines broken by CR LF
 };
 
 class Balloons {
  public:
   explicit Balloons(Workspaces& workspaces) : workspaces_(workspaces) {}
 
+  // Both throw Fault(Index) for a position outside 0..11.
   // Hangs the balloons at the controls that the workspace has, in the order of the table, active. What
   // hung there before is dropped.
   void AttachToolTips(int position, SinWorkspace& workspace);
@@ -44,6 +45,7 @@ class Balloons {
     bool active = true;  // also before any hang there: those that come later are active
   };
 
+  OfSin& At(int position);
   void SwitchAll(bool on);
   void SwitchOne(int position, bool on);
 

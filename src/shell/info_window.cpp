@@ -1,5 +1,6 @@
 #include "shell/info_window.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -41,7 +42,7 @@ void InfoWindow::Open(std::string_view file, std::string_view caption) {
   Show();
   file_ = platform_.ProgramFolder() + "/" + std::string(file);
   std::ifstream stream(file_, std::ios::binary);
-  if (stream)
+  if (std::filesystem::is_regular_file(file_) && stream)
     rtfInfo_->SetText(FromUtf8(std::string(std::istreambuf_iterator<char>(stream), {})));
   else
     rtfInfo_->SetText("This text is missing: the file " + std::string(file) +

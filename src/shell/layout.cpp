@@ -145,6 +145,7 @@ void AlignHeadings(SinWorkspace& ws, Side side) {
 }  // namespace
 
 void PlaceDesign(SinWorkspace& ws) {
+  ws.Resize(kWindowWidth, kWindowHeight);
   ws.SSTab_PastFutureSwitch->SetPlace({0, 0, 11990, 8950});
   for (int i = kPastTab; i <= kTotalTab; ++i) ws.Get<Panel>("SSPanel_BackColor", i).SetPlace({150, 0, 0, 0});
   FitPanels(ws);
@@ -161,6 +162,7 @@ void PlaceDesign(SinWorkspace& ws) {
     for (const int to : {p, p + kPeriodCount}) ws.lblTo(to).SetAlign(Label::Align::Centre);
   }
   SizeBottomRow(ws);
+  PlaceBottomRow(ws);
 }
 
 void ApplyFormLayout(SinWorkspace& ws) {

@@ -242,6 +242,7 @@ constexpr Operation kOperations[] = {
     {"SetSummaryVisibility", 2, DO(SetSummaryVisibility(c.ws, c.Flag(0), c.Int16(1)))},
     {"WriteRevealText", 0, DO(WriteRevealText(c.ws))},
     {"TypeLine", 5, DO(TypeLine(c.ws, c.Text(0), c.Int16(1), c.Int16(2), c.Int16(3), c.Int16(4)))},
+    {"AddBalloon", 3, DO(c.program.GetBalloons().AddBalloon(c.Int16(0), c.Text(1), c.Text(2)))},
     {"UnloadAllWindows", 0, DO(c.program.UnloadAllWindows())},
 };
 
@@ -313,15 +314,12 @@ double Arguments::Number(std::size_t i) const {
   const std::string& text = Text(i);
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (error != std::errc() || end != text.data() + text.size()) throw BadCall("no number: " + text);
+  if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(value))
+    throw BadCall("no number: " + text);
   return value;
 }
 
-std::int16_t Arguments::Int16(std::size_t i) const {
-  const double value = std::nearbyint(Number(i));  // halves to the even neighbour
-  if (!(value > -1e9 && value < 1e9)) return vicetoll::Int16(1'000'000'000);
-  return vicetoll::Int16(static_cast<std::int64_t>(value));
-}
+std::int16_t Arguments::Int16(std::size_t i) const { return RoundToInt16(Number(i)); }
 
 bool Arguments::Flag(std::size_t i) const { return Number(i) != 0; }
 

@@ -1,5 +1,6 @@
 #include "sins/combined_results.h"
 
+#include "calendar/fault.h"
 #include "calendar/number_text.h"
 #include "workspace/totals.h"
 
@@ -151,6 +152,7 @@ std::string CombinedResults::Joined(const std::string& past, const std::string& 
 
 void CombinedResults::GetIndividualSinValues(SinWorkspace& workspace, int index, std::int16_t pastSide,
                                              std::int16_t futureSide) {
+  if (index < 0 || index >= kSinCount) throw Fault(FaultKind::Index, "The table has no such row.");
   const SideControls& past = workspace.Of(Side::Past);
   const SideControls& future = workspace.Of(Side::Future);
   if (!IsZeroOrEmpty(future.txtResultsTotal->Text()) || !IsZeroOrEmpty(past.txtResultsTotal->Text()))

@@ -22,6 +22,7 @@ class CombinedResults : public Form {
   void PopulateCombResultsText();
 
   // Fills the row of a sin. Its workspace's balance over both sides is brought up to date first.
+  // Throws Fault(Index) for a row outside 0..11.
   void GetIndividualSinValues(SinWorkspace& workspace, int index, std::int16_t pastSide,
                               std::int16_t futureSide);
 

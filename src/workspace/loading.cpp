@@ -125,8 +125,7 @@ void InitializeDates(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
   if (past) {
     // The list begins in January of its first year, unlike the stored bound; the next steps replace it.
     const std::string start = now.Label(0, -kDefaultYears);
-    FillDateList(true, *c.comStart, MakeDateLabel(1, static_cast<std::int16_t>(now.Y + kPastYears)), start,
-                 kCoarseStep);
+    FillDateList(true, *c.comStart, MakeDateLabel(1, Int16(now.Y + kPastYears)), start, kCoarseStep);
     c.comStart->SetText(start);
     FillDateList(true, *c.comStop, present, present, kCoarseStep);
     c.comStop->SetText(present);

@@ -1,5 +1,6 @@
 #include "workspace/parameters.h"
 
+#include "calendar/checked_int.h"
 #include "calendar/date_list.h"
 #include "calendar/number_text.h"
 
@@ -70,7 +71,7 @@ void ShowCost(DropDownList* list, const std::string& stored) {
 
 void SetPeriodParameters(SinWorkspace& ws, Side side, std::string_view period) {
   for (std::int16_t p = 1; p <= kPeriodCount; ++p) ws.Record(side, p).PeriodSelected = false;
-  ws.Record(side, static_cast<std::int16_t>(TextToNumber(period))).PeriodSelected = true;
+  ws.Record(side, RoundToInt16(TextToNumber(period))).PeriodSelected = true;
   ws.Of(side).frmDaily->SetCaption("Period " + std::string(period) + std::string(ws.Sin().dailySuffix[side]));
 }
 

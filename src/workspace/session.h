@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "calendar/checked_int.h"
 #include "calendar/date_label.h"
 #include "calendar/money.h"
 #include "calendar/period_store.h"
@@ -33,15 +34,15 @@ struct Session {
 struct Present {
   explicit Present(Session& session) {
     const MonthAndYear now = session.platform.Now();
-    M = static_cast<std::int16_t>(now.month);
-    Y = static_cast<std::int16_t>(now.year);
+    M = Int16(now.month);
+    Y = Int16(now.year);
   }
   std::int16_t M, Y;
 
   // The label of month M + months of year Y + years. In December the month after the present one is the
   // 13th of the same year and reads as its January: the future side then begins eleven months back.
   std::string Label(int months, int years) const {
-    return MakeDateLabel(static_cast<std::int16_t>(M + months), static_cast<std::int16_t>(Y + years));
+    return MakeDateLabel(Int16(M + months), Int16(Y + years));
   }
 };
 

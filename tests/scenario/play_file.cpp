@@ -1,5 +1,6 @@
 #include "scenario/play_file.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string_view>
@@ -17,7 +18,7 @@ int PlayFile(int argc, char** argv, const std::function<PlayResult(std::istream&
   const bool fromStandardInput = std::string_view(argv[1]) == "-";
   if (!fromStandardInput) {
     file.open(argv[1]);
-    if (!file) {
+    if (!file || std::filesystem::is_directory(argv[1])) {
       std::cerr << argv[0] << ": cannot read " << argv[1] << '\n';
       return kBadUse;
     }

@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -86,7 +87,9 @@ PlayResult Player::Play(std::istream& lines) {
   std::string text;
   bool first = true;
   for (int number = 1; std::getline(lines, text); ++number) {
-    if (!text.empty() && text[0] == '#') continue;
+    if (number == 1 && text.starts_with("\xEF\xBB\xBF")) text.erase(0, 3);  // a byte order mark
+    const std::size_t begin = text.find_first_not_of(" \t");
+    if (begin != std::string::npos && text[begin] == '#') continue;
     try {
       Line line{SplitLine(text)};
       if (line.words.empty()) continue;
@@ -434,7 +437,8 @@ void Player::CallOperationLine(Line& line) {
 
 void Player::ShowFile(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
-  if (!file) return print_("file " + Quoted(FromUtf8(path)) + " missing");
+  if (!file || !std::filesystem::is_regular_file(path))
+    return print_("file " + Quoted(FromUtf8(path)) + " missing");
   const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   print_("file " + Quoted(FromUtf8(path)) + " bytes=" + std::to_string(bytes.size()) + " " +
          QuotedBytes(bytes));

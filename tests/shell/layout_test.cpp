@@ -144,6 +144,9 @@ TEST_F(Layout, TheButtonsOfTheIdentificationHideInTheirCorners) {
     EXPECT_EQ(reveal.left, panel.width + (isSmoking ? -400 : 300));
     EXPECT_EQ(reveal.top, panel.height + (isSmoking ? -400 : 200));
     EXPECT_FALSE(ws.Get<Button>("cmdRestoreProgram").Visible());
+    // Over the exit button, which stands 750 lower in Smoking while that begins.
+    EXPECT_EQ(At(ws, "cmdRestoreProgram").left, 8000);
+    EXPECT_EQ(At(ws, "cmdRestoreProgram").top, isSmoking ? 8275 : 7525);
     EXPECT_EQ(At(ws, "cmdRestoreProgram").width, 2200);
     EXPECT_EQ(At(ws, "cmdRestoreProgram").height, 575);
   }
