@@ -16,6 +16,12 @@ void Form::SetCaption(std::string_view caption) {
   Changed();
 }
 
+void Form::Show() {
+  ++timesShown_;
+  shown_ = true;
+  Changed();
+}
+
 void Form::SetShown(bool shown) {
   if (shown_ == shown) return;
   shown_ = shown;

@@ -44,7 +44,9 @@ class Form {
   void SetCaption(std::string_view caption);
 
   bool Shown() const { return shown_; }
-  void Show() { SetShown(true); }
+  // Brings the window up, also one that is up already, behind another or minimised.
+  void Show();
+  int TimesShown() const { return timesShown_; }
   void Hide() { SetShown(false); }
 
   // Whether the window system offers a way to close the window; without it cmdExit is the only way out.
@@ -116,6 +118,7 @@ class Form {
   std::string name_;
   std::string caption_;
   bool shown_ = false;
+  int timesShown_ = 0;
   bool hasCloseEntry_ = true;
   int width_ = 0;
   int height_ = 0;

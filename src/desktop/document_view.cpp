@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QTextBlock>
 #include <QTextDocument>
 
@@ -60,6 +61,32 @@ bool DocumentEdit::event(QEvent* event) {
     }
   }
   return QPlainTextEdit::event(event);
+}
+
+// A line ends in one way only; the other one that the key with Shift brings has no place in the text.
+void DocumentEdit::keyPressEvent(QKeyEvent* event) {
+  const bool end = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!end) return QPlainTextEdit::keyPressEvent(event);
+  insertPlainText(QStringLiteral("\n"));
+  ensureCursorVisible();
+}
+
+void DocumentEdit::insertFromMimeData(const QMimeData* source) {
+  QString text = source->text();
+  text.replace(QChar::LineSeparator, u'\n').replace(QChar::ParagraphSeparator, u'\n');
+  insertPlainText(ToQt(FromQt(text)));
+}
+
+void DocumentEdit::KeepTyped(const std::string& text) {
+  shown_ = text;
+  QString known = ToQt(text);
+  known.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  if (known == toPlainText()) return;
+  const int position = textCursor().position();
+  setPlainText(known);
+  QTextCursor cursor = textCursor();
+  cursor.setPosition(std::min(position, document()->characterCount() - 1));
+  setTextCursor(cursor);
 }
 
 void DocumentEdit::SetText(const std::string& text) {

@@ -18,8 +18,9 @@ class DocumentEdit : public QPlainTextEdit {
   explicit DocumentEdit(QWidget* parent);
 
   void SetText(const std::string& text);
-  // The control has taken what was typed: it is shown already.
-  void KeepTyped(const std::string& text) { shown_ = text; }
+  // The control has taken what was typed. It is shown already, but for characters that the program's texts
+  // cannot hold, which give way to "?".
+  void KeepTyped(const std::string& text);
   // The text with its ends of line as CR LF.
   std::string Text() const;
 
@@ -29,6 +30,8 @@ class DocumentEdit : public QPlainTextEdit {
 
  protected:
   bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void insertFromMimeData(const QMimeData* source) override;
 
  private:
   int ControlPosition(int position) const;

@@ -32,6 +32,8 @@ constexpr int kCanvasStretch = 72;
 
 const char* const kKeyHint = "Shift+F1 explains the control that has the focus.";
 
+constexpr int kEveryPage = 3;  // of a button that stands on no tab
+
 bool IsModifier(int key) {
   return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta;
 }
@@ -47,12 +49,12 @@ QString NameOf(const Control& control) {
 }
 
 // The user's keys for entries of the right-click menu that have them everywhere.
-QKeySequence KeysFor(const std::string& caption) {
+QKeySequence::StandardKey KeysFor(const std::string& caption) {
   if (caption == "Select All") return QKeySequence::SelectAll;
   if (caption == "Copy") return QKeySequence::Copy;
   if (caption == "Cut") return QKeySequence::Cut;
   if (caption == "Paste") return QKeySequence::Paste;
-  return {};
+  return QKeySequence::UnknownKey;
 }
 
 }  // namespace
@@ -95,27 +97,34 @@ void FormWindow::MakeControls() {
 void FormWindow::MakeMenuEntry(MenuEntry& entry) {
   auto* action = new QAction(ToQt(entry.Caption()), this);
   action->setObjectName(ToQt(entry.FullName()));
-  action->setShortcut(KeysFor(entry.Caption()));
+  action->setShortcuts(KeysFor(entry.Caption()));
   connect(action, &QAction::triggered, this, [this, &entry] { desktop_.Enter([&] { entry.UserClicks(); }); });
   addAction(action);
   menu_[&entry] = action;
 }
 
-// The first letter of a word of the caption that no other button has taken. Buttons on different tabs are
-// never in front together and may share one; P, U and T belong to the tabs.
+// Buttons on different tabs are never in front together and may share a letter; those that are always in
+// front have the first choice. P, U and T belong to the tabs.
 void FormWindow::GiveAccessKeys() {
   QString taken[4];
-  taken[3] = QStringLiteral("PUT");
+  if (dynamic_cast<SinWorkspace*>(&form_) != nullptr) taken[kEveryPage] = QStringLiteral("PUT");
+  for (const bool everyPage : {true, false}) GiveAccessKeys(everyPage, taken);
+}
+
+// The first letter of a word of the caption that is free.
+void FormWindow::GiveAccessKeys(bool everyPage, QString (&taken)[4]) {
   for (const auto& view : views_) {
     auto* button = dynamic_cast<CaptionButton*>(view->Widget());
     if (button == nullptr) continue;
-    int page = 3;
+    int page = kEveryPage;
     for (const Control* c = &view->Model(); c != nullptr; c = c->Container())
       if (c->Page() != kAnyPage) page = c->Page();
+    if ((page == kEveryPage) != everyPage) continue;
     const QString caption = ToQt(dynamic_cast<Button&>(view->Model()).Caption());
     for (qsizetype i = 0; i < caption.size(); ++i) {
       const QChar letter = caption[i].toUpper();
-      if (!caption[i].isUpper() || taken[3].contains(letter) || taken[page].contains(letter)) continue;
+      if (!caption[i].isUpper() || taken[kEveryPage].contains(letter) || taken[page].contains(letter))
+        continue;
       button->SetAccessKey(letter);
       taken[page] += letter;
       break;
@@ -136,10 +145,14 @@ QAction* FormWindow::MenuEntryOf(const Control& control) const {
 void FormWindow::UpdateForm() {
   setWindowTitle(ToQt(form_.Caption()));
   const QSize size(ToPixels(form_.Width()), ToPixels(form_.Height()));
-  if (form_.GetWindowState() == WindowState::Normal && size != this->size()) resize(size);
-  if (form_.Shown() && !isVisible()) {
-    ComeInPlaceOfAnother();
-    show();
+  if (size != this->size()) {
+    // A maximised window keeps its size, and tells the form of it.
+    form_.GetWindowState() == WindowState::Normal ? resize(size) : settled_.start();
+  }
+  if (form_.Shown() && (!isVisible() || broughtUp_ != form_.TimesShown())) {
+    broughtUp_ = form_.TimesShown();
+    if (!isVisible()) ComeInPlaceOfAnother();
+    isMinimized() ? showNormal() : show();
     raise();
     activateWindow();
   } else if (!form_.Shown() && isVisible()) {
@@ -171,10 +184,13 @@ void FormWindow::UpdateNames() {
   for (const auto& view : views_) {
     const Control& control = view->Model();
     QWidget* hand = view->Hand();
-    const bool named = control.Kind() == ControlKind::List || control.Kind() == ControlKind::TextBox ||
-                       !control.LabelledBy().empty();
+    const bool whole = control.Kind() == ControlKind::Grid || control.Kind() == ControlKind::DocumentText ||
+                       control.Kind() == ControlKind::TabControl;
+    const bool named = whole || control.Kind() == ControlKind::List ||
+                       control.Kind() == ControlKind::TextBox || !control.LabelledBy().empty();
     if (named) {
-      const QString name = NameOf(control);
+      // What fills its window is named as the window is.
+      const QString name = whole ? ToQt(form_.Caption()) : NameOf(control);
       if (hand->accessibleName() != name) hand->setAccessibleName(name);
     }
     QString description = BalloonText(control);

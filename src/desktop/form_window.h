@@ -53,6 +53,7 @@ class FormWindow : public QWidget {
   void TakeSettledSize();
   void TakeState();
   void GiveAccessKeys();
+  void GiveAccessKeys(bool everyPage, QString (&taken)[4]);
 
   // What a control explains itself by: the balloon's text while balloons are on.
   QString BalloonText(const Control& control) const;
@@ -68,6 +69,7 @@ class FormWindow : public QWidget {
   std::unordered_map<const QObject*, Control*> controlOf_;
   std::unordered_map<const Control*, QAction*> menu_;
   BalloonWidget* balloon_ = nullptr;
+  int broughtUp_ = 0;  // how often the form had been shown when the window came up last
   QTimer settled_;
 };
 

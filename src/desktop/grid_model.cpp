@@ -52,6 +52,7 @@ int GridModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
   if (role == Qt::DisplayRole) return ToQt(Trimmed(CellOf(rows_[index.row()], index.column())));
   if (role != Qt::TextAlignmentRole) return {};
   const bool centred = alignments_[index.column()] == Grid::Alignment::Centre;

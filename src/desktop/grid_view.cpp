@@ -67,8 +67,10 @@ int GridWidget::HeadingPixels() const {
 
 void GridWidget::ShowSelection() {
   const int rows = model_->rowCount({});
-  const auto [top, bottom] = std::minmax(grid_.Row() - 1, grid_.RowSel() - 1);
-  const auto [left, right] = std::minmax(grid_.Col(), grid_.ColSel());
+  const int top = std::min(grid_.Row(), grid_.RowSel()) - 1;
+  const int bottom = std::max(grid_.Row(), grid_.RowSel()) - 1;
+  const int left = std::min(grid_.Col(), grid_.ColSel());
+  const int right = std::max(grid_.Col(), grid_.ColSel());
   // Row 0 is the heading, which shows no selection.
   const QItemSelection cells(model_->index(std::max(top, 0), left),
                              model_->index(std::min(bottom, rows - 1), right));
@@ -80,6 +82,13 @@ void GridWidget::ShowSelection() {
   if (selectionModel()->selection() == cells && currentIndex() == current) return;
   selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
   selectionModel()->select(cells, QItemSelectionModel::ClearAndSelect);
+}
+
+bool GridWidget::ShowsOtherThan(const CellRange& cells) const {
+  const CellRange shown = SelectedCells();
+  // What reaches into the heading is shown without it.
+  return shown.row != std::max(cells.row, 1) || shown.rowSel != std::max(cells.rowSel, 1) ||
+         shown.col != cells.col || shown.colSel != cells.colSel;
 }
 
 CellRange GridWidget::SelectedCells() const {
@@ -100,8 +109,11 @@ class GridView : public ControlView {
       : ControlView(grid, new GridWidget(parent, grid)),
         grid_(grid),
         widget_(*static_cast<GridWidget*>(Widget())) {
-    QObject::connect(widget_.selectionModel(), &QItemSelectionModel::selectionChanged,
-                     [this, &desktop] { desktop.Enter([this] { TakeSelection(); }); });
+    // While a selection is drawn out the view tells of it before it has moved the cell in hand: it is taken
+    // when the event is through.
+    QObject::connect(
+        widget_.selectionModel(), &QItemSelectionModel::selectionChanged, &widget_,
+        [this, &desktop] { desktop.Enter([this] { TakeSelection(); }); }, Qt::QueuedConnection);
   }
 
  protected:
@@ -110,7 +122,9 @@ class GridView : public ControlView {
  private:
   void TakeSelection() {
     const CellRange cells = widget_.SelectedCells();
-    if (cells.row != 0) grid_.UserSelects(cells.row, cells.col, cells.rowSel, cells.colSel);
+    const CellRange known{grid_.Row(), grid_.Col(), grid_.RowSel(), grid_.ColSel()};
+    if (cells.row != 0 && widget_.ShowsOtherThan(known))
+      grid_.UserSelects(cells.row, cells.col, cells.rowSel, cells.colSel);
   }
 
   Grid& grid_;

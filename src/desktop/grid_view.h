@@ -26,6 +26,8 @@ class GridWidget : public QTableView {
   GridModel& Cells() const { return *model_; }
   // The selection by the grid's numbers. The cell that moves with the pointer is the second.
   CellRange SelectedCells() const;
+  // Whether these are other cells than those the table shows as selected.
+  bool ShowsOtherThan(const CellRange& cells) const;
   // Column widths and heading height in pixels, as the grid has them or as its headings need.
   int ColumnPixels(int column) const;
   int HeadingPixels() const;

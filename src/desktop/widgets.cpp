@@ -79,8 +79,12 @@ void BlueList::SetShown(const QString& text, int position) {
   // Assistive tools read the current entry, and this where there is none. Without it, be it but a blank, a
   // list picks its first entry by itself.
   setPlaceholderText(text.isEmpty() ? QStringLiteral(" ") : text);
+  const int caret = isEditable() ? lineEdit()->cursorPosition() : 0;
   if (currentIndex() != position) setCurrentIndex(position);
-  if (isEditable() && lineEdit()->text() != text) lineEdit()->setText(text);
+  if (isEditable() && lineEdit()->text() != text) {
+    lineEdit()->setText(text);
+    lineEdit()->setCursorPosition(caret);
+  }
   if (text_ == text) return;
   text_ = text;
   update();

@@ -42,7 +42,6 @@ DocWindow::DocWindow(Workspaces& workspaces)
     : Form("frmAdvResultsDoc", "Advanced Smoking Results - Document Style (Rich Text Format)"),
       workspaces_(workspaces) {
   RemoveCloseEntry();
-  RemoveCloseEntry();
   Design();
   onResize = [this] { OnResize(); };
   Resize(kWidth, kHeight);

@@ -30,6 +30,8 @@ SinChooser::SinChooser(Workspaces& workspaces, SinSwitching& switching)
   cmdExit_ = &Add<Button>({"cmdExit"}, "Exit");
   cmdExit_->SetPlace(kExitPlace);
   cmdExit_->onClick = [this] { Leave(); };
+  // Smaller, its entries would be out of reach.
+  onResize = [this] { Resize(std::max(Width(), kWidth), std::max(Height(), kHeight)); };
   Resize(kWidth, kHeight);
 }
 

@@ -52,6 +52,8 @@ CombinedResults::CombinedResults(Workspaces& workspaces)
   MakeTicks();
   MakeColumns();
   MakeBottom();
+  // Smaller, its buttons would be out of reach.
+  onResize = [this] { Resize(std::max(Width(), kWindowWidth), std::max(Height(), kWindowHeight)); };
   Resize(kWindowWidth, kWindowHeight);
 }
 
@@ -79,6 +81,7 @@ void CombinedResults::MakeColumns() {
     for (int i = 0; i < kSinCount; ++i) {
       TextBox& cell = Add<TextBox>({std::string(design.cells), i, &frame});
       cell.SetPlace({100, kFirstRow + i * kRowStep, kColumnWidth - 200, kCellHeight});
+      cell.SetLabelledBy({&frame, chkWhichSins_[i]});
       columns_[c].cells[i] = &cell;
     }
     columns_[c].total = &Add<TextBox>({std::string(design.total), kNoIndex, &frame});

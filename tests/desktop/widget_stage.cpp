@@ -190,6 +190,7 @@ UserOutcome WidgetStage::SelectCells(Grid& grid, const CellSpan& cells) {
   click(cells.row, cells.col, Qt::NoModifier);
   if (cells.row != cells.rowSel || cells.col != cells.colSel)
     click(cells.rowSel, cells.colSel, Qt::ShiftModifier);
+  QApplication::processEvents();  // the selection is taken when the clicks are through
   return Done();
 }
 

@@ -19,6 +19,7 @@
 #include "desktop/desktop.h"
 #include "desktop/document_view.h"
 #include "desktop/form_window.h"
+#include "desktop/grid_view.h"
 #include "desktop/look.h"
 #include "desktop/printing.h"
 #include "desktop/run_program.h"
@@ -93,6 +94,14 @@ class Windows : public testing::Test {
     desktop.Enter([&] { program.Current().cmdSwitchSins->UserClicks(); });
     desktop.Enter([&] { program.Chooser().Get<Option>("OptSwitchSins", sin).UserClicks(); });
     return program.At(sin);
+  }
+  // The widget of a report on Smoking's past, opened by that button.
+  template <class W>
+  W& Report(Button* SideControls::*button, Control& control) {
+    SideControls& past = Smoking().Of(Side::Past);
+    desktop.Enter([&] { past.cmdSetPeriodParams->UserClicks(); });
+    desktop.Enter([&] { (past.*button)->UserClicks(); });
+    return dynamic_cast<W&>(*Of(control.Window()).WidgetOf(control));
   }
   void Open(SinWorkspace& ws, int tab) {
     desktop.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(tab); });
@@ -401,6 +410,81 @@ TEST_F(Windows, TabVisitsEveryReachableControlInReadingOrder) {
     visited.push_back(QApplication::focusWidget()->objectName().toStdString());
   }
   EXPECT_EQ(visited, expected);
+}
+
+// ---- The grid ----
+
+// What the table shows as selected, by its own rows and columns.
+QItemSelectionRange ShownSelection(const GridWidget& table) {
+  const QItemSelection selection = table.selectionModel()->selection();
+  return selection.isEmpty() ? QItemSelectionRange() : selection.first();
+}
+
+TEST_F(Windows, TheGridShowsTheSelectionOfItsControl) {
+  Grid& grid = program.Spd().Rows();
+  auto& table = Report<GridWidget>(&SideControls::cmdAdvResultsSpd, grid);
+  desktop.Enter([&] { grid.UserSelects(5, 3, 2, 1); });
+  const QItemSelectionRange some = ShownSelection(table);
+  EXPECT_EQ(std::tuple(some.top(), some.left(), some.bottom(), some.right()), std::tuple(1, 1, 4, 3));
+  desktop.Enter([&] { grid.Select(1, 0, 1, 0); });
+  desktop.Enter([&] { program.Spd().Get<MenuEntry>("cmdSelectAll").UserClicks(); });
+  EXPECT_EQ(ShownSelection(table).height(), grid.RowCount() - 1);
+  EXPECT_EQ(ShownSelection(table).width(), Grid::kColumns);
+}
+
+TEST_F(Windows, DraggingOverTheGridSelectsWhatIsShown) {
+  Grid& grid = program.Spd().Rows();
+  auto& table = Report<GridWidget>(&SideControls::cmdAdvResultsSpd, grid);
+  const auto centre = [&](int row, int column) {
+    return table.visualRect(table.model()->index(row - 1, column)).center();
+  };
+  for (const auto& [from, to] : {std::pair(2, 6), std::pair(10, 5)}) {
+    QTest::mousePress(table.viewport(), Qt::LeftButton, Qt::NoModifier, centre(from, 1));
+    for (const int row : {(from + to) / 2, to}) QTest::mouseMove(table.viewport(), centre(row, 3));
+    QMouseEvent move(QEvent::MouseMove, centre(to, 3), table.viewport()->mapToGlobal(centre(to, 3)),
+                     Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(table.viewport(), &move);
+    QTest::mouseRelease(table.viewport(), Qt::LeftButton, Qt::NoModifier, centre(to, 3));
+    QApplication::processEvents();
+    EXPECT_EQ(std::tuple(grid.Row(), grid.Col(), grid.RowSel(), grid.ColSel()), std::tuple(from, 1, to, 3));
+    EXPECT_EQ(ShownSelection(table).top(), std::min(from, to) - 1);
+    EXPECT_EQ(ShownSelection(table).bottom(), std::max(from, to) - 1);
+  }
+}
+
+TEST_F(Windows, ShiftedReturnEndsALineAsReturnDoes) {
+  DocumentText& text = program.Doc().Text();
+  auto& edit = Report<DocumentEdit>(&SideControls::cmdAdvResultsDoc, text);
+  edit.selectAll();
+  QTest::keyClicks(&edit, "ab");
+  QTest::keyClick(&edit, Qt::Key_Return, Qt::ShiftModifier);
+  QTest::keyClicks(&edit, "cdefgh");
+  QTest::keyClick(&edit, Qt::Key_Left, Qt::ShiftModifier);
+  QTest::keyClick(&edit, Qt::Key_Left, Qt::ShiftModifier);
+  EXPECT_EQ(text.Text(), "ab\r\ncdefgh");
+  EXPECT_EQ(text.SelText(), "gh");
+}
+
+TEST_F(Windows, AMaximisedWorkspaceComesBackWithItsBottomRowBelow) {
+  SinWorkspace& smoking = program.At(0);
+  FormWindow& window = desktop.WindowOf(smoking);
+  window.showMaximized();
+  QTest::qWait(200);  // sizes are taken when they have settled
+  for (const int sin : {1, 0}) {
+    Visit(sin);
+    QTest::qWait(200);
+  }
+  ASSERT_TRUE(window.isMaximized());
+  const Place place = smoking.cmdSwitchSins->GetPlace();
+  EXPECT_NEAR(place.top, window.height() * 15 - place.height - 600, 15);
+}
+
+TEST_F(Windows, AShownWindowComesToTheFrontWhenItIsAskedForAgain) {
+  desktop.Enter([&] { program.At(0).Get<Button>("cmdCombinedResults").UserClicks(); });
+  FormWindow& window = desktop.WindowOf(program.Combined());
+  window.showMinimized();
+  desktop.Enter([&] { program.At(0).Get<Button>("cmdCombinedResults").UserClicks(); });
+  EXPECT_FALSE(window.isMinimized());
 }
 
 // ---- Printing ----
