@@ -57,6 +57,15 @@ QKeySequence::StandardKey KeysFor(const std::string& caption) {
   return QKeySequence::UnknownKey;
 }
 
+// The first capital of the caption that is not taken, else its first letter that is not; none if all are.
+QChar FreeLetter(const QString& caption, const QString& taken) {
+  for (const bool capitals : {true, false})
+    for (const QChar letter : caption)
+      if (letter.isLetter() && (letter.isUpper() || !capitals) && !taken.contains(letter.toUpper()))
+        return letter;
+  return {};
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form, Desktop& desktop) : form_(form), desktop_(desktop) {
@@ -111,7 +120,6 @@ void FormWindow::GiveAccessKeys() {
   for (const bool everyPage : {true, false}) GiveAccessKeys(everyPage, taken);
 }
 
-// The first letter of a word of the caption that is free.
 void FormWindow::GiveAccessKeys(bool everyPage, QString (&taken)[4]) {
   for (const auto& view : views_) {
     auto* button = dynamic_cast<CaptionButton*>(view->Widget());
@@ -121,14 +129,10 @@ void FormWindow::GiveAccessKeys(bool everyPage, QString (&taken)[4]) {
       if (c->Page() != kAnyPage) page = c->Page();
     if ((page == kEveryPage) != everyPage) continue;
     const QString caption = ToQt(dynamic_cast<Button&>(view->Model()).Caption());
-    for (qsizetype i = 0; i < caption.size(); ++i) {
-      const QChar letter = caption[i].toUpper();
-      if (!caption[i].isUpper() || taken[kEveryPage].contains(letter) || taken[page].contains(letter))
-        continue;
-      button->SetAccessKey(letter);
-      taken[page] += letter;
-      break;
-    }
+    const QChar letter = FreeLetter(caption, taken[kEveryPage] + taken[page]);
+    if (letter.isNull()) continue;
+    button->SetAccessKey(letter);
+    taken[page] += letter.toUpper();
   }
 }
 
