@@ -2,6 +2,7 @@
 // reached and named; that widgets show what controls say; what closing, help and printing do.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
@@ -14,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <set>
 
 #include "desktop/balloon.h"
 #include "desktop/desktop.h"
@@ -440,15 +442,34 @@ TEST_F(Windows, DraggingOverTheGridSelectsWhatIsShown) {
   };
   for (const auto& [from, to] : {std::pair(2, 6), std::pair(10, 5)}) {
     QTest::mousePress(table.viewport(), Qt::LeftButton, Qt::NoModifier, centre(from, 1));
-    for (const int row : {(from + to) / 2, to}) QTest::mouseMove(table.viewport(), centre(row, 3));
-    QMouseEvent move(QEvent::MouseMove, centre(to, 3), table.viewport()->mapToGlobal(centre(to, 3)),
-                     Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(table.viewport(), &move);
+    // Cell by cell, the button held down.
+    for (int row = from; row != to;) {
+      row += to > from ? 1 : -1;
+      QMouseEvent move(QEvent::MouseMove, centre(row, 3), table.viewport()->mapToGlobal(centre(row, 3)),
+                       Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(table.viewport(), &move);
+    }
     QTest::mouseRelease(table.viewport(), Qt::LeftButton, Qt::NoModifier, centre(to, 3));
     QApplication::processEvents();
     EXPECT_EQ(std::tuple(grid.Row(), grid.Col(), grid.RowSel(), grid.ColSel()), std::tuple(from, 1, to, 3));
     EXPECT_EQ(ShownSelection(table).top(), std::min(from, to) - 1);
     EXPECT_EQ(ShownSelection(table).bottom(), std::max(from, to) - 1);
+  }
+}
+
+// Buttons that are in front together have different letters, and all have one.
+TEST_F(Windows, EveryButtonHasALetterOfItsOwn) {
+  for (const int tab : {kPastTab, kFutureTab, kTotalTab}) {
+    Open(Smoking(), tab);
+    std::set<QChar> letters = {u'P', u'U', u'T'};  // of the tabs
+    for (const auto& control : Smoking().Controls()) {
+      if (control->Kind() != ControlKind::Button || !control->Reachable()) continue;
+      const auto& button = dynamic_cast<QAbstractButton&>(Widget(Smoking(), control->FullName().c_str()));
+      const QString text = QString(button.text()).remove(QStringLiteral("&&"));
+      const qsizetype at = text.indexOf(u'&');
+      ASSERT_NE(at, -1) << control->FullName();
+      EXPECT_TRUE(letters.insert(text[at + 1].toUpper()).second) << control->FullName();
+    }
   }
 }
 

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "default_texts.h"
+
 namespace vicetoll {
 namespace {
 
@@ -254,29 +256,13 @@ TEST(CatalogueLists, HaveTheirEntryCounts) {
 }
 
 TEST(CatalogueLists, ShowTheirDefaults) {
-  const struct {
-    const char *key, *quantity, *cost, *secondCost, *percent;
-  } kDefaults[] = {
-      {"Smoking", "1.00", "$5.00", "$7.00", "10%"},
-      {"Drinking", "6", "$3.00", "$5.50", "10%"},
-      {"Gambling", "$20", "", "", "5%"},
-      {"Coffeeing", "3", "$3.00", "$1.10", "10%"},
-      {"Watering", "4", "$3.00", "$1.10", "10%"},
-      {"Jailing", "$2400", "", "", "5%"},
-      {"Drugging", "$20", "", "", "10%"},
-      {"Slothing", "$600", "", "", "5%"},
-      {"Soliciting", "10", "$40.00", "$50.00", "10%"},
-      {"Tobaccoing", "$20", "", "", "5%"},
-      {"Interring", "$600", "", "", "5%"},
-      {"Shopping", "$20", "", "", "5%"},
-  };
   for (const auto& defaults : kDefaults) {
     SCOPED_TRACE(defaults.key);
     const SinRow& row = Row(defaults.key);
     EXPECT_EQ(EntryAt(StartList(row), row.quantityDefault), defaults.quantity);
     EXPECT_EQ(EntryAt(kRateList, row.percentDefault), defaults.percent);
     if (row.costClass == CostClass::FlatRateClass) continue;
-    EXPECT_EQ(EntryAt(row.costList, row.costDefault), defaults.cost);
+    EXPECT_EQ(EntryAt(row.costList, row.costDefault), defaults.initialCost);
     EXPECT_EQ(EntryAt(row.secondCostList, row.secondCostDefault), defaults.secondCost);
   }
   EXPECT_EQ(EntryAt(kRateList, kInterestDefault), "5%");
