@@ -1,8 +1,8 @@
 // How long the reports take to build, by the number of their months. The counter is seconds a row.
 #include <benchmark/benchmark.h>
 
-#include "results/report_world.h"
-#include "results/total_reports.h"
+#include "reports/report_world.h"
+#include "reports/total_reports.h"
 
 namespace vicetoll {
 namespace {

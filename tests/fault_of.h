@@ -4,7 +4,7 @@
 #include <optional>
 #include <ostream>
 
-#include "calendar/fault.h"
+#include "base/fault.h"
 
 namespace vicetoll {
 

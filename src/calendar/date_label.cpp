@@ -1,10 +1,9 @@
 #include "calendar/date_label.h"
 
-#include "calendar/checked_int.h"
+#include "base/checked_int.h"
 #include "calendar/number_text.h"
 
 namespace vicetoll {
-inline namespace VTL_General {
 namespace {
 
 constexpr std::string_view kMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
@@ -89,5 +88,4 @@ double DayCountOfMonthIndex(std::string& monthIndex, std::string_view startLabel
   }
 }
 
-}  // namespace VTL_General
 }  // namespace vicetoll

@@ -7,7 +7,6 @@
 #include <string_view>
 
 namespace vicetoll {
-inline namespace VTL_General {
 
 // 1 to 12, or 0 where the first three characters, in any case, name no month.
 std::int16_t MonthNumberFromLabel(std::string_view label);
@@ -34,5 +33,4 @@ std::string MonthAfter(std::string_view label);
 // gives 365/12: the month number is taken modulo 12 and then 0. No amount depends on this figure.
 double DayCountOfMonthIndex(std::string& monthIndex, std::string_view startLabel);
 
-}  // namespace VTL_General
 }  // namespace vicetoll

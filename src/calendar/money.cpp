@@ -3,7 +3,6 @@
 #include "calendar/number_text.h"
 
 namespace vicetoll {
-inline namespace VTL_General {
 namespace {
 
 std::string InCurrency(Currency currency, char euro, std::string_view format) {
@@ -50,5 +49,4 @@ std::string PadRight(std::string_view text, std::int16_t width) {
   return padded;
 }
 
-}  // namespace VTL_General
 }  // namespace vicetoll

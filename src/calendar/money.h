@@ -6,7 +6,6 @@
 #include <string_view>
 
 namespace vicetoll {
-inline namespace VTL_General {
 
 // The symbol that money is shown with. A run starts with the dollar and may move to the euro once.
 enum class Currency { Dollar, Euro };
@@ -33,5 +32,4 @@ double MoneyToNumber(std::string_view text);
 // The text with blanks appended until it has `width` characters; a longer text as it is.
 std::string PadRight(std::string_view text, std::int16_t width);
 
-}  // namespace VTL_General
 }  // namespace vicetoll

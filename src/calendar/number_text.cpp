@@ -6,8 +6,8 @@
 #include <cstring>
 #include <optional>
 
-#include "calendar/checked_int.h"
-#include "calendar/fault.h"
+#include "base/checked_int.h"
+#include "base/fault.h"
 
 namespace vicetoll {
 namespace {

@@ -1,6 +1,6 @@
 #include "calendar/period_store.h"
 
-#include "calendar/fault.h"
+#include "base/fault.h"
 
 namespace vicetoll {
 

@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "calendar/fault.h"
+#include "base/fault.h"
 
 namespace vicetoll {
 

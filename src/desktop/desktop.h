@@ -10,7 +10,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
-#include "calendar/fault.h"
+#include "base/fault.h"
 #include "shell/program.h"
 
 namespace vicetoll {

@@ -16,7 +16,7 @@
 #include "desktop/look.h"
 #include "desktop/text.h"
 #include "desktop/widgets.h"
-#include "results/spd_window.h"
+#include "reports/spd_window.h"
 #include "workspace/sin_workspace.h"
 
 namespace vicetoll {

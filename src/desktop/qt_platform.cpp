@@ -13,9 +13,9 @@
 #include <QTimer>
 #include <QUrl>
 
+#include "base/file_writer.h"
 #include "desktop/printing.h"
 #include "desktop/text.h"
-#include "platform/file_writer.h"
 
 namespace vicetoll {
 

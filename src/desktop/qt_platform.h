@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "platform/platform.h"
+#include "base/platform.h"
 
 namespace vicetoll {
 

@@ -1,10 +1,9 @@
 #include "engine/month_cost.h"
 
-#include "calendar/checked_int.h"
+#include "base/checked_int.h"
 #include "calendar/number_text.h"
 
 namespace vicetoll {
-inline namespace VTL_General {
 namespace {
 
 constexpr double kMonthsPerYear = 12;
@@ -115,5 +114,4 @@ MonthCostCells CellsOf(const CostTerms& terms, const MonthFigures& figures) {
   return cells;
 }
 
-}  // namespace VTL_General
 }  // namespace vicetoll

@@ -10,7 +10,6 @@
 #include "sins/catalogue.h"
 
 namespace vicetoll {
-inline namespace VTL_General {
 
 inline constexpr double DaysPerMonth = 30.42;
 inline constexpr double kCigarettesPerPack = 20;
@@ -87,5 +86,4 @@ MonthFigures FiguresOfMonth(const CostTerms& terms, double monthIndex, double mo
 // The figures as texts.
 MonthCostCells CellsOf(const CostTerms& terms, const MonthFigures& figures);
 
-}  // namespace VTL_General
 }  // namespace vicetoll

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "calendar/checked_int.h"
+#include "base/checked_int.h"
 #include "calendar/date_label.h"
 #include "calendar/money.h"
 #include "calendar/number_text.h"

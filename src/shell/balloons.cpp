@@ -1,10 +1,9 @@
 #include "shell/balloons.h"
 
-#include "calendar/fault.h"
+#include "base/fault.h"
 #include "shell/balloon_texts.h"
 
 namespace vicetoll {
-inline namespace ToolTipMod {
 
 void Balloons::AttachToolTips(int position, SinWorkspace& workspace) {
   At(position).balloons.clear();
@@ -54,5 +53,4 @@ void Balloons::SwitchAll(bool on) {
   }
 }
 
-}  // namespace ToolTipMod
 }  // namespace vicetoll

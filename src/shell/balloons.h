@@ -9,7 +9,6 @@
 #include "workspace/workspaces.h"
 
 namespace vicetoll {
-inline namespace ToolTipMod {
 
 // One balloon for a control, or one for all elements of a control array, under its bare name.
 struct Balloon {
@@ -53,5 +52,4 @@ class Balloons {
   std::array<OfSin, kSinCount> sins_;
 };
 
-}  // namespace ToolTipMod
 }  // namespace vicetoll

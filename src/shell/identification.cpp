@@ -1,7 +1,6 @@
 #include "shell/identification.h"
 
 namespace vicetoll {
-inline namespace VTL_Developer {
 namespace {
 
 constexpr int kDelay = 100;  // milliseconds, between controls and between letters
@@ -147,5 +146,4 @@ void RestoreProgram(SinWorkspace& ws) {
   ws.identificationOver = true;
 }
 
-}  // namespace VTL_Developer
 }  // namespace vicetoll

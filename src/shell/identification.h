@@ -7,7 +7,6 @@
 #include "workspace/sin_workspace.h"
 
 namespace vicetoll {
-inline namespace VTL_Developer {
 
 // Sets the handlers of cmdRevealDeveloper and cmdRestoreProgram, where the workspace has them.
 void ConnectIdentification(SinWorkspace& ws);
@@ -29,5 +28,4 @@ void WriteRevealText(SinWorkspace& ws);
 void TypeLine(SinWorkspace& ws, std::string_view text, int delay, int left, int blankLinesBefore,
               int blankLinesAfter);
 
-}  // namespace VTL_Developer
 }  // namespace vicetoll

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "platform/code_page.h"
+#include "base/code_page.h"
 
 namespace vicetoll {
 namespace {

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include "base/platform.h"
 #include "controls/document_text.h"
 #include "controls/form.h"
-#include "platform/platform.h"
 
 namespace vicetoll {
 

@@ -4,7 +4,6 @@
 #include "workspace/workspace_design.h"
 
 namespace vicetoll {
-inline namespace VTL_General {
 namespace {
 
 constexpr int kStretchedWidth = 16000;
@@ -205,5 +204,4 @@ void PlaceIdentification(SinWorkspace& ws) {
   ws.Get<Button>("cmdRevealDeveloper").SetPlace({left, top, 60, 60});
 }
 
-}  // namespace VTL_General
 }  // namespace vicetoll

@@ -4,7 +4,6 @@
 #include "workspace/sin_workspace.h"
 
 namespace vicetoll {
-inline namespace VTL_General {
 
 // The size of every workspace, and how much higher Smoking is while its euro button is shown.
 inline constexpr int kWindowWidth = 12000;
@@ -27,5 +26,4 @@ void PlaceWorkspaceControls(SinWorkspace& ws);
 void PlaceEuroButton(SinWorkspace& ws);
 void PlaceIdentification(SinWorkspace& ws);
 
-}  // namespace VTL_General
 }  // namespace vicetoll

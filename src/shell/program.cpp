@@ -1,6 +1,6 @@
 #include "shell/program.h"
 
-#include "calendar/fault.h"
+#include "base/fault.h"
 #include "shell/identification.h"
 #include "shell/layout.h"
 #include "shell/smoking_extras.h"

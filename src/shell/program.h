@@ -10,11 +10,11 @@
 #include <string_view>
 #include <vector>
 
-#include "results/report_windows.h"
+#include "reports/report_windows.h"
 #include "shell/balloons.h"
+#include "shell/chooser.h"
+#include "shell/combined_results.h"
 #include "shell/info_window.h"
-#include "sins/chooser.h"
-#include "sins/combined_results.h"
 #include "workspace/workspaces.h"
 
 namespace vicetoll {

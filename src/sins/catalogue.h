@@ -13,7 +13,7 @@
 #include <span>
 #include <string_view>
 
-#include "calendar/side.h"
+#include "base/side.h"
 
 namespace vicetoll {
 

@@ -8,7 +8,6 @@
 #include "workspace/totals.h"
 
 namespace vicetoll {
-inline namespace VTL_CombFunctions {
 namespace {
 
 std::string PeriodCaption(Side side, int period) {
@@ -139,5 +138,4 @@ void UpdateResultButtons(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
     button->SetEnabled(any);
 }
 
-}  // namespace VTL_CombFunctions
 }  // namespace vicetoll

@@ -7,7 +7,6 @@
 #include "workspace/sin_workspace.h"
 
 namespace vicetoll {
-inline namespace VTL_CombFunctions {
 
 // The press itself: stores the period on screen and commits all periods up to it.
 void PressSetButton(SinWorkspace& ws, Side side);
@@ -22,5 +21,4 @@ void SelectPeriod(SinWorkspace& ws, Side side, std::int16_t sideIndex);
 // Opens the side's four result buttons if at least one set period is on, closes them otherwise.
 void UpdateResultButtons(SinWorkspace& ws, Side side, std::int16_t sideIndex);
 
-}  // namespace VTL_CombFunctions
 }  // namespace vicetoll

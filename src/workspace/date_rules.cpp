@@ -3,12 +3,11 @@
 #include <cstdlib>
 #include <vector>
 
-#include "calendar/checked_int.h"
+#include "base/checked_int.h"
 #include "calendar/date_label.h"
-#include "calendar/date_list.h"
+#include "workspace/date_list.h"
 
 namespace vicetoll {
-inline namespace VTL_CombFunctions {
 namespace {
 
 constexpr std::int16_t kFineStep = 1;
@@ -197,5 +196,4 @@ void ResetDateLists(SinWorkspace& ws, Side side) {
   c.comStop->SelectEntry(c.comStop->Count() - 1);
 }
 
-}  // namespace VTL_CombFunctions
 }  // namespace vicetoll

@@ -11,7 +11,6 @@
 #include "workspace/sin_workspace.h"
 
 namespace vicetoll {
-inline namespace VTL_CombFunctions {
 
 // Rebuild both lists of a side, when its start or its stop list receives the focus. A fault on the way
 // shows a message and resets the side's dates; it never ends the run.
@@ -34,5 +33,4 @@ void PrepareNextPeriodDates(SinWorkspace& ws, Side side, std::int16_t period, st
 // Recovery after a fault: the side's dates and period options as at the beginning. Store and flags stay.
 void ResetDateLists(SinWorkspace& ws, Side side);
 
-}  // namespace VTL_CombFunctions
 }  // namespace vicetoll

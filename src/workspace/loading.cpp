@@ -1,6 +1,6 @@
 #include "workspace/loading.h"
 
-#include "calendar/date_list.h"
+#include "workspace/date_list.h"
 #include "workspace/parameters.h"
 
 namespace vicetoll {

@@ -1,8 +1,8 @@
 #include "workspace/parameters.h"
 
-#include "calendar/checked_int.h"
-#include "calendar/date_list.h"
+#include "base/checked_int.h"
 #include "calendar/number_text.h"
+#include "workspace/date_list.h"
 
 namespace vicetoll {
 namespace {

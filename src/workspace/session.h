@@ -5,11 +5,11 @@
 #include <cstdint>
 #include <string>
 
-#include "calendar/checked_int.h"
+#include "base/checked_int.h"
+#include "base/platform.h"
 #include "calendar/date_label.h"
 #include "calendar/money.h"
 #include "calendar/period_store.h"
-#include "platform/platform.h"
 #include "sins/catalogue.h"
 
 namespace vicetoll {

@@ -8,8 +8,8 @@
 #include <cstdint>
 #include <string>
 
-#include "calendar/fault.h"
-#include "calendar/side.h"
+#include "base/fault.h"
+#include "base/side.h"
 #include "controls/drop_down_list.h"
 #include "controls/form.h"
 #include "engine/side_chain.h"

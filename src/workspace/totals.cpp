@@ -1,14 +1,13 @@
 #include "workspace/totals.h"
 
-#include "calendar/checked_int.h"
+#include "base/checked_int.h"
 #include "calendar/date_label.h"
-#include "calendar/date_list.h"
 #include "calendar/number_text.h"
+#include "workspace/date_list.h"
 #include "workspace/parameters.h"
 #include "workspace/period_operations.h"
 
 namespace vicetoll {
-inline namespace VTL_CombFunctions {
 namespace {
 
 constexpr std::string_view kNotAvailable = "n/a";
@@ -215,5 +214,4 @@ void RetireEuroButton(SinWorkspace& ws) {
   ws.Resize(ws.Width(), ws.Height() - kEuroHeight);
 }
 
-}  // namespace VTL_CombFunctions
 }  // namespace vicetoll

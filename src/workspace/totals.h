@@ -8,7 +8,6 @@
 #include "workspace/sin_workspace.h"
 
 namespace vicetoll {
-inline namespace VTL_CombFunctions {
 
 // Brings the result boxes of the set periods in line with their radios and evaluates the side, once per
 // set period, with the flags as they then stand.
@@ -49,5 +48,4 @@ void UpdateCombinedCumulative(SinWorkspace& ws, std::int16_t futureSide, std::in
 // Smoking's euro button goes for good, and the window, which was higher to make room for it, is lowered.
 void RetireEuroButton(SinWorkspace& ws);
 
-}  // namespace VTL_CombFunctions
 }  // namespace vicetoll

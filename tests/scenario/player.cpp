@@ -7,10 +7,10 @@
 #include <iostream>
 #include <iterator>
 
-#include "calendar/fault.h"
-#include "platform/code_page.h"
+#include "base/code_page.h"
+#include "base/fault.h"
 #include "scenario/script.h"
-#include "shell/operations.h"
+#include "vocabulary/operations.h"
 
 namespace vicetoll {
 namespace {

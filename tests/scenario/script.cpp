@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "platform/code_page.h"
+#include "base/code_page.h"
 
 namespace vicetoll {
 namespace {

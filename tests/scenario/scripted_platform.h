@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/file_writer.h"
-#include "platform/platform.h"
+#include "base/file_writer.h"
+#include "base/platform.h"
 
 namespace vicetoll {
 

@@ -1,4 +1,4 @@
-#include "calendar/fault.h"
+#include "base/fault.h"
 #include "fault_of.h"
 #include "program_fixture.h"
 

@@ -13,7 +13,7 @@
 #include <iostream>
 #include <random>
 
-#include "calendar/fault.h"
+#include "base/fault.h"
 #include "soak/invariants.h"
 #include "soak/random_user.h"
 

@@ -6,11 +6,11 @@
 #include <cstdio>
 #include <string>
 
+#include "base/code_page.h"
 #include "desktop/desktop.h"
 #include "desktop/form_window.h"
 #include "desktop/look.h"
 #include "desktop/qt_platform.h"
-#include "platform/code_page.h"
 
 namespace vicetoll {
 namespace {
