@@ -35,7 +35,7 @@ UserOutcome Choice::UserClicks() {
   if (!Reachable()) return UserOutcome::Refused;
   SetValue(ValueAfterClick());
   if (onClick) onClick();
-  return UserOutcome::Done;
+  return Acted();
 }
 
 }  // namespace vicetoll

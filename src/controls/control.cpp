@@ -15,6 +15,11 @@ void Control::Changed() {
   if (FormListener* listener = form_.Listener()) listener->ControlChanged(*this);
 }
 
+UserOutcome Control::Acted() {
+  form_.Acted();
+  return UserOutcome::Done;
+}
+
 void Control::SetEnabled(bool enabled) {
   if (enabled_ == enabled) return;
   enabled_ = enabled;
@@ -54,7 +59,7 @@ bool Control::Reachable() const {
 UserOutcome Control::UserFocuses() {
   if (!Reachable()) return UserOutcome::Refused;
   if (onFocus) onFocus();
-  return UserOutcome::Done;
+  return Acted();
 }
 
 void CaptionedControl::SetCaption(std::string_view caption) {
@@ -66,13 +71,13 @@ void CaptionedControl::SetCaption(std::string_view caption) {
 UserOutcome Button::UserClicks() {
   if (!Reachable()) return UserOutcome::Refused;
   if (onClick) onClick();
-  return UserOutcome::Done;
+  return Acted();
 }
 
 UserOutcome Panel::UserClicks() {
   if (!Reachable()) return UserOutcome::Refused;
   if (onClick) onClick();
-  return UserOutcome::Done;
+  return Acted();
 }
 
 void TextBox::SetText(std::string_view text) {
@@ -91,7 +96,7 @@ void TabControl::SetTab(int tab) {
 UserOutcome TabControl::UserSelects(int tab) {
   if (!Reachable()) return UserOutcome::Refused;
   SetTab(tab);
-  return UserOutcome::Done;
+  return Acted();
 }
 
 }  // namespace vicetoll

@@ -106,6 +106,8 @@ class Control {
 
  protected:
   void Changed();
+  // Ends a user's action that was carried out: tells the window of it.
+  UserOutcome Acted();
   // Whether children on `page` are in front.
   virtual bool ShowsPage(int) const { return true; }
 
@@ -139,6 +141,13 @@ class Button : public CaptionedControl {
 
   UserOutcome UserClicks();
   std::function<void()> onClick;
+
+  // The keys that press the button from anywhere in its window, "Ctrl+G"; empty if there are none.
+  const std::string& Keys() const { return keys_; }
+  void SetKeys(std::string_view keys) { keys_ = keys; }
+
+ private:
+  std::string keys_;
 };
 
 // An entry of a window's right-click menu.

@@ -45,13 +45,13 @@ void DocumentText::ReplaceSelection(std::string_view text) {
 UserOutcome DocumentText::UserTypes(std::string_view text) {
   if (!Reachable() || readOnly_) return UserOutcome::Refused;
   SetText(WithCrLf(text));
-  return UserOutcome::Done;
+  return Acted();
 }
 
 UserOutcome DocumentText::UserSelects(int start, int length) {
   if (!Reachable()) return UserOutcome::Refused;
   Select(start, length);
-  return UserOutcome::Done;
+  return Acted();
 }
 
 }  // namespace vicetoll

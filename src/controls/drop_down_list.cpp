@@ -49,7 +49,7 @@ UserOutcome DropDownList::UserPicks(int position) {
   position_ = position;
   Changed();
   if (onPick) onPick();
-  return UserOutcome::Done;
+  return Acted();
 }
 
 UserOutcome DropDownList::UserPicks(std::string_view entry) {
@@ -61,7 +61,7 @@ UserOutcome DropDownList::UserTypes(std::string_view text) {
   if (!Reachable() || !takesTyping_) return UserOutcome::Refused;
   SetText(text);
   if (onType) onType();
-  return UserOutcome::Done;
+  return Acted();
 }
 
 }  // namespace vicetoll

@@ -46,6 +46,7 @@ void Form::SetWindowState(WindowState state) {
 UserOutcome Form::UserResizes(int width, int height) {
   if (!shown_) return UserOutcome::Refused;
   Resize(width, height);
+  Acted();
   return UserOutcome::Done;
 }
 

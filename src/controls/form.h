@@ -63,6 +63,12 @@ class Form {
   UserOutcome UserResizes(int width, int height);  // Refused while the window is hidden
   std::function<void()> onResize;
 
+  // Runs after whatever a user has done in this window, when its own handlers are through.
+  std::function<void()> onUserActed;
+  void Acted() const {
+    if (onUserActed) onUserActed();
+  }
+
   // What is typed on the bare window, line by line, blank lines included. A letter goes to the last line.
   const std::vector<CanvasLine>& Canvas() const { return canvas_; }
   void StartCanvasLine(int left);

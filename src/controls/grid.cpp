@@ -129,7 +129,7 @@ UserOutcome Grid::UserSelects(int row, int col, int rowSel, int colSel) {
   if (!Reachable()) return UserOutcome::Refused;
   if (!HasCell(row, col) || !HasCell(rowSel, colSel)) return UserOutcome::NoEntry;
   Select(row, col, rowSel, colSel);
-  return UserOutcome::Done;
+  return Acted();
 }
 
 }  // namespace vicetoll

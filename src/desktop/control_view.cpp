@@ -1,5 +1,7 @@
 #include "desktop/control_view.h"
 
+#include <QShortcut>
+
 #include "controls/choice.h"
 #include "controls/document_text.h"
 #include "controls/drop_down_list.h"
@@ -61,6 +63,10 @@ class ButtonView : public ViewOf<Button, CaptionButton> {
   ButtonView(Button& button, QWidget* parent, Desktop& desktop) : ViewOf(button, new CaptionButton(parent)) {
     QObject::connect(widget_, &QPushButton::clicked,
                      [&button, &desktop] { desktop.Enter([&] { button.UserClicks(); }); });
+    if (button.Keys().empty()) return;
+    // As the button's child it sleeps while the button is disabled or hidden.
+    auto* keys = new QShortcut(QKeySequence(ToQt(button.Keys()), QKeySequence::PortableText), widget_);
+    QObject::connect(keys, &QShortcut::activated, widget_, &QPushButton::click);
   }
 
  protected:

@@ -17,6 +17,7 @@
 #include "desktop/text.h"
 #include "desktop/widgets.h"
 #include "reports/spd_window.h"
+#include "shell/strip.h"
 #include "workspace/sin_workspace.h"
 
 namespace vicetoll {
@@ -113,25 +114,31 @@ void FormWindow::MakeMenuEntry(MenuEntry& entry) {
 }
 
 // Buttons on different tabs are never in front together and may share a letter; those that are always in
-// front have the first choice. P, U and T belong to the tabs.
+// front have the first choice, and those with keys of their own the last. P, U and T belong to the tabs.
 void FormWindow::GiveAccessKeys() {
   QString taken[4];
   if (dynamic_cast<SinWorkspace*>(&form_) != nullptr) taken[kEveryPage] = QStringLiteral("PUT");
-  for (const bool everyPage : {true, false}) GiveAccessKeys(everyPage, taken);
+  GiveAccessKeys(taken,
+                 [](const Button& button, int page) { return button.Keys().empty() && page == kEveryPage; });
+  GiveAccessKeys(taken,
+                 [](const Button& button, int page) { return button.Keys().empty() && page != kEveryPage; });
+  for (int page = 0; page < kEveryPage; ++page) taken[kEveryPage] += taken[page];
+  GiveAccessKeys(taken, [](const Button& button, int) { return !button.Keys().empty(); });
 }
 
-void FormWindow::GiveAccessKeys(bool everyPage, QString (&taken)[4]) {
+template <class Picks>
+void FormWindow::GiveAccessKeys(QString (&taken)[4], const Picks& picks) {
   for (const auto& view : views_) {
-    auto* button = dynamic_cast<CaptionButton*>(view->Widget());
-    if (button == nullptr) continue;
+    auto* widget = dynamic_cast<CaptionButton*>(view->Widget());
+    if (widget == nullptr) continue;
+    const auto& button = dynamic_cast<const Button&>(view->Model());
     int page = kEveryPage;
-    for (const Control* c = &view->Model(); c != nullptr; c = c->Container())
+    for (const Control* c = &button; c != nullptr; c = c->Container())
       if (c->Page() != kAnyPage) page = c->Page();
-    if ((page == kEveryPage) != everyPage) continue;
-    const QString caption = ToQt(dynamic_cast<Button&>(view->Model()).Caption());
-    const QChar letter = FreeLetter(caption, taken[kEveryPage] + taken[page]);
+    if (!picks(button, page)) continue;
+    const QChar letter = FreeLetter(ToQt(button.Caption()), taken[kEveryPage] + taken[page]);
     if (letter.isNull()) continue;
-    button->SetAccessKey(letter);
+    widget->SetAccessKey(letter);
     taken[page] += letter.toUpper();
   }
 }
@@ -199,6 +206,9 @@ void FormWindow::UpdateNames() {
     }
     QString description = BalloonText(control);
     if (description.isEmpty()) description = ToQt(control.ToolTip());
+    if (const auto* button = dynamic_cast<const Button*>(&control);
+        button != nullptr && description.isEmpty())
+      description = ToQt(button->Keys());
     if (hand->accessibleDescription() != description) hand->setAccessibleDescription(description);
   }
 }
@@ -344,8 +354,8 @@ void FormWindow::paintEvent(QPaintEvent*) {
   if (dynamic_cast<SinWorkspace*>(&form_) != nullptr && form_.Canvas().empty()) {
     QPainter painter(this);
     painter.setPen(QColor(90, 94, 110));
-    DrawFitted(painter, QRect(8, height() - 30, width() - 16, 24), Qt::AlignLeft | Qt::AlignVCenter,
-               QString::fromLatin1(kKeyHint), font());
+    DrawFitted(painter, QRect(8, height() - 30, ToPixels(StripLeft()) - 16, 24),
+               Qt::AlignLeft | Qt::AlignVCenter, QString::fromLatin1(kKeyHint), font());
   }
   PaintCanvas();
 }

@@ -53,7 +53,8 @@ class FormWindow : public QWidget {
   void TakeSettledSize();
   void TakeState();
   void GiveAccessKeys();
-  void GiveAccessKeys(bool everyPage, QString (&taken)[4]);
+  template <class Picks>
+  void GiveAccessKeys(QString (&taken)[4], const Picks& picks);
 
   // What a control explains itself by: the balloon's text while balloons are on.
   QString BalloonText(const Control& control) const;

@@ -1,6 +1,7 @@
 #include "shell/layout.h"
 
 #include "shell/design_places.h"
+#include "shell/strip.h"
 #include "workspace/workspace_design.h"
 
 namespace vicetoll {
@@ -55,6 +56,7 @@ void PlaceBottomRow(SinWorkspace& ws) {
   SetTop(help, fromBottom(help, 1025));
   SetLeft(faq, help.GetPlace().left);
   SetTop(faq, help.GetPlace().top + 450);
+  PlaceStrip(ws);
 }
 
 void SizeBottomRow(SinWorkspace& ws) {

@@ -4,6 +4,7 @@
 #include "shell/identification.h"
 #include "shell/layout.h"
 #include "shell/smoking_extras.h"
+#include "shell/strip.h"
 #include "workspace/loading.h"
 #include "workspace/workspace_design.h"
 
@@ -17,6 +18,7 @@ template <class T>
 T& Program::Created(std::unique_ptr<T>& slot, std::unique_ptr<T> made) {
   slot = std::move(made);
   windows_.push_back(slot.get());
+  slot->onUserActed = [this] { FollowUser(); };
   if (onWindowCreated) onWindowCreated(*slot);
   return *slot;
 }
@@ -26,6 +28,7 @@ SinWorkspace& Program::At(int position) {
   std::unique_ptr<SinWorkspace>& slot = workspaces_[position];
   if (slot) return *slot;
   SinWorkspace& ws = Created(slot, std::make_unique<SinWorkspace>(session_, position));
+  MakeStrip(ws);
   PlaceDesign(ws);
   Connect(ws);
   if (!ws.IsSmoking()) ws.SetCaption(ws.Sin().windowCaption);
@@ -66,6 +69,8 @@ void Program::Connect(SinWorkspace& ws) {
   ConnectIdentification(ws);
   if (ws.IsSmoking()) ConnectSmokingExtras(ws);
 }
+
+void Program::FollowUser() { UpdateStrip(Current()); }
 
 void Program::ApplyFormLayout(SinWorkspace& workspace) { vicetoll::ApplyFormLayout(workspace); }
 

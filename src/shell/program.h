@@ -56,6 +56,8 @@ class Program final : public Workspaces, public SinSwitching, public ReportWindo
   T& Created(std::unique_ptr<T>& slot, std::unique_ptr<T> made);
   void Connect(SinWorkspace& workspace);
   void StartSmoking();
+  // Brings what stands beside the windows' own rules in step with what a user has just done.
+  void FollowUser();
 
   Session session_;
   Balloons balloons_;

@@ -1,0 +1,58 @@
+#include "shell/strip.h"
+
+#include <string_view>
+
+namespace vicetoll {
+namespace {
+
+struct StripButton {
+  std::string_view name, caption, keys;
+  int width;  // twips
+};
+
+// From left to right.
+// clang-format off
+constexpr StripButton kStrip[] = {
+    {"cmdGrowthChart", "Chart",    "Ctrl+G",       1095},
+};
+// clang-format on
+
+// Twips. The strip ends below the last button of the bottom row.
+constexpr int kRight = 11875;
+constexpr int kGap = 60;
+constexpr int kHeight = 420;
+constexpr int kAboveBottom = 500;
+
+bool AnyPeriodCounts(const SinWorkspace& ws) {
+  for (Side side : kSides)
+    for (int p = 1; p <= kPeriodCount; ++p)
+      if (const PeriodRecord& record = ws.Record(side, p); record.PeriodSet && record.PeriodEnabled)
+        return true;
+  return false;
+}
+
+}  // namespace
+
+void MakeStrip(SinWorkspace& ws) {
+  for (const StripButton& row : kStrip)
+    ws.Add<Button>({std::string(row.name)}, row.caption).SetKeys(row.keys);
+  UpdateStrip(ws);
+}
+
+void PlaceStrip(SinWorkspace& ws) {
+  int left = StripLeft();
+  for (const StripButton& row : kStrip) {
+    ws.Get<Button>(row.name).SetPlace({left, ws.Height() - kAboveBottom, row.width, kHeight});
+    left += row.width + kGap;
+  }
+}
+
+int StripLeft() {
+  int left = kRight + kGap;
+  for (const StripButton& row : kStrip) left -= row.width + kGap;
+  return left;
+}
+
+void UpdateStrip(SinWorkspace& ws) { ws.Get<Button>("cmdGrowthChart").SetEnabled(AnyPeriodCounts(ws)); }
+
+}  // namespace vicetoll
