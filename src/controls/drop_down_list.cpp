@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/fault.h"
+
 namespace vicetoll {
 namespace {
 const std::string kNoEntry;
@@ -27,6 +29,9 @@ void DropDownList::SetText(std::string_view text) {
 }
 
 void DropDownList::Insert(int position, std::string_view entry) {
+  if (position < 0 || position > Count())
+    throw Fault(FaultKind::Index, "A list of " + std::to_string(Count()) + " entries has no place " +
+                                      std::to_string(position) + ".");
   entries_.emplace(entries_.begin() + position, entry);
   if (position_ >= position)
     ++position_;

@@ -34,7 +34,7 @@ class DropDownList : public Control {
   void SelectEntry(int position) { SetText(std::string(Entry(position))); }
 
   // Adds an entry. The text stays, and the position follows its entry; while no entry equalled the text,
-  // an added one that does becomes the position.
+  // an added one that does becomes the position. Throws Fault(Index) outside 0..Count().
   void Insert(int position, std::string_view entry);
   void Append(std::string_view entry) { Insert(Count(), entry); }
   // Takes away entries, text and position.

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/form.h"
+#include "fault_of.h"
 
 namespace vicetoll {
 namespace {
@@ -29,6 +30,15 @@ TEST_F(List, StartsWithNothing) {
   EXPECT_EQ(list.Count(), 0);
   EXPECT_EQ(list.Text(), "");
   EXPECT_EQ(list.Position(), -1);
+}
+
+TEST_F(List, HasNoPlaceBehindTheOneAfterItsLastEntry) {
+  Fill({"a"});
+  EXPECT_EQ(FaultOf([&] { list.Insert(2, "b"); }), FaultKind::Index);
+  EXPECT_EQ(FaultOf([&] { list.Insert(-1, "b"); }), FaultKind::Index);
+  EXPECT_EQ(list.Entries(), std::vector<std::string>{"a"});
+  list.Insert(1, "b");
+  EXPECT_EQ(list.Entry(1), "b");
 }
 
 TEST_F(List, FillingSelectsNothing) {
