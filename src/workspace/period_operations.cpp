@@ -50,6 +50,7 @@ double CumulativeCostBetweenPeriod(const SinWorkspace& ws, Side side, std::strin
 
 double TotalCostInCurrentPeriod(const SinWorkspace& ws, Side side, double count, double months,
                                 std::int16_t period) {
+  if (count < 1) return 0;  // the period may hold no texts yet
   PeriodTerms terms = PeriodTermsOf(ws, side, period);
   if (side == Side::Future && ws.Sin().key == "Drinking")
     terms.cost.quantity = ws.Record(side, period).QuantityListIndex;

@@ -30,7 +30,8 @@ double CumulativeCostInPeriod(const SinWorkspace& ws, Side side, std::string_vie
 double CumulativeCostBetweenPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost,
                                    std::int16_t period, std::string_view stop, std::string_view start);
 
-// The balance from nothing after `count` months of `months`. Two sins differ: the future side of Drinking
+// The balance from nothing after `count` months of `months`. Where that is none, nothing is read from the
+// store: 0, also for a period that holds no texts yet. Two sins differ: the future side of Drinking
 // takes the stored list position for the daily quantity, and the future side of Jailing knows no yearly
 // increase.
 double TotalCostInCurrentPeriod(const SinWorkspace& ws, Side side, double count, double months,
