@@ -112,8 +112,7 @@ CountedPeriods CountedOf(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
     counted.first = p;
   }
   // A side of which nothing counts goes as one with a zero total, whatever its box shows.
-  if (counted.last != 0) counted.total = MoneyToNumber(ws.Of(side).txtResultsTotal->Text());
-  counted.worthCounting = counted.total != 0;
+  counted.worthCounting = counted.last != 0 && MoneyToNumber(ws.Of(side).txtResultsTotal->Text()) != 0;
   return counted;
 }
 
@@ -162,7 +161,11 @@ void UpdateTotalTab(SinWorkspace& ws, std::int16_t futureSide, std::int16_t past
 
   const CountedPeriods pastCounted = CountedOf(ws, Side::Past, pastSide);
   const CountedPeriods futureCounted = CountedOf(ws, Side::Future, futureSide);
-  ws.txtResultsTotalSummaryTot->SetText(ws.Money(pastCounted.total + futureCounted.total, kTotalFormat));
+  // As the boxes stand, also that of a side of which nothing counts: a press writes a total with disabled
+  // periods in it.
+  const double onScreen =
+      MoneyToNumber(past.txtResultsTotal->Text()) + MoneyToNumber(future.txtResultsTotal->Text());
+  ws.txtResultsTotalSummaryTot->SetText(ws.Money(onScreen, kTotalFormat));
   const bool anything = pastCounted.worthCounting || futureCounted.worthCounting;
   EnableTotals(ws, anything);
   ws.cmdAdvResultsDocSummaryTot->SetEnabled(anything);

@@ -33,7 +33,6 @@ void GrowFutureRateLists(SinWorkspace& ws);
 struct CountedPeriods {
   int first = 0, last = 0;     // period numbers, 0 where nothing counts
   bool worthCounting = false;  // something counts, and the side's total is not zero
-  double total = 0;            // what the side's box shows, 0 where nothing counts
 };
 CountedPeriods CountedOf(SinWorkspace& ws, Side side, std::int16_t sideIndex);
 

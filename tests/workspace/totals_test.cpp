@@ -133,7 +133,8 @@ TEST_F(TotalTab, EverythingDisabledIsNotAvailable) {
 }
 
 // A press counts a disabled first period in the total, though nothing of the side counts.
-TEST_F(TotalTab, ATotalOfWhichNothingCountsIsNoTotal) {
+// It is added to the sum of the costs as it stands on the screen, but it takes no way.
+TEST_F(TotalTab, ATotalOfWhichNothingCountsTakesNoWay) {
   Commit(Side::Past, 1, "May - 2026", "Jun - 2026");
   run.Click(past.rbnDisabledPeriod(1));
   run.Press(ws, Side::Past);
@@ -142,7 +143,7 @@ TEST_F(TotalTab, ATotalOfWhichNothingCountsIsNoTotal) {
   ExpectNothing();
   Commit(Side::Future, 1, "Jul - 2026", "Jul - 2026");
   Open();
-  ExpectTotals("$300", "$300");
+  ExpectTotals("$900", "$300");
 }
 
 // "$0" is not "0", but it is a zero total.
