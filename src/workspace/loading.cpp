@@ -13,6 +13,24 @@ constexpr int kFutureYears = 75;
 // The default length of period 1.
 constexpr int kDefaultYears = 10;
 
+// Puts the unit and the cost mode back to those of the start, as a click on their options would, labels and
+// lists included. Options that stand there already are left alone, and so are their labels.
+void PutOptionsBack(SinWorkspace& ws, Side side) {
+  SideControls& c = ws.Of(side);
+  Option& startUnit = ws.Sin().startUnit == Unit::PerDay ? *c.firstUnit : *c.secondUnit;
+  if (!startUnit.Value()) {
+    startUnit.SetValue(true);
+    if (ws.IsSmoking())
+      ShowPacksOrCigarettes(ws, side);
+    else
+      RefillUnitList(ws, side, ws.Record(side, ws.State(side).CurrentPeriod).QuantityListIndex);
+  }
+  if (c.OptCigPercentCostIncrease != nullptr && !c.OptCigPercentCostIncrease->Value()) {
+    c.OptCigPercentCostIncrease->SetValue(true);
+    ShowCostMode(ws, side);
+  }
+}
+
 void FillValueLists(SinWorkspace& ws, Side side) {
   SideControls& c = ws.Of(side);
   const SinRow& sin = ws.Sin();
@@ -20,10 +38,7 @@ void FillValueLists(SinWorkspace& ws, Side side) {
     AppendEntries(ws, *c.quantity, sin.perDayList);
     AppendEntries(ws, *c.comCigsPerDay, sin.perMonthList);
   } else {
-    // The flat-rate sins fill the list of the unit that is on; the others that of their unit at the start.
-    const Unit inForce = c.firstUnit->Value() ? Unit::PerDay : Unit::PerMonth;
-    AppendEntries(ws, *c.quantity,
-                  UnitList(sin, ws.Class() == CostClass::FlatRateClass ? inForce : sin.startUnit));
+    AppendEntries(ws, *c.quantity, UnitList(sin, sin.startUnit));
   }
   AppendEntries(ws, *c.comPercentIncrease, kRateList);
   AppendEntries(ws, *c.comInterestRate1, kRateList);
@@ -59,6 +74,7 @@ void HideResults(SinWorkspace& ws, Side side) {
 
 void LoadParameters(SinWorkspace& ws, Side side) {
   SideControls& c = ws.Of(side);
+  PutOptionsBack(ws, side);
   ws.SSTab_PastFutureSwitch->SetEnabled(false);
   c.cmdSetPeriodParams->SetEnabled(false);
   SideState& state = ws.State(side);
@@ -153,6 +169,9 @@ void ResetSideScreen(SinWorkspace& ws, Side side) {
   HideResults(ws, side);
   OpenPeriodOptions(ws, side, 1);
   OpenPeriodRadios(ws, side, 1);
+  // Period 1 is open, but there is nothing yet to take out of the sums. Its frame stays as it is.
+  c.rbnEnabledPeriod(1).SetEnabled(false);
+  c.rbnDisabledPeriod(1).SetEnabled(false);
   c.cmdAdvResultsDoc->SetEnabled(false);
   c.cmdAdvResultsSpd->SetEnabled(false);
   c.cmdAdvResultsDocSummary->SetEnabled(false);

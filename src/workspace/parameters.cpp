@@ -9,6 +9,11 @@ namespace {
 
 constexpr std::int16_t kCoarseStep = 12;
 
+// The list of the unit option that is on. Smoking has one for each unit, the others one for both.
+const DropDownList& QuantityListOf(const SinWorkspace& ws, const SideControls& c) {
+  return ws.IsSmoking() && !c.firstUnit->Value() ? *c.comCigsPerDay : *c.quantity;
+}
+
 // The part of SetParameters that all sins share.
 void SaveSharedParameters(SinWorkspace& ws, Side side, std::int16_t period) {
   SideControls& c = ws.Of(side);
@@ -36,19 +41,13 @@ void SaveSharedParameters(SinWorkspace& ws, Side side, std::int16_t period) {
   record.InflationRateText = c.comInflationRate1->Text();
 }
 
-// The position of the quantity that is stored. A repeated load appends the list again. Where the period
-// comes back to a list that is filled anew (all sins but Smoking), an entry of a later copy is stored as that
-// of the first, or another amount would come back.
+// The position of the quantity that is stored. A repeated load appends the list again; an entry of a later
+// copy is stored at its place in the first, which is there also when the list is filled anew. -1 where the
+// text is no entry.
 std::int16_t QuantityPosition(const SinWorkspace& ws, const SideControls& c) {
-  if (ws.IsSmoking()) {
-    const DropDownList& list = c.firstUnit->Value() ? *c.quantity : *c.comCigsPerDay;
-    return static_cast<std::int16_t>(list.Position());
-  }
-  int oneCopy = 0;
-  for (const Run& run : UnitList(ws.Sin(), c.firstUnit->Value() ? Unit::PerDay : Unit::PerMonth).runs)
-    oneCopy += run.last - run.first + 1;
-  const DropDownList& list = *c.quantity;
-  return static_cast<std::int16_t>(list.Position() < oneCopy ? list.Position() : list.Find(list.Text()));
+  const Unit unit = c.firstUnit->Value() ? Unit::PerDay : Unit::PerMonth;
+  const DropDownList& list = QuantityListOf(ws, c);
+  return static_cast<std::int16_t>(list.Position() % EntryCount(UnitList(ws.Sin(), unit)));
 }
 
 // The position of the first entry with the stored cost, comparing texts without the euro sign, and where
@@ -188,9 +187,7 @@ void ShowCostMode(SinWorkspace& ws, Side side) {
 }
 
 const std::string& QuantityText(const SinWorkspace& ws, Side side, std::int16_t period) {
-  const SideControls& c = ws.Of(side);
-  const bool cigarettes = ws.IsSmoking() && !c.firstUnit->Value();
-  return (cigarettes ? c.comCigsPerDay : c.quantity)->EntryOrLast(ws.Record(side, period).QuantityListIndex);
+  return QuantityListOf(ws, ws.Of(side)).EntryOrLast(ws.Record(side, period).QuantityListIndex);
 }
 
 void AppendEntries(const SinWorkspace& ws, DropDownList& list, const ListDefinition& definition) {
@@ -201,6 +198,12 @@ void AppendEntries(const SinWorkspace& ws, DropDownList& list, const ListDefinit
       list.Append(money ? ws.Money(value, definition.format) : FormatNumber(value, definition.format));
     }
   }
+}
+
+int EntryCount(const ListDefinition& definition) {
+  int count = 0;
+  for (const Run& run : definition.runs) count += run.last - run.first + 1;
+  return count;
 }
 
 const ListDefinition& UnitList(const SinRow& sin, Unit unit) {

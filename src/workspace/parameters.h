@@ -44,7 +44,10 @@ const std::string& QuantityText(const SinWorkspace& ws, Side side, std::int16_t 
 // Appends the entries of a value list.
 void AppendEntries(const SinWorkspace& ws, DropDownList& list, const ListDefinition& definition);
 
-// The quantity list's definition in a unit.
+// The number of entries of a value list.
+int EntryCount(const ListDefinition& definition);
+
+// The quantity list's definition in a unit (Smoking: packs for per day, cigarettes for per month).
 const ListDefinition& UnitList(const SinRow& sin, Unit unit);
 
 }  // namespace vicetoll

@@ -78,7 +78,8 @@ TEST_P(Loading, OpensTheFirstPeriodAndNoResults) {
   }
   for (int p = 1; p <= 4; ++p) {
     EXPECT_EQ(c.optTimePeriod(p).Enabled(), p == 1);
-    EXPECT_EQ(c.rbnEnabledPeriod(p).Enabled(), p == 1);
+    EXPECT_EQ(c.frmEnabledDisabledPeriod(p).Enabled(), p == 1);
+    EXPECT_FALSE(c.rbnEnabledPeriod(p).Enabled() || c.rbnDisabledPeriod(p).Enabled());
     EXPECT_FALSE(c.txtResultsPeriod(p).Enabled() || c.txtResultsPeriod(p).Visible());
     EXPECT_FALSE(c.txtCumulativeResultsPeriod(p).Enabled() || c.txtCumulativeResultsPeriod(p).Visible());
   }
@@ -124,20 +125,35 @@ TEST_P(Loading, ARepeatedLoadAppendsAllEntriesAndSelectsTheFirstCopies) {
   }
 }
 
-// Options stay as they are; the flat rates fill the list of the unit that is on, the others that of their
-// unit at the start.
-TEST_P(Loading, ARepeatedLoadLeavesOptionsAsTheyAre) {
-  Option* other = sin.startUnit == Unit::PerDay ? c.secondUnit : c.firstUnit;
-  other->SetValue(true);
-  c.quantity->Clear();
+// A click empties the quantity list and fills it for the unit, in all sins but Smoking, which has a list for
+// each unit. So both copies are of the unit at the start.
+TEST_P(Loading, ARepeatedLoadPutsTheOptionsBack) {
+  Option& start = sin.startUnit == Unit::PerDay ? *c.firstUnit : *c.secondUnit;
+  Option& other = sin.startUnit == Unit::PerDay ? *c.secondUnit : *c.firstUnit;
+  run.Click(start);  // the labels of a click
+  const std::string unitLabel = c.quantityLabel->Caption();
+  run.Click(other);
+  ASSERT_FALSE(start.Value());
   LoadParameters(ws, side);
-  EXPECT_TRUE(other->Value());
-  const Unit filled = IsFlat() && sin.startUnit == Unit::PerDay ? Unit::PerMonth
-                      : IsFlat()                                ? Unit::PerDay
-                                                                : sin.startUnit;
+  EXPECT_TRUE(start.Value());
+  EXPECT_EQ(c.quantityLabel->Caption(), unitLabel);
   DropDownList& expected = ws.Add<DropDownList>({"expected"});
-  AppendEntries(ws, expected, UnitList(sin, filled));
+  for (int copy = 1; copy <= 2; ++copy) AppendEntries(ws, expected, UnitList(sin, sin.startUnit));
   EXPECT_EQ(c.quantity->Entries(), expected.Entries());
+  EXPECT_EQ(c.quantity->Text(), kDefaults[position].quantity);
+  EXPECT_TRUE(c.quantity->Enabled() && c.quantity->Visible());
+}
+
+TEST_P(Loading, ARepeatedLoadPutsTheCostModeBack) {
+  if (!HasCostModes(sin.costClass)) return;
+  run.Click(*c.OptCigInitialFinalCostIncrease);
+  LoadParameters(ws, side);
+  EXPECT_TRUE(c.OptCigPercentCostIncrease->Value());
+  EXPECT_EQ(c.costLabel->Caption(), sin.costLabelPercent);
+  EXPECT_EQ(c.percentLabel->Caption(), sin.percentLabelPercent);
+  EXPECT_TRUE(c.comPercentIncrease->Visible());
+  EXPECT_FALSE(c.comFinalCost->Visible());
+  EXPECT_TRUE(Record(1).CostModeFlag);
 }
 
 TEST_P(Loading, ALoadThrowsACommittedSideAway) {

@@ -243,13 +243,25 @@ TEST_P(Movers, APositionPastTheEndShowsAndCountsTheLastEntry) {
   EXPECT_EQ(c.quantity->Position(), c.quantity->Find(c.quantity->Text()));
 }
 
+// However often the list was appended: its last entry is the last of the first copy.
+TEST_P(Movers, StoreAnEntryOfALaterCopyAtItsPlaceInTheFirst) {
+  constexpr int kBeyond16Bits = 32768;
+  const int oneCopy = c.quantity->Count();
+  while (c.quantity->Count() <= kBeyond16Bits) AppendEntries(ws, *c.quantity, UnitList(sin, sin.startUnit));
+  ASSERT_EQ(c.quantity->UserPicks(c.quantity->Count() - 1), UserOutcome::Done);
+  SetParameters(ws, side, 1);
+  EXPECT_EQ(Record(1).QuantityListIndex, oneCopy - 1);
+  EXPECT_EQ(QuantityText(ws, side, 1), c.quantity->Text());
+}
+
 TEST_P(Movers, OpenThePeriodsUpToACount) {
   const bool first = c.optTimePeriod(1).Enabled();
+  const bool firstRadio = c.rbnEnabledPeriod(1).Enabled();
   for (int n = 1; n <= 4; ++n) {
     OpenPeriodOptions(ws, side, n);
     OpenPeriodRadios(ws, side, n);
     EXPECT_EQ(c.optTimePeriod(1).Enabled(), first);
-    EXPECT_TRUE(c.rbnEnabledPeriod(1).Enabled());
+    EXPECT_EQ(c.rbnEnabledPeriod(1).Enabled(), firstRadio);
     for (int p = 2; p <= 4; ++p) {
       EXPECT_EQ(c.optTimePeriod(p).Enabled(), p <= n);
       EXPECT_EQ(c.frmEnabledDisabledPeriod(p).Enabled(), p <= n);
