@@ -7,6 +7,7 @@
 #include <string>
 
 #include "reports/report_months.h"
+#include "workspace/sin_workspace.h"
 
 namespace vicetoll {
 

@@ -1,11 +1,8 @@
 #include "reports/report_months.h"
 
-#include <array>
-
 #include "base/checked_int.h"
 #include "calendar/date_label.h"
 #include "calendar/number_text.h"
-#include "workspace/period_operations.h"
 
 namespace vicetoll {
 namespace {
@@ -32,34 +29,6 @@ class CalendarMonth {
   std::int16_t month_, year_;
 };
 
-// The two totals of a report as they grow at a period's rates.
-class Totals {
- public:
-  Totals(double cost, double withInterest, const Rates& rates)
-      : cost_(cost),
-        withInterest_(withInterest),
-        monthlyRate_(rates.NetFraction() / 12),
-        factor_(rates.MonthlyFactor()) {}
-
-  // Takes in the month's cost and pays the month's interest on all of it.
-  void AddMonth(ReportMonth& month) {
-    month.monthWithInterest = month.monthCost * factor_ + withInterest_ * monthlyRate_;
-    cost_ = Finite(cost_ + month.monthCost);
-    withInterest_ = Finite((withInterest_ + month.monthCost) * factor_);
-    month.cumulativeCost = cost_;
-    month.cumulativeCostWithInterest = withInterest_;
-  }
-
-  void WriteBack(SinWorkspace& ws) const {
-    ws.CurrentCumulativeCost = cost_;
-    ws.CurrentCumulativeCostWithInterest = withInterest_;
-  }
-
- private:
-  double cost_, withInterest_;
-  double monthlyRate_, factor_;
-};
-
 // The month's figures pass through texts of two decimals before they are added up or shown.
 void TakeFigures(ReportMonth& month, const MonthFigures& figures) {
   month.quantity = RoundToCents(figures.quantity);
@@ -69,80 +38,74 @@ void TakeFigures(ReportMonth& month, const MonthFigures& figures) {
   month.monthCost = RoundToCents(figures.monthCost);
 }
 
-// The stretch between two counted periods q and next.
-void WalkFromTo(SinWorkspace& ws, Side side, std::int16_t sideIndex, std::int16_t q, std::int16_t next,
-                std::int16_t& index, MonthSink& sink) {
-  const auto walk = [&](bool disabled, std::int16_t period, std::string_view from, std::string_view to) {
-    WalkBetweenPeriods(ws, side, disabled, period, index, ws.CurrentCumulativeCost,
-                       ws.CurrentCumulativeCostWithInterest, from, to, sink);
-  };
-  for (std::int16_t p = q; p < next; ++p) {
-    const PeriodRecord& record = ws.Store().At(p, sideIndex);
-    if (p != q) walk(true, p, record.StartLabel, record.StopLabel);
-    walk(false, p, record.StopLabel, ws.Store().At(p + 1, sideIndex).StartLabel);
+// The months of a stretch, at these rates; `cost` is what the active ones cost.
+ReportState Walk(const ReportStretch& stretch, const Rates& rates, const CostTerms& cost, ReportState state,
+                 MonthSink& sink) {
+  const int first = Add(state.index, 1);
+  const std::int16_t last = Add(state.index, stretch.months);
+  state.index = last;
+  if (stretch.months <= 0) return state;
+  const bool active = stretch.kind == MonthKind::Active;
+  const double monthlyRate = rates.NetFraction() / 12;
+  const double factor = rates.MonthlyFactor();
+  sink.Begin(stretch);
+  MonthWalk costs(cost, stretch.months);
+  CalendarMonth calendar(stretch.from);
+  for (int n = first; n <= last; ++n) {
+    if (!active) calendar.Step();
+    ReportMonth month{.index = static_cast<std::int16_t>(n),
+                      .kind = stretch.kind,
+                      .side = stretch.side,
+                      .period = stretch.period,
+                      .label = calendar.Label()};
+    if (active) {
+      calendar.Step();
+      TakeFigures(month, costs.Next());
+    }
+    // The month's cost goes in first, and the month's interest is paid on all of it.
+    month.monthWithInterest = month.monthCost * factor + state.withInterest * monthlyRate;
+    month.cumulativeCost = state.cost = Finite(state.cost + month.monthCost);
+    month.cumulativeCostWithInterest = state.withInterest =
+        Finite((state.withInterest + month.monthCost) * factor);
+    sink.Add(month);
   }
+  return state;
 }
 
 }  // namespace
 
-void WalkPeriod(SinWorkspace& ws, Side side, std::int16_t period, std::int16_t& index, double cumulativeCost,
-                double cumulativeCostWithInterest, MonthSink& sink) {
-  const PeriodRecord& record = ws.Record(side, period);
-  if (!record.PeriodSet) return;
-  const std::int16_t months = MonthsInclusive(record.StartLabel, record.StopLabel);
-  const std::int16_t first = Add(index, 1);
-  const std::int16_t last = Add(index, months);
-  Totals totals(cumulativeCost, cumulativeCostWithInterest, RatesOf(record));
-  if (months > 0) {
-    sink.Begin({MonthKind::Active, side, period, record.StartLabel, record.StopLabel, months});
-    MonthWalk costs(PeriodTermsOf(ws, side, period).cost, months);
-    CalendarMonth calendar(record.StartLabel);
-    for (int n = first; n <= last; ++n) {
-      ReportMonth month{.index = static_cast<std::int16_t>(n), .label = calendar.Label()};
-      calendar.Step();
-      TakeFigures(month, costs.Next());
-      totals.AddMonth(month);
-      sink.Add(month);
-    }
-  }
-  index = last;
-  totals.WriteBack(ws);
+ReportState WalkPeriod(const ReportPeriod& period, ReportState state, MonthSink& sink) {
+  if (!period.set) return state;
+  const PeriodTerms& terms = period.terms;
+  return Walk(
+      {MonthKind::Active, period.side, period.number, terms.StartLabel, terms.StopLabel, terms.Months()},
+      terms.rates, terms.cost, state, sink);
 }
 
-void WalkBetweenPeriods(SinWorkspace& ws, Side side, bool periodIsDisabled, std::int16_t period,
-                        std::int16_t& index, double cumulativeCost, double cumulativeCostWithInterest,
-                        std::string_view from, std::string_view to, MonthSink& sink) {
-  const PeriodRecord& record = ws.Record(side, period);
-  if (!record.PeriodSet) return;
+ReportState WalkBetweenPeriods(const ReportPeriod& period, bool periodIsDisabled, std::string_view from,
+                               std::string_view to, ReportState state, MonthSink& sink) {
+  if (!period.set) return state;
   const std::int16_t inclusive = MonthsInclusive(from, to);
+  const MonthKind kind = periodIsDisabled ? MonthKind::Disabled : MonthKind::Gap;
   const std::int16_t months = periodIsDisabled ? inclusive : Subtract(inclusive, 2);
-  const std::int16_t first = Add(index, 1);
-  const std::int16_t last = Add(index, months);
-  Totals totals(cumulativeCost, cumulativeCostWithInterest, RatesOf(record));
-  if (months > 0) {
-    sink.Begin({periodIsDisabled ? MonthKind::Disabled : MonthKind::Gap, side, period, from, to, months});
-    CalendarMonth calendar(from);
-    for (int n = first; n <= last; ++n) {
-      calendar.Step();
-      ReportMonth month{.index = static_cast<std::int16_t>(n), .label = calendar.Label()};
-      totals.AddMonth(month);
-      sink.Add(month);
-    }
-  }
-  index = last;
-  totals.WriteBack(ws);
+  return Walk({kind, period.side, period.number, from, to, months}, period.terms.rates, {}, state, sink);
 }
 
-void WalkSide(SinWorkspace& ws, Side side, std::int16_t sideIndex, std::int16_t& index, MonthSink& sink) {
-  std::array<bool, kPeriodCount + 1> counted{};
-  for (std::int16_t p = 1; p <= kPeriodCount; ++p) counted[p] = IsCounted(ws, side, p, sideIndex);
-  std::int16_t before = 0;
-  for (std::int16_t p = 1; p <= kPeriodCount; ++p) {
-    if (!counted[p]) continue;
-    if (before != 0) WalkFromTo(ws, side, sideIndex, before, p, index, sink);
-    WalkPeriod(ws, side, p, index, ws.CurrentCumulativeCost, ws.CurrentCumulativeCostWithInterest, sink);
-    before = p;
+ReportState WalkSide(const ReportSide& side, ReportState state, MonthSink& sink) {
+  const ReportPeriod* before = nullptr;  // the nearest that counts
+  for (const ReportPeriod& period : side) {
+    if (!period.counted) continue;
+    // Each gap, and each period in between, is listed under the period it follows.
+    for (; before != nullptr && before != &period; ++before) {
+      const ReportPeriod& next = *(before + 1);
+      state = WalkBetweenPeriods(*before, false, before->stretchStop, next.stretchStart, state, sink);
+      if (&next != &period)
+        state = WalkBetweenPeriods(next, true, next.stretchStart, next.stretchStop, state, sink);
+    }
+    state = WalkPeriod(period, state, sink);
+    before = &period;
   }
+  return state;
 }
 
 }  // namespace vicetoll

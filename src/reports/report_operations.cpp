@@ -1,7 +1,7 @@
 #include "reports/report_operations.h"
 
 #include "controls/form.h"
-#include "reports/report_months.h"
+#include "reports/report_terms.h"
 #include "reports/spd_rows.h"
 
 namespace vicetoll {
@@ -13,9 +13,18 @@ constexpr int kColumnWidth = 1000;
 // Index and period keep the width of their headings.
 constexpr int kFirstFixedColumn = 2;
 
-void ResetTotals(SinWorkspace& ws) {
-  ws.CurrentCumulativeCostWithInterest = 0;
-  ws.CurrentCumulativeCost = 0;
+// Lists a period's months on from that state. One that is not set leaves the workspace's totals alone.
+void ListPeriod(SinWorkspace& ws, Side side, std::int16_t number, std::int16_t& index,
+                const ReportState& state, MonthSink& sink) {
+  const ReportPeriod period = ReportPeriodOf(ws, side, number, true);
+  if (period.set) KeepReport(ws, index, WalkPeriod(period, state, sink));
+}
+
+void ListBetweenPeriods(SinWorkspace& ws, Side side, bool periodIsDisabled, std::int16_t number,
+                        std::int16_t& index, const ReportState& state, std::string_view from,
+                        std::string_view to, MonthSink& sink) {
+  const ReportPeriod period = ReportPeriodOf(ws, side, number, false);
+  if (period.set) KeepReport(ws, index, WalkBetweenPeriods(period, periodIsDisabled, from, to, state, sink));
 }
 
 }  // namespace
@@ -24,7 +33,7 @@ void ParametersForMonthInPeriodSpd(SinWorkspace& ws, Side side, Grid& grid, std:
                                    std::int16_t& index, double cumulativeCost,
                                    double cumulativeCostWithInterest) {
   SpdRowWriter rows(ws);
-  WalkPeriod(ws, side, period, index, cumulativeCost, cumulativeCostWithInterest, rows);
+  ListPeriod(ws, side, period, index, {index, cumulativeCost, cumulativeCostWithInterest}, rows);
   grid.Append(rows.Take());
 }
 
@@ -34,8 +43,8 @@ void ParametersForMonthInPeriodSpdBetweenPeriods(SinWorkspace& ws, Side side, Gr
                                                  double cumulativeCostWithInterest, std::string_view from,
                                                  std::string_view to) {
   SpdRowWriter rows(ws);
-  WalkBetweenPeriods(ws, side, periodIsDisabled, period, index, cumulativeCost, cumulativeCostWithInterest,
-                     from, to, rows);
+  ListBetweenPeriods(ws, side, periodIsDisabled, period, index,
+                     {index, cumulativeCost, cumulativeCostWithInterest}, from, to, rows);
   grid.Append(rows.Take());
 }
 
@@ -43,7 +52,7 @@ std::string ParametersForMonthInPeriodDoc(SinWorkspace& ws, Side side, std::int1
                                           std::int16_t& index, double cumulativeCost,
                                           double cumulativeCostWithInterest) {
   std::string text;
-  WalkPeriod(ws, side, period, index, cumulativeCost, cumulativeCostWithInterest,
+  ListPeriod(ws, side, period, index, {index, cumulativeCost, cumulativeCostWithInterest},
              *MakeDocWriter(ws, docFlag, text));
   return text;
 }
@@ -54,8 +63,9 @@ std::string ParametersForMonthInPeriodDocBetweenPeriods(SinWorkspace& ws, Side s
                                                         double cumulativeCostWithInterest,
                                                         std::string_view from, std::string_view to) {
   std::string text;
-  WalkBetweenPeriods(ws, side, periodIsDisabled, period, index, cumulativeCost, cumulativeCostWithInterest,
-                     from, to, *MakeDocWriter(ws, docFlag, text));
+  ListBetweenPeriods(ws, side, periodIsDisabled, period, index,
+                     {index, cumulativeCost, cumulativeCostWithInterest}, from, to,
+                     *MakeDocWriter(ws, docFlag, text));
   return text;
 }
 
@@ -73,28 +83,41 @@ void FinishSpdGrid(Grid& grid, std::string_view sinKey) {
   grid.Select(1, 0, 1, 0);
 }
 
+void ClearSpdGrid(Grid& grid) {
+  grid.Clear();
+  grid.Window().Hide();
+}
+
 void BuildSpdRows(SinWorkspace& ws, Side side, Grid& grid, bool resetIndex, bool clearGrid,
                   std::int16_t& index, std::int16_t sideIndex) {
   if (resetIndex) index = 0;
+  ReportState state = LastReport(ws);
+  state.index = index;
   if (clearGrid) {
-    grid.Clear();
-    grid.Window().Hide();
-    ResetTotals(ws);
+    ClearSpdGrid(grid);
+    state = {.index = index};
   }
   SpdRowWriter rows(ws);
-  WalkSide(ws, side, sideIndex, index, rows);
+  KeepReport(ws, index, WalkSide(ReportSideOf(ws, side, sideIndex), state, rows));
   grid.Append(rows.Take());
   FinishSpdGrid(grid, ws.GetSession().CurrentSinKey);
 }
 
-std::string DocText(SinWorkspace& ws, Side side, bool docFlag, bool resetTotals, std::int16_t& index,
-                    std::int16_t sideIndex) {
+std::string SideText(const SinWorkspace& ws, Side side, const ReportSide& periods, bool docFlag,
+                     ReportState& state) {
   std::string text;
   for (std::int16_t p = 1; p <= kPeriodCount; ++p) text += ParametersInPeriodDoc(ws, side, p);
   text += CsvText(ws, !docFlag);
-  index = 0;
-  if (resetTotals) ResetTotals(ws);
-  WalkSide(ws, side, sideIndex, index, *MakeDocWriter(ws, docFlag, text));
+  state.index = 0;
+  state = WalkSide(periods, state, *MakeDocWriter(ws, docFlag, text));
+  return text;
+}
+
+std::string DocText(SinWorkspace& ws, Side side, bool docFlag, bool resetTotals, std::int16_t& index,
+                    std::int16_t sideIndex) {
+  ReportState state = resetTotals ? ReportState{} : LastReport(ws);
+  std::string text = SideText(ws, side, ReportSideOf(ws, side, sideIndex), docFlag, state);
+  KeepReport(ws, index, state);
   return text;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "reports/report_months.h"
+#include "workspace/sin_workspace.h"
 
 namespace vicetoll {
 

@@ -103,7 +103,7 @@ std::string CumulativeChainFuture(SinWorkspace& ws, std::int16_t sideIndex, cons
   return CumulativeChain(SideTermsOf(ws, Side::Future, sideIndex), opening, WarningOf(ws));
 }
 
-CountedPeriods CountedOf(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+CountedPeriods CountedOf(const SinWorkspace& ws, Side side, std::int16_t sideIndex) {
   CountedPeriods counted;
   for (int p = kPeriodCount; p >= 1; --p) {
     const PeriodRecord& record = ws.Store().At(p, sideIndex);

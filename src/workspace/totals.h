@@ -34,7 +34,7 @@ struct CountedPeriods {
   int first = 0, last = 0;     // period numbers, 0 where nothing counts
   bool worthCounting = false;  // something counts, and the side's total is not zero
 };
-CountedPeriods CountedOf(SinWorkspace& ws, Side side, std::int16_t sideIndex);
+CountedPeriods CountedOf(const SinWorkspace& ws, Side side, std::int16_t sideIndex);
 
 // The balance of both sides at the last stop, as text: the future chain opened with the past's balance
 // grown over the gap between them. Both sides must be worth counting.

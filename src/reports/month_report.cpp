@@ -1,0 +1,36 @@
+#include "reports/month_report.h"
+
+#include "reports/report_terms.h"
+
+namespace vicetoll {
+namespace {
+
+class MonthCollector : public MonthSink {
+ public:
+  explicit MonthCollector(std::vector<ReportMonth>& months) : months_(months) {}
+
+  void Begin(const ReportStretch&) override {}
+  void Add(const ReportMonth& month) override { months_.push_back(month); }
+
+ private:
+  std::vector<ReportMonth>& months_;
+};
+
+ReportState Walk(const SinWorkspace& ws, ReportScope scope, MonthSink& sink) {
+  const std::int16_t past = ws.SideIndex(Side::Past);
+  const std::int16_t future = ws.SideIndex(Side::Future);
+  if (scope == ReportScope::Past) return WalkSide(ReportSideOf(ws, Side::Past, past), {}, sink);
+  if (scope == ReportScope::Future) return WalkSide(ReportSideOf(ws, Side::Future, future), {}, sink);
+  return WalkTotal(TotalTermsOf(ws, past, future), {}, sink);
+}
+
+}  // namespace
+
+MonthReport ReportOf(const SinWorkspace& ws, ReportScope scope) {
+  MonthReport report;
+  MonthCollector collector(report.months);
+  report.after = Walk(ws, scope, collector);
+  return report;
+}
+
+}  // namespace vicetoll
