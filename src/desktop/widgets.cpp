@@ -21,9 +21,6 @@ constexpr int kPopupRows = 18;
 constexpr int kTabHeight = 46, kTabTop = 8, kTabLeft = 8;
 constexpr int kTabWidth = 96, kTabPadding = 9;
 
-// Clicks on a widget are not handed on to what lies under it.
-void KeepClicks(QWidget* widget) { widget->setAttribute(Qt::WA_NoMousePropagation); }
-
 }  // namespace
 
 // ---- Lists ----
@@ -66,7 +63,6 @@ BlueList::BlueList(QWidget* parent) : QComboBox(parent), entries_(new EntryModel
   colours.setColor(QPalette::Highlight, Qt::white);
   colours.setColor(QPalette::HighlightedText, QColor(look::kListGround));
   setPalette(colours);
-  KeepClicks(this);
 }
 
 void BlueList::SetEntries(const std::vector<std::string>& entries) {
@@ -144,7 +140,6 @@ ResultBox::ResultBox(QWidget* parent) : QLineEdit(parent) {
   setReadOnly(true);
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   setFocusPolicy(Qt::StrongFocus);
-  KeepClicks(this);
 }
 
 void ResultBox::paintEvent(QPaintEvent* event) {
@@ -154,10 +149,7 @@ void ResultBox::paintEvent(QPaintEvent* event) {
   DrawFocusRing(painter, rect());
 }
 
-CaptionButton::CaptionButton(QWidget* parent) : QPushButton(parent) {
-  setAutoDefault(false);
-  KeepClicks(this);
-}
+CaptionButton::CaptionButton(QWidget* parent) : QPushButton(parent) { setAutoDefault(false); }
 
 void CaptionButton::SetCaption(const QString& caption) {
   if (caption == caption_) return;
@@ -186,7 +178,6 @@ CaptionChoice<Base>::CaptionChoice(QWidget* parent) : Base(parent) {
   // Which of a group is on is not for the widgets to say.
   this->setAutoExclusive(false);
   this->setFocusPolicy(Qt::StrongFocus);
-  KeepClicks(this);
 }
 
 template <class Base>
@@ -225,7 +216,6 @@ template class CaptionChoice<QCheckBox>;
 CaptionLabel::CaptionLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
   setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  KeepClicks(this);
 }
 
 void CaptionLabel::paintEvent(QPaintEvent*) {
@@ -252,8 +242,14 @@ void CaptionFrame::paintEvent(QPaintEvent*) {
   DrawFitted(painter, QRect(8, 3, width() - 12, contents - 3), Qt::AlignLeft | Qt::AlignTop, title(), bold);
 }
 
+void PanelWidget::mousePressEvent(QMouseEvent* event) {
+  pressed_ = event->button() == Qt::LeftButton && IsBare(event->position().toPoint());
+}
+
+// A click that nobody took arrives here too, from a frame or from a disabled control.
 void PanelWidget::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()) && onClick) onClick();
+  if (event->button() != Qt::LeftButton || !std::exchange(pressed_, false)) return;
+  if (IsBare(event->position().toPoint()) && onClick) onClick();
 }
 
 // ---- Tabs ----

@@ -107,14 +107,21 @@ class CaptionFrame : public QGroupBox {
   void paintEvent(QPaintEvent* event) override;
 };
 
-// A background panel that takes clicks. Its ground is that of the tabs.
+// A background panel that takes clicks on its bare ground, not those on what stands on it. Its ground is
+// that of the tabs.
 class PanelWidget : public QWidget {
  public:
   explicit PanelWidget(QWidget* parent) : QWidget(parent) {}
   std::function<void()> onClick;
 
  protected:
+  void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  bool IsBare(const QPoint& point) const { return rect().contains(point) && childAt(point) == nullptr; }
+
+  bool pressed_ = false;
 };
 
 // A tab control: a bar over three pages, of which one is in front. The pages cover all of it, so that what
