@@ -1,5 +1,4 @@
 // The Vicetoll Financial Calculator.
-#include <QApplication>
 #include <QIcon>
 #include <cstdio>
 
@@ -12,7 +11,7 @@ int main(int argc, char** argv) {
     std::fputs("vicetoll: there is no display to open a window on.\n", stderr);
     return 1;
   }
-  QApplication application(argc, argv);
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/vicetoll.png")));
+  vicetoll::GuardedApplication application(argc, argv);
+  vicetoll::GuardedApplication::setWindowIcon(QIcon(QStringLiteral(":/vicetoll.png")));
   return vicetoll::RunProgram(application);
 }

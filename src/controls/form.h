@@ -1,6 +1,7 @@
 // A window: a set of named controls, with caption, size and whether it is shown.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -49,9 +50,24 @@ class Form {
   int TimesShown() const { return timesShown_; }
   void Hide() { SetShown(false); }
 
-  // Whether the window system offers a way to close the window; without it cmdExit is the only way out.
-  bool HasCloseEntry() const { return hasCloseEntry_; }
-  void RemoveCloseEntry() { hasCloseEntry_ = false; }
+  // The button that is meant when a user closes the window by the window system. A window that names none
+  // offers no such way out.
+  virtual Button* CloseButton() const { return nullptr; }
+  bool HasCloseEntry() const { return CloseButton() != nullptr; }
+  // What heads the right-click menu, where there is one.
+  virtual std::string_view MenuTitle() const { return {}; }
+  // A line at the foot of the window, as long as nothing is typed there.
+  virtual std::string_view Hint() const { return {}; }
+  // Of windows that share a place one is shown at a time, where the one before stood on the screen.
+  virtual bool SharesPlace() const { return false; }
+
+  // What a control explains itself by beyond its tool tip; empty where it has nothing to say now.
+  std::function<std::string_view(const Control&)> helpOn;
+  std::string_view HelpOn(const Control& control) const {
+    return helpOn ? helpOn(control) : std::string_view();
+  }
+  // Says that helpOn gives other answers from now on.
+  void HelpChanged() { Changed(); }
 
   // Outer size in twips. Setting a size runs the resize event, as a user's resizing does.
   int Width() const { return width_; }
@@ -125,7 +141,6 @@ class Form {
   std::string caption_;
   bool shown_ = false;
   int timesShown_ = 0;
-  bool hasCloseEntry_ = true;
   int width_ = 0;
   int height_ = 0;
   WindowState state_ = WindowState::Normal;

@@ -142,8 +142,10 @@ void ControlView::Update() {
   const Place& place = control_.GetPlace();
   widget_->setGeometry(ToPixels(place.left), ToPixels(place.top), ToPixels(place.width),
                        ToPixels(place.height));
-  if (widget_->toolTip().isEmpty() != control_.ToolTip().empty())
-    widget_->setToolTip(ToQt(control_.ToolTip()));
+  if (toolTip_ != control_.ToolTip()) {
+    toolTip_ = control_.ToolTip();
+    widget_->setToolTip(ToQt(toolTip_));
+  }
   widget_->setEnabled(control_.Enabled());
   widget_->setVisible(control_.Visible());
 }

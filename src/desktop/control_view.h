@@ -33,6 +33,7 @@ class ControlView {
  private:
   Control& control_;
   QWidget* widget_;
+  std::string toolTip_;  // as the widget has it
 };
 
 // The view for a control, by its kind. MenuEntry has none: those stand in the window's menu.

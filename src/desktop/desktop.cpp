@@ -6,6 +6,21 @@
 #include "desktop/widgets.h"
 
 namespace vicetoll {
+namespace {
+
+// Raises a flag for as long as it lives.
+class FlagWhile {
+ public:
+  explicit FlagWhile(bool& flag) : flag_(flag) { flag_ = true; }
+  ~FlagWhile() { flag_ = false; }
+  FlagWhile(const FlagWhile&) = delete;
+  FlagWhile& operator=(const FlagWhile&) = delete;
+
+ private:
+  bool& flag_;
+};
+
+}  // namespace
 
 Desktop::Desktop(Program& program) : program_(program) {
   program_.onWindowCreated = [this](Form& form) { Listen(form); };
@@ -20,35 +35,43 @@ Desktop::~Desktop() {
 
 void Desktop::Listen(Form& form) {
   form.SetListener(this);
-  changedForms_.insert(&form);
+  changedForms_.Add(form);
 }
 
 void Desktop::ControlChanged(Control& control) {
-  if (windows_.contains(&control.Window())) changedControls_.insert(&control);
+  if (FindWindow(control.Window()) != nullptr) changedControls_.Add(control);
 }
 
-void Desktop::FormChanged(Form& form) { changedForms_.insert(&form); }
+void Desktop::FormChanged(Form& form) { changedForms_.Add(form); }
 
 void Desktop::Enter(const std::function<void()>& action) {
   if (flushing_ || over_) return;
   try {
     action();
-  } catch (const Fault& fault) {
-    over_ = true;
     Flush();
-    if (onFault) onFault(fault);
-    return;
+  } catch (const std::exception& cause) {
+    return Fail(cause);
   }
-  Flush();
   if (program_.Ended() && !over_) {
     over_ = true;
     if (onEnded) onEnded();
   }
 }
 
+void Desktop::Fail(const std::exception& cause) {
+  if (over_) return;
+  over_ = true;
+  try {
+    Flush();
+  } catch (const std::exception&) {
+    // The first cause is what counts; what cannot be shown any more stays as it is.
+  }
+  if (onFault) onFault(cause);
+}
+
 void Desktop::Flush() {
   if (flushing_) return;
-  flushing_ = true;
+  const FlagWhile flushing(flushing_);
   QWidget* const focus = QApplication::focusWidget();
   UpdateForms();
   UpdateControls();
@@ -56,40 +79,35 @@ void Desktop::Flush() {
   // focus means something there, and no user brought it.
   QWidget* const now = QApplication::focusWidget();
   if (now != focus && dynamic_cast<BlueList*>(now) != nullptr) now->clearFocus();
-  flushing_ = false;
 }
 
 void Desktop::UpdateForms() {
-  const auto changed = std::exchange(changedForms_, {});
-  // What comes up does so before the rest goes, or the desktop would shine through.
+  const std::vector<Form*> changed = changedForms_.Take();
+  // What comes up does so before the rest goes, or the desktop would shine through. What is hidden and was
+  // never shown needs no window.
   for (const bool shown : {true, false})
     for (Form* form : changed) {
       if (form->Shown() != shown) continue;
-      if (shown)
-        WindowOf(*form).UpdateForm();
-      else if (const auto window = windows_.find(form); window != windows_.end())
-        window->second->UpdateForm();
+      FormWindow* const window = shown ? &WindowOf(*form) : FindWindow(*form);
+      if (window != nullptr) window->UpdateForm();
     }
 }
 
 void Desktop::UpdateControls() {
-  const auto changed = std::exchange(changedControls_, {});
-  std::unordered_set<FormWindow*> touched;
-  for (Control* control : changed) {
-    FormWindow& window = *windows_.at(&control->Window());
-    window.UpdateControl(*control);
-    touched.insert(&window);
-  }
-  for (FormWindow* window : touched) window->UpdateNames();
+  for (Control* control : changedControls_.Take()) FindWindow(control->Window())->UpdateControl(*control);
+}
+
+FormWindow* Desktop::FindWindow(const Form& form) const {
+  const auto window = windowOf_.find(&form);
+  return window == windowOf_.end() ? nullptr : window->second;
 }
 
 FormWindow& Desktop::WindowOf(Form& form) {
-  std::unique_ptr<FormWindow>& window = windows_[&form];
-  if (!window) {
-    window = std::make_unique<FormWindow>(form, *this);
-    window->UpdateForm();
-  }
-  return *window;
+  if (FormWindow* const window = FindWindow(form)) return *window;
+  FormWindow& window = *windows_.emplace_back(std::make_unique<FormWindow>(form, *this));
+  windowOf_[&form] = &window;
+  window.UpdateForm();
+  return window;
 }
 
 }  // namespace vicetoll

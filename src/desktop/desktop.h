@@ -9,13 +9,31 @@
 #include <memory>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
+#include <vector>
 
-#include "base/fault.h"
 #include "shell/program.h"
 
 namespace vicetoll {
 
 class FormWindow;
+
+// What changed since it was last taken, each once, in the order of its first change.
+template <class T>
+class Changes {
+ public:
+  void Add(T& thing) {
+    if (known_.insert(&thing).second) things_.push_back(&thing);
+  }
+  std::vector<T*> Take() {
+    known_.clear();
+    return std::exchange(things_, {});
+  }
+
+ private:
+  std::vector<T*> things_;
+  std::unordered_set<const T*> known_;
+};
 
 class Desktop : public FormListener {
  public:
@@ -24,8 +42,12 @@ class Desktop : public FormListener {
   ~Desktop() override;
 
   // Runs what a user's action does in the core, and shows what came of it. All events of users come through
-  // here, and nothing a user does while the widgets are being brought in step.
+  // here, and nothing a user does while the widgets are being brought in step. Whatever is thrown ends here:
+  // it never passes through Qt.
   void Enter(const std::function<void()>& action);
+
+  // Ends the run by what was thrown: a fault of the core, or something that should never happen.
+  void Fail(const std::exception& cause);
 
   // Brings the widgets in step with the controls. Needed between events only where the user gets to see
   // something before the event is through: before a message box, during a pause.
@@ -33,11 +55,11 @@ class Desktop : public FormListener {
 
   // The window that shows the form, made now if it was never shown.
   FormWindow& WindowOf(Form& form);
+  // All windows ever shown, in the order they were made.
+  const std::vector<std::unique_ptr<FormWindow>>& Windows() const { return windows_; }
 
-  Program& GetProgram() const { return program_; }
-
-  // A fault has ended the run; nothing enters the core any more. By default nothing happens.
-  std::function<void(const Fault&)> onFault;
+  // The run has failed; nothing enters the core any more. By default nothing happens.
+  std::function<void(const std::exception&)> onFault;
   // The last window is gone.
   std::function<void()> onEnded;
 
@@ -46,13 +68,15 @@ class Desktop : public FormListener {
 
  private:
   void Listen(Form& form);
+  FormWindow* FindWindow(const Form& form) const;
   void UpdateForms();
   void UpdateControls();
 
   Program& program_;
-  std::unordered_map<Form*, std::unique_ptr<FormWindow>> windows_;
-  std::unordered_set<Form*> changedForms_;
-  std::unordered_set<Control*> changedControls_;
+  std::vector<std::unique_ptr<FormWindow>> windows_;
+  std::unordered_map<const Form*, FormWindow*> windowOf_;
+  Changes<Form> changedForms_;
+  Changes<Control> changedControls_;
   bool flushing_ = false;
   bool over_ = false;
 };

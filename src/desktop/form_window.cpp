@@ -9,16 +9,13 @@
 #include <QMenu>
 #include <QPainter>
 #include <QToolTip>
-#include <cmath>
+#include <algorithm>
 
 #include "desktop/balloon.h"
 #include "desktop/desktop.h"
 #include "desktop/look.h"
 #include "desktop/text.h"
 #include "desktop/widgets.h"
-#include "reports/spd_window.h"
-#include "shell/strip.h"
-#include "workspace/sin_workspace.h"
 
 namespace vicetoll {
 namespace {
@@ -31,21 +28,31 @@ constexpr int kSettleMilliseconds = 60;
 constexpr int kCanvasPoints = 30;
 constexpr int kCanvasStretch = 72;
 
-const char* const kKeyHint = "Shift+F1 explains the control that has the focus.";
-
 constexpr int kEveryPage = 3;  // of a button that stands on no tab
 
 bool IsModifier(int key) {
   return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta;
 }
 
-bool IsCloseButton(const Control& control) { return control.Name() == "cmdExit"; }
+// A control that fills its window is named as the window is.
+bool FillsWindow(const Control& control) {
+  return control.Kind() == ControlKind::Grid || control.Kind() == ControlKind::DocumentText ||
+         control.Kind() == ControlKind::TabControl;
+}
+
+// What gives a control its name: its labels, or the frame it stands in. Nothing where the control shows a
+// caption of its own.
+std::vector<const CaptionedControl*> Namers(const Control& control) {
+  if (FillsWindow(control) || !control.LabelledBy().empty()) return control.LabelledBy();
+  if (control.Kind() != ControlKind::List && control.Kind() != ControlKind::TextBox) return {};
+  for (const Control* c = control.Container(); c != nullptr; c = c->Container())
+    if (const auto* frame = dynamic_cast<const Frame*>(c)) return {frame};
+  return {};
+}
 
 QString NameOf(const Control& control) {
   QStringList words;
-  for (const CaptionedControl* label : control.LabelledBy()) words << ToQt(label->Caption());
-  for (const Control* c = control.Container(); words.isEmpty() && c != nullptr; c = c->Container())
-    if (const auto* frame = dynamic_cast<const Frame*>(c)) words << ToQt(frame->Caption());
+  for (const CaptionedControl* namer : Namers(control)) words << ToQt(namer->Caption());
   return words.join(QStringLiteral(", "));
 }
 
@@ -67,6 +74,9 @@ QChar FreeLetter(const QString& caption, const QString& taken) {
   return {};
 }
 
+// The letter behind the "&", as a capital.
+QString AccessKeyOf(const QString& caption) { return caption.section(u'&', 1, 1).left(1).toUpper(); }
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form, Desktop& desktop) : form_(form), desktop_(desktop) {
@@ -75,8 +85,11 @@ FormWindow::FormWindow(Form& form, Desktop& desktop) : form_(form), desktop_(des
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowMinMaxButtonsHint);
   MakeControls();
   GiveAccessKeys();
-  for (const auto& view : views_) view->Update();
-  UpdateNames();
+  for (const auto& view : views_) {
+    view->Update();
+    UpdateName(*view);
+    for (const CaptionedControl* namer : Namers(view->Model())) namedBy_[namer].push_back(view.get());
+  }
   settled_.setSingleShot(true);
   settled_.setInterval(kSettleMilliseconds);
   connect(&settled_, &QTimer::timeout, this, &FormWindow::TakeSettledSize);
@@ -114,10 +127,15 @@ void FormWindow::MakeMenuEntry(MenuEntry& entry) {
 }
 
 // Buttons on different tabs are never in front together and may share a letter; those that are always in
-// front have the first choice, and those with keys of their own the last. P, U and T belong to the tabs.
+// front have the first choice after the tabs, whose letters stand in their captions, and those with keys of
+// their own the last.
 void FormWindow::GiveAccessKeys() {
   QString taken[4];
-  if (dynamic_cast<SinWorkspace*>(&form_) != nullptr) taken[kEveryPage] = QStringLiteral("PUT");
+  for (const auto& view : views_) {
+    const auto* tabs = dynamic_cast<const TabPages*>(view->Widget());
+    for (int i = 0; tabs != nullptr && i < tabs->Bar()->count(); ++i)
+      taken[kEveryPage] += AccessKeyOf(tabs->Bar()->tabText(i));
+  }
   GiveAccessKeys(taken,
                  [](const Button& button, int page) { return button.Keys().empty() && page == kEveryPage; });
   GiveAccessKeys(taken,
@@ -170,47 +188,47 @@ void FormWindow::UpdateForm() {
     HideBalloon();
     hide();
   }
+  for (const auto& view : views_) {
+    if (FillsWindow(view->Model())) UpdateName(*view);
+    UpdateDescription(*view);
+  }
   update();
 }
 
 // One sin takes the place of another, also on the screen.
 void FormWindow::ComeInPlaceOfAnother() {
-  if (dynamic_cast<SinWorkspace*>(&form_) == nullptr) return;
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    const auto* other = dynamic_cast<const FormWindow*>(window);
-    if (other != nullptr && other->isVisible() && dynamic_cast<SinWorkspace*>(&other->form_) != nullptr)
-      move(other->pos());
-  }
+  if (!form_.SharesPlace()) return;
+  for (const auto& other : desktop_.Windows())
+    if (other->isVisible() && other->form_.SharesPlace()) move(other->pos());
 }
 
 void FormWindow::UpdateControl(Control& control) {
-  if (const auto view = viewOf_.find(&control); view != viewOf_.end()) return view->second->Update();
+  if (const auto view = viewOf_.find(&control); view != viewOf_.end()) {
+    view->second->Update();
+    UpdateDescription(*view->second);
+    if (const auto named = namedBy_.find(&control); named != namedBy_.end())
+      for (const ControlView* other : named->second) UpdateName(*other);
+  }
   if (const auto action = menu_.find(&control); action != menu_.end()) {
     action->second->setEnabled(control.Enabled());
     action->second->setVisible(control.Visible());
   }
 }
 
-void FormWindow::UpdateNames() {
-  for (const auto& view : views_) {
-    const Control& control = view->Model();
-    QWidget* hand = view->Hand();
-    const bool whole = control.Kind() == ControlKind::Grid || control.Kind() == ControlKind::DocumentText ||
-                       control.Kind() == ControlKind::TabControl;
-    const bool named = whole || control.Kind() == ControlKind::List ||
-                       control.Kind() == ControlKind::TextBox || !control.LabelledBy().empty();
-    if (named) {
-      // What fills its window is named as the window is.
-      const QString name = whole ? ToQt(form_.Caption()) : NameOf(control);
-      if (hand->accessibleName() != name) hand->setAccessibleName(name);
-    }
-    QString description = BalloonText(control);
-    if (description.isEmpty()) description = ToQt(control.ToolTip());
-    if (const auto* button = dynamic_cast<const Button*>(&control);
-        button != nullptr && description.isEmpty())
-      description = ToQt(button->Keys());
-    if (hand->accessibleDescription() != description) hand->setAccessibleDescription(description);
-  }
+// Setting a name or a description tells assistive tools of it, so only a new one is set.
+void FormWindow::UpdateName(const ControlView& view) {
+  const Control& control = view.Model();
+  const QString name = FillsWindow(control) ? ToQt(form_.Caption()) : NameOf(control);
+  if (view.Hand()->accessibleName() != name) view.Hand()->setAccessibleName(name);
+}
+
+void FormWindow::UpdateDescription(const ControlView& view) {
+  std::string_view text = form_.HelpOn(view.Model());
+  if (text.empty()) text = view.Model().ToolTip();
+  if (const auto* button = dynamic_cast<const Button*>(&view.Model()); button != nullptr && text.empty())
+    text = button->Keys();
+  const QString description = ToQt(text);
+  if (view.Hand()->accessibleDescription() != description) view.Hand()->setAccessibleDescription(description);
 }
 
 // ---- What users do ----
@@ -249,16 +267,13 @@ void FormWindow::changeEvent(QEvent* event) {
 void FormWindow::closeEvent(QCloseEvent* event) {
   // The form says whether the window goes.
   event->ignore();
-  if (!form_.HasCloseEntry()) return;
-  for (const auto& view : views_)
-    if (IsCloseButton(view->Model()))
-      return desktop_.Enter([&] { dynamic_cast<Button&>(view->Model()).UserClicks(); });
+  if (Button* const button = form_.CloseButton()) desktop_.Enter([&] { button->UserClicks(); });
 }
 
 void FormWindow::contextMenuEvent(QContextMenuEvent* event) {
   if (menu_.empty()) return;
   QMenu menu(this);
-  menu.addSection(ToQt(kRightClickMenuCaption));
+  menu.addSection(ToQt(form_.MenuTitle()));
   menu.addActions(actions());
   menu.exec(event->globalPos());
 }
@@ -306,15 +321,9 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 
 // ---- Help ----
 
-QString FormWindow::BalloonText(const Control& control) const {
-  const auto* workspace = dynamic_cast<const SinWorkspace*>(&form_);
-  if (workspace == nullptr) return {};
-  return ToQt(desktop_.GetProgram().GetBalloons().TextFor(workspace->Position(), control));
-}
-
 // True if the event ends here: a container's help is for its own ground alone.
 bool FormWindow::ShowHover(QWidget* widget, const Control& control) {
-  const QString text = BalloonText(control);
+  const QString text = ToQt(form_.HelpOn(control));
   if (balloon_ != nullptr && balloon_->Owner() == widget) return true;
   HideBalloon();
   if (text.isEmpty()) return control.ToolTip().empty();
@@ -331,7 +340,7 @@ void FormWindow::ExplainFocus() {
   HideBalloon();
   if (shown) return;
   for (const Control* c = found->second; c != nullptr; c = c->Container()) {
-    const QString text = BalloonText(*c);
+    const QString text = ToQt(form_.HelpOn(*c));
     if (!text.isEmpty()) {
       balloon_ = new BalloonWidget(text, focus, this);
       return;
@@ -350,12 +359,21 @@ void FormWindow::HideBalloon() {
 
 // ---- The bare window ----
 
+// At the foot, up to the first control that stands there.
+QRect FormWindow::RoomOfHint() const {
+  QRect room(8, height() - 30, width() - 16, 24);
+  for (const auto& view : views_)
+    if (const QWidget* widget = view->Widget();
+        widget->parentWidget() == this && !widget->isHidden() && widget->geometry().intersects(room))
+      room.setRight(std::max(room.left(), widget->x() - 8));
+  return room;
+}
+
 void FormWindow::paintEvent(QPaintEvent*) {
-  if (dynamic_cast<SinWorkspace*>(&form_) != nullptr && form_.Canvas().empty()) {
+  if (!form_.Hint().empty() && form_.Canvas().empty()) {
     QPainter painter(this);
     painter.setPen(QColor(90, 94, 110));
-    DrawFitted(painter, QRect(8, height() - 30, ToPixels(StripLeft()) - 16, 24),
-               Qt::AlignLeft | Qt::AlignVCenter, QString::fromLatin1(kKeyHint), font());
+    DrawFitted(painter, RoomOfHint(), Qt::AlignLeft | Qt::AlignVCenter, ToQt(form_.Hint()), font());
   }
   PaintCanvas();
 }

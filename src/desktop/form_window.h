@@ -22,10 +22,9 @@ class FormWindow : public QWidget {
   FormWindow(Form& form, Desktop& desktop);
   ~FormWindow() override;
 
-  // Bring in step: the window itself, one control, the names that assistive tools read.
+  // Bring in step: the window itself, or one control and the names that assistive tools read off it.
   void UpdateForm();
   void UpdateControl(Control& control);
-  void UpdateNames();
 
   // The widget or menu entry of a control of this window.
   QWidget* WidgetOf(const Control& control) const;
@@ -50,17 +49,18 @@ class FormWindow : public QWidget {
   void MakeControls();
   void MakeMenuEntry(MenuEntry& entry);
   void ComeInPlaceOfAnother();
+  void UpdateName(const ControlView& view);
+  void UpdateDescription(const ControlView& view);
   void TakeSettledSize();
   void TakeState();
   void GiveAccessKeys();
   template <class Picks>
   void GiveAccessKeys(QString (&taken)[4], const Picks& picks);
 
-  // What a control explains itself by: the balloon's text while balloons are on.
-  QString BalloonText(const Control& control) const;
   bool ShowHover(QWidget* widget, const Control& control);
   void ExplainFocus();
   void HideBalloon();
+  QRect RoomOfHint() const;
   void PaintCanvas();
 
   Form& form_;
@@ -68,6 +68,8 @@ class FormWindow : public QWidget {
   std::vector<std::unique_ptr<ControlView>> views_;
   std::unordered_map<const Control*, ControlView*> viewOf_;
   std::unordered_map<const QObject*, Control*> controlOf_;
+  // Whose names take in the caption of this control.
+  std::unordered_map<const Control*, std::vector<const ControlView*>> namedBy_;
   std::unordered_map<const Control*, QAction*> menu_;
   BalloonWidget* balloon_ = nullptr;
   int broughtUp_ = 0;  // how often the form had been shown when the window came up last

@@ -41,7 +41,6 @@ constexpr LayoutSource kLayoutSources[] = {
 DocWindow::DocWindow(Workspaces& workspaces)
     : Form("frmAdvResultsDoc", "Advanced Smoking Results - Document Style (Rich Text Format)"),
       workspaces_(workspaces) {
-  RemoveCloseEntry();
   Design();
   onResize = [this] { OnResize(); };
   Resize(kWidth, kHeight);

@@ -16,6 +16,8 @@ class DocWindow : public Form {
   // One window serves all sins; it starts in the table layout. There is no way out but cmdExit.
   explicit DocWindow(Workspaces& workspaces);
 
+  std::string_view MenuTitle() const override { return "Edit"; }
+
   DocumentText& Text() { return *rtfAdvResultsDoc_; }
   // Whether the block layout is on.
   bool BlockLayout() const { return Opt_Doc_->Value(); }

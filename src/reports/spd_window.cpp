@@ -22,7 +22,6 @@ constexpr std::string_view kUntouchedClip = "1 ";
 
 SpdWindow::SpdWindow(Workspaces& workspaces)
     : Form("frmAdvResultsSpd", "Advanced Smoking Results - SpreadSheet Style"), workspaces_(workspaces) {
-  RemoveCloseEntry();
   Design();
   onResize = [this] { OnResize(); };
   Resize(kWidth, kHeight);

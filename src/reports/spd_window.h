@@ -9,14 +9,13 @@
 
 namespace vicetoll {
 
-// The title of the right-click menu of both report windows; it opens on the window and on its report.
-inline constexpr std::string_view kRightClickMenuCaption = "Edit";
-
 class SpdWindow : public Form {
  public:
   // One window serves all sins. Its caption speaks of smoking and never changes: the reports write their
   // titles into the document window's. There is no way out but cmdExit.
   explicit SpdWindow(Workspaces& workspaces);
+
+  std::string_view MenuTitle() const override { return "Edit"; }
 
   Grid& Rows() { return *fgdAdvResultsSpd_; }
 

@@ -15,6 +15,7 @@ void Balloons::AttachToolTips(int position, SinWorkspace& workspace) {
 
 void Balloons::AddBalloon(int position, std::string_view control, std::string_view text) {
   At(position).balloons.push_back({std::string(control), std::string(text)});
+  Changed(position);
 }
 
 Balloons::OfSin& Balloons::At(int position) {
@@ -42,7 +43,13 @@ std::string_view Balloons::TextFor(int position, const Control& control) const {
 
 void Balloons::SwitchOne(int position, bool on) {
   // A sin that was never visited has no balloons to switch; those it gets later are active.
-  if (!sins_.at(position).balloons.empty()) sins_.at(position).active = on;
+  if (sins_.at(position).balloons.empty()) return;
+  sins_.at(position).active = on;
+  Changed(position);
+}
+
+void Balloons::Changed(int position) const {
+  if (onChanged) onChanged(position);
 }
 
 void Balloons::SwitchAll(bool on) {

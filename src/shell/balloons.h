@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,6 +36,9 @@ class Balloons {
   // The text for a control while the sin's balloons are active, empty otherwise.
   std::string_view TextFor(int position, const Control& control) const;
 
+  // Called when the texts of a sin's balloons changed, or whether they are active.
+  std::function<void(int position)> onChanged;
+
   void EnableToolTips() { SwitchAll(true); }
   void DisableToolTips() { SwitchAll(false); }
 
@@ -45,6 +49,7 @@ class Balloons {
   };
 
   OfSin& At(int position);
+  void Changed(int position) const;
   void SwitchAll(bool on);
   void SwitchOne(int position, bool on);
 

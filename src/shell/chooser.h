@@ -21,6 +21,8 @@ class SinChooser : public Form {
  public:
   SinChooser(Workspaces& workspaces, SinSwitching& switching);
 
+  Button* CloseButton() const override { return cmdExit_; }
+
   // The press of cmdSwitchSins on a workspace.
   void Open(SinWorkspace& from);
 

@@ -106,9 +106,9 @@ void CombinedResults::MakeBottom() {
   Button& update = Add<Button>({"cmdUpdate"}, "Update");
   update.SetPlace({5600, kBottom + 250, 2200, 600});
   update.onClick = [this] { PopulateCombResultsText(); };
-  Button& exit = Add<Button>({"cmdExit"}, "Exit");
-  exit.SetPlace({kWindowWidth - kMargin - 2200, kBottom + 250, 2200, 600});
-  exit.onClick = [this] { Hide(); };
+  cmdExit_ = &Add<Button>({"cmdExit"}, "Exit");
+  cmdExit_->SetPlace({kWindowWidth - kMargin - 2200, kBottom + 250, 2200, 600});
+  cmdExit_->onClick = [this] { Hide(); };
 }
 
 void CombinedResults::PopulateCombResultsText() {

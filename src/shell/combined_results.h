@@ -18,6 +18,8 @@ class CombinedResults : public Form {
  public:
   explicit CombinedResults(Workspaces& workspaces);
 
+  Button* CloseButton() const override { return cmdExit_; }
+
   // Fills all twelve rows and the totals.
   void PopulateCombResultsText();
 
@@ -52,6 +54,7 @@ class CombinedResults : public Form {
   std::array<ColumnControls, kColumns> columns_;
   std::array<CheckBox*, kSinCount> chkWhichSins_{};
   DropDownList* comDataRep_ = nullptr;
+  Button* cmdExit_ = nullptr;
   std::string noData_;
 };
 

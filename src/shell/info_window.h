@@ -15,6 +15,8 @@ class InfoWindow : public Form {
  public:
   explicit InfoWindow(Platform& platform);
 
+  Button* CloseButton() const override { return cmdExit_; }
+
   // Show the window with the manual, or with questions and answers. A missing file shows a sentence that
   // names it.
   void ShowHelpFile();

@@ -10,7 +10,12 @@
 
 namespace vicetoll {
 
-Program::Program(Platform& platform) : session_(platform), balloons_(*this) { StartSmoking(); }
+Program::Program(Platform& platform) : session_(platform), balloons_(*this) {
+  balloons_.onChanged = [this](int position) {
+    if (workspaces_.at(position)) workspaces_[position]->HelpChanged();
+  };
+  StartSmoking();
+}
 
 Program::~Program() = default;
 
@@ -55,6 +60,7 @@ void Program::StartSmoking() {
 }
 
 void Program::Connect(SinWorkspace& ws) {
+  ws.helpOn = [this, &ws](const Control& control) { return balloons_.TextFor(ws.Position(), control); };
   ws.onResize = [&ws] { PlaceWorkspaceControls(ws); };
   ws.cmdSwitchSins->onClick = [this, &ws] { Chooser().Open(ws); };
   ws.cmdExit->onClick = [this] { UnloadAllWindows(); };

@@ -111,6 +111,10 @@ class SinWorkspace : public Form {
   // Makes all controls in their design state; loads nothing.
   SinWorkspace(Session& session, int position);
 
+  Button* CloseButton() const override { return cmdExit; }
+  std::string_view Hint() const override { return "Shift+F1 explains the control that has the focus."; }
+  bool SharesPlace() const override { return true; }
+
   Session& GetSession() const { return session_; }
   PeriodStore& Store() const { return session_.store; }
   Platform& GetPlatform() const { return session_.platform; }

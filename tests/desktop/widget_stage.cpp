@@ -45,6 +45,15 @@ int ColourOf(const QWidget& widget) {
   return -1;
 }
 
+// Where nothing stands on the widget; its middle if there is no such place.
+QPoint BareGround(const QWidget& widget) {
+  constexpr int kStep = 4;
+  for (int y = kStep; y < widget.height(); y += kStep)
+    for (int x = kStep; x < widget.width(); x += kStep)
+      if (widget.childAt(x, y) == nullptr) return {x, y};
+  return widget.rect().center();
+}
+
 std::string TextOf(const QWidget& widget) {
   if (const auto* list = dynamic_cast<const BlueList*>(&widget)) return FromQt(list->ShownText());
   if (const auto* box = dynamic_cast<const ResultBox*>(&widget)) return FromQt(box->text());
@@ -56,7 +65,7 @@ std::string TextOf(const QWidget& widget) {
 }  // namespace
 
 WidgetStage::WidgetStage(Program& program) : desktop_(program) {
-  desktop_.onFault = [this](const Fault& fault) { fault_ = fault; };
+  desktop_.onFault = [this](const std::exception&) { failure_ = std::current_exception(); };
 }
 
 FormWindow& WidgetStage::Window(Form& form) {
@@ -89,7 +98,7 @@ void WidgetStage::Activate(QWidget& window) {
 
 UserOutcome WidgetStage::Done() {
   desktop_.Flush();
-  if (fault_) throw Fault(*fault_);
+  if (failure_) std::rethrow_exception(failure_);
   return UserOutcome::Done;
 }
 
@@ -120,9 +129,12 @@ UserOutcome WidgetStage::Click(Control& control) {
     return Done();
   }
   QWidget& widget = Widget<QWidget>(control);
-  // A click on anything else does nothing, but a list would open.
-  if (qobject_cast<QAbstractButton*>(&widget) != nullptr || dynamic_cast<PanelWidget*>(&widget) != nullptr)
+  // A click on anything else does nothing in a scenario, as a list would open and a grid select.
+  if (qobject_cast<QAbstractButton*>(&widget) != nullptr)
     QTest::mouseClick(&widget, Qt::LeftButton);
+  else if (control.Kind() == ControlKind::Panel || control.Kind() == ControlKind::Frame ||
+           control.Kind() == ControlKind::Label)
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, BareGround(widget));
   return Done();
 }
 

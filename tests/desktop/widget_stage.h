@@ -2,7 +2,7 @@
 // read off the widgets, and so is what a user cannot reach.
 #pragma once
 
-#include <optional>
+#include <exception>
 
 #include "desktop/desktop.h"
 #include "scenario/scripted_platform.h"
@@ -43,11 +43,11 @@ class WidgetStage : public Stage {
   W& Widget(Control& control);
   bool Reaches(Control& control);
   void Activate(QWidget& window);
-  // What the last action came to; throws the fault that ended the run.
+  // What the last action came to; throws what ended the run.
   UserOutcome Done();
 
   Desktop desktop_;
-  std::optional<Fault> fault_;
+  std::exception_ptr failure_;
 };
 
 // The scripted world with real message boxes: each is shown, and its button pressed, as the queue says.

@@ -34,6 +34,8 @@ namespace {
 
 // ---- Whole runs ----
 
+GuardedApplication& Application() { return dynamic_cast<GuardedApplication&>(*QCoreApplication::instance()); }
+
 QWidget* WindowNamed(const char* name) {
   for (QWidget* window : QApplication::topLevelWidgets())
     if (window->objectName() == name) return window;
@@ -73,14 +75,27 @@ TEST(Run, EndsAfterAFatalFaultThatItTells) {
     ClickIn("Smoking", "cmdAdvResultsDocPast");
     ClickIn("frmAdvResultsDoc", "cmdSaveAs");
   });
-  EXPECT_EQ(RunProgram(*qobject_cast<QApplication*>(QCoreApplication::instance())), 1);
+  EXPECT_EQ(RunProgram(Application()), 1);
   EXPECT_TRUE(told.contains(path)) << told.toStdString();
   EXPECT_TRUE(told.contains("Results that were not saved are gone.")) << told.toStdString();
 }
 
+// Whatever else is thrown while the event loop runs ends the run too, with plain words.
+TEST(Run, EndsAfterAnExceptionThatIsNoFault) {
+  QString told;
+  WhenUp<QMessageBox>([&told](QMessageBox& box) {
+    told = box.text();
+    box.accept();
+  });
+  QTimer::singleShot(0, [] { throw std::out_of_range("beyond the last row"); });
+  EXPECT_EQ(RunProgram(Application()), 1);
+  EXPECT_TRUE(told.startsWith("Something went wrong inside the program (beyond the last row)."))
+      << told.toStdString();
+}
+
 TEST(Run, EndsWithStatusZeroByItsExitButton) {
   QTimer::singleShot(0, [] { ClickIn("Smoking", "cmdExit"); });
-  EXPECT_EQ(RunProgram(*qobject_cast<QApplication*>(QCoreApplication::instance())), 0);
+  EXPECT_EQ(RunProgram(Application()), 0);
 }
 
 // ---- Windows ----
@@ -333,14 +348,91 @@ TEST_F(Windows, ReportsIgnoreRequestsToClose) {
   EXPECT_FALSE(Of(program.Spd()).windowFlags().testFlag(Qt::WindowCloseButtonHint));
 }
 
-TEST_F(Windows, NothingEntersAfterAFault) {
+// Every window but the two reports, which must be left by their own button.
+TEST_F(Windows, GoWhenTheyAreClosedByTheWindowSystem) {
+  for (const char* name : {"frmCombRes", "frmInfo", "Drinking", "Smoking"}) {
+    Form& form = *program.Window(name);
+    desktop.Enter([&] { form.Show(); });
+    Of(form).close();
+    EXPECT_FALSE(form.Shown()) << name;
+  }
+}
+
+// The core makes the sins that were never visited, to unload them; nobody sees them.
+TEST_F(Windows, AreNotMadeToBeHiddenAtTheEnd) {
+  const std::size_t before = desktop.Windows().size();
+  QTest::mouseClick(&Widget(Smoking(), "cmdExit"), Qt::LeftButton);
+  EXPECT_TRUE(program.Ended());
+  EXPECT_EQ(desktop.Windows().size(), before);
+}
+
+class Failures : public Windows, public testing::WithParamInterface<bool> {};
+
+TEST_P(Failures, EndTheRunAndNothingEntersAfterThem) {
   std::string said;
-  desktop.onFault = [&said](const Fault& fault) { said = fault.what(); };
-  desktop.Enter([] { throw Fault(FaultKind::File, "The disk is full."); });
-  EXPECT_EQ(said, "The disk is full.");
+  int times = 0;
+  desktop.onFault = [&](const std::exception& cause) {
+    said = cause.what();
+    ++times;
+  };
+  desktop.Enter([fault = GetParam()] {
+    if (fault) throw Fault(FaultKind::File, "The disk is full.");
+    throw std::length_error("too long");
+  });
+  EXPECT_EQ(said, GetParam() ? "The disk is full." : "too long");
   bool entered = false;
   desktop.Enter([&entered] { entered = true; });
   EXPECT_FALSE(entered);
+  desktop.Fail(std::runtime_error("a second one"));
+  EXPECT_EQ(times, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfBothKinds, Failures, testing::Bool(), testing::PrintToStringParamName());
+
+// A listener that fails while widgets are brought in step must not leave the desktop deaf.
+TEST_F(Windows, TakeUpAgainAfterAFailureWhileTheyAreBroughtInStep) {
+  struct Failing : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+      if (event->type() == QEvent::EnabledChange) throw std::runtime_error("no more");
+      return false;
+    }
+  } failing;
+  QWidget& button = Widget(Smoking(), "cmdHelp");
+  button.installEventFilter(&failing);
+  Smoking().Get<Button>("cmdHelp").SetEnabled(false);
+  EXPECT_THROW(desktop.Flush(), std::runtime_error);
+  button.removeEventFilter(&failing);
+  Smoking().Get<Button>("cmdFaq").SetEnabled(false);
+  desktop.Flush();
+  EXPECT_FALSE(Widget(Smoking(), "cmdFaq").isEnabled());
+}
+
+// Whatever stands at which address: a thing counts once, where it changed first.
+TEST(ChangesOfTheCore, KeepTheOrderInWhichTheyCame) {
+  int things[5] = {};
+  Changes<int> changes;
+  for (const int i : {3, 0, 4, 3, 1, 0}) changes.Add(things[i]);
+  EXPECT_EQ(changes.Take(), (std::vector<int*>{&things[3], &things[0], &things[4], &things[1]}));
+  EXPECT_TRUE(changes.Take().empty());
+  changes.Add(things[3]);
+  EXPECT_EQ(changes.Take(), std::vector<int*>{&things[3]});
+}
+
+TEST_F(Windows, PanelsTakeClicksOnTheirOwnGroundAlone) {
+  auto& panel = dynamic_cast<PanelWidget&>(Widget(Smoking(), "SSPanel_BackColor(0)"));
+  int clicks = 0;
+  panel.onClick = [&clicks] { ++clicks; };
+  QWidget& frame = Widget(Smoking(), "frmEnabledDisabledPeriodPast(1)");
+  QTest::mouseClick(&frame, Qt::LeftButton, {}, QPoint(2, 2));
+  frame.setEnabled(false);
+  QTest::mouseClick(&frame, Qt::LeftButton, {}, QPoint(2, 2));
+  QTest::mouseClick(&Widget(Smoking(), "lblInterestRatePast"), Qt::LeftButton);
+  EXPECT_EQ(clicks, 0);
+  ASSERT_EQ(panel.childAt(1, 1), nullptr);
+  QTest::mouseClick(&panel, Qt::RightButton, {}, QPoint(1, 1));
+  EXPECT_EQ(clicks, 0);
+  QTest::mouseClick(&panel, Qt::LeftButton, {}, QPoint(1, 1));
+  EXPECT_EQ(clicks, 1);
 }
 
 // ---- Help, keyboard, names ----
@@ -390,6 +482,45 @@ TEST_F(Windows, EveryListAndBoxHasAName) {
   EXPECT_EQ(Widget(Smoking(), "comStartPast").accessibleName(), "Past Period 1: Date Started Smoking");
   EXPECT_EQ(Widget(Smoking(), "comStartPast").accessibleDescription(), "Start Smoking Date for Period");
   EXPECT_TRUE(Widget(Smoking(), "frmDailyPast").accessibleDescription().contains("inbibes"));
+}
+
+TEST_F(Windows, ToolTipsAreReplacedAndTakenAway) {
+  Control& list = *Smoking().Find("comStartPast");
+  EXPECT_EQ(Widget(Smoking(), "comStartPast").toolTip(), "Start Smoking Date for Period");
+  for (const char* text : {"another", "a third", "", "a last"}) {
+    desktop.Enter([&] { list.SetToolTip(text); });
+    EXPECT_EQ(Widget(Smoking(), "comStartPast").toolTip(), text);
+  }
+}
+
+TEST_F(Windows, NamesFollowTheirLabels) {
+  desktop.Enter([&] { Smoking().Get<Label>("lblInterestRatePast").SetCaption("Gain"); });
+  EXPECT_EQ(Widget(Smoking(), "comInterestRate1Past").accessibleName(), "Gain");
+  desktop.Enter([&] { Smoking().Get<Frame>("frmSetStartPast").SetCaption("Begin"); });
+  EXPECT_EQ(Widget(Smoking(), "comStartPast").accessibleName(), "Begin");
+  desktop.Enter([&] { program.Spd().Show(); });
+  desktop.Enter([&] { program.Spd().SetCaption("Months"); });
+  const auto* grid = dynamic_cast<GridWidget*>(Of(program.Spd()).WidgetOf(program.Spd().Rows()));
+  ASSERT_NE(grid, nullptr);
+  EXPECT_EQ(grid->accessibleName(), "Months");
+}
+
+TEST_F(Windows, DescriptionsAreThoseOfTheBalloonsThatAreOn) {
+  const QString balloon = Widget(Smoking(), "comInterestRate1Past").accessibleDescription();
+  EXPECT_TRUE(balloon.startsWith("Set the Average Rate of Return"));
+  SinWorkspace& drinking = Visit(1);
+  EXPECT_EQ(Widget(drinking, "comInterestRate1Past").accessibleDescription(), balloon);
+  desktop.Enter([&] { drinking.Get<Option>("optToolTipDisable").UserClicks(); });
+  // Drinking's option speaks for all sins.
+  EXPECT_EQ(Widget(drinking, "comInterestRate1Past").accessibleDescription(), "");
+  EXPECT_EQ(Widget(Smoking(), "comInterestRate1Past").accessibleDescription(), "");
+  desktop.Enter([&] { drinking.Get<Option>("optToolTipEnable").UserClicks(); });
+  EXPECT_EQ(Widget(Smoking(), "comInterestRate1Past").accessibleDescription(), balloon);
+}
+
+TEST_F(Windows, ASinComesWhereTheOneBeforeStood) {
+  Of(Smoking()).move(70, 50);
+  EXPECT_EQ(Of(Visit(4)).pos(), QPoint(70, 50));
 }
 
 TEST_F(Windows, TabVisitsEveryReachableControlInReadingOrder) {
@@ -568,7 +699,7 @@ int main(int argc, char** argv) {
   const QTemporaryDir settings;
   qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
   testing::InitGoogleTest(&argc, argv);
-  QApplication application(argc, argv);
+  vicetoll::GuardedApplication application(argc, argv);
   vicetoll::ApplyLook(application);
   application.setQuitOnLastWindowClosed(false);
   return RUN_ALL_TESTS();

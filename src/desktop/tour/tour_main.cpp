@@ -117,14 +117,14 @@ int main(int argc, char** argv) {
     Program program(platform);
     Desktop desktop(program);
     bool fault = false;
-    desktop.onFault = [&fault](const Fault& what) {
+    desktop.onFault = [&fault](const std::exception& what) {
       fault = true;
       std::fprintf(stderr, "%s\n", what.what());
     };
     Tour tour(program, desktop, folder);
     tour.Walk();
     return fault || tour.Failed() ? 1 : 0;
-  } catch (const Fault& fault) {
+  } catch (const std::exception& fault) {
     std::fprintf(stderr, "%s\n", fault.what());
     return 1;
   }
