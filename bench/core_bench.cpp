@@ -11,6 +11,7 @@
 #include "engine/side_chain.h"
 #include "fake_platform.h"
 #include "shell/program.h"
+#include "vocabulary/month_functions.h"
 #include "workspace/date_rules.h"
 #include "workspace/loading.h"
 #include "workspace/period_operations.h"

@@ -62,30 +62,4 @@ std::string MonthAfter(std::string_view label) {
   return month == kMonthsPerYear ? MakeDateLabel(1, Add(year, 1)) : MakeDateLabel(Add(month, 1), year);
 }
 
-double DayCountOfMonthIndex(std::string& monthIndex, std::string_view startLabel) {
-  std::int16_t month = Add(RoundToInt16(TextToNumber(monthIndex)), MonthNumberFromLabel(startLabel));
-  month = Subtract(month, 1);
-  monthIndex = std::to_string(month);
-  if (month > kMonthsPerYear) month %= kMonthsPerYear;
-  switch (month) {
-    case 1:
-    case 3:
-    case 5:
-    case 7:
-    case 8:
-    case 10:
-    case 12:
-      return 31;
-    case 2:
-      return 28;
-    case 4:
-    case 6:
-    case 9:
-    case 11:
-      return 30;
-    default:
-      return 365.0 / kMonthsPerYear;
-  }
-}
-
 }  // namespace vicetoll

@@ -28,9 +28,4 @@ std::int16_t MonthsBetween(std::string_view label, std::string_view other);
 // The label of the month after this one, across a year's end.
 std::string MonthAfter(std::string_view label);
 
-// The days of the n-th month of a period. `monthIndex`, a number as text, becomes the calendar month
-// counted on from the start. February always has 28 days, and December of every year after the first
-// gives 365/12: the month number is taken modulo 12 and then 0. No amount depends on this figure.
-double DayCountOfMonthIndex(std::string& monthIndex, std::string_view startLabel);
-
 }  // namespace vicetoll

@@ -1,7 +1,6 @@
 // Money as text, in the currency of the run.
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -14,22 +13,16 @@ enum class Currency { Dollar, Euro };
 inline constexpr char kEuroSign = '\x80';
 
 // The value in the format, whose first character, the dollar sign, gives way to the euro sign in euro
-// mode. A text that is no number comes back unchanged.
-std::string FormatMoney(Currency currency, std::string_view value, std::string_view format);
+// mode.
 std::string FormatMoney(Currency currency, double value, std::string_view format);
 
 // The text without a leading euro sign; any other text as it is.
 std::string StripCurrency(std::string_view text);
 
-// The same two with the letter "e" for the euro sign: the document report shows the euro so.
-std::string FormatMoneyLetter(Currency currency, std::string_view value, std::string_view format);
+// Money with the letter "e" for the euro sign: the document report shows the euro so.
 std::string FormatMoneyLetter(Currency currency, double value, std::string_view format);
-std::string StripCurrencyLetter(std::string_view text);
 
 // The number in a money text: StripCurrency, then text to number. Throws Fault(Conversion).
 double MoneyToNumber(std::string_view text);
-
-// The text with blanks appended until it has `width` characters; a longer text as it is.
-std::string PadRight(std::string_view text, std::int16_t width);
 
 }  // namespace vicetoll

@@ -254,12 +254,6 @@ std::string FormatNumber(double value, std::string_view format) {
   return Assemble(negative, RoundedDigits(ToDecimal(value), decimals), pattern);
 }
 
-std::string FormatText(std::string_view text, std::string_view format) {
-  double value = 0;
-  if (ParseNumber(text, value) != Parsed::Number) return std::string(text);
-  return FormatNumber(value, format);
-}
-
 double RoundToCents(double value) {
   double cents;
   if (const auto rounded = FastRounded(value, 100))

@@ -43,9 +43,6 @@ double LeadingNumber(std::string_view text);
 // hundredfold. A value below zero has its minus before the symbol, also where it rounds to zero ("-$0").
 std::string FormatNumber(double value, std::string_view format);
 
-// The same for a text; a text that is no number comes back unchanged ("N/A").
-std::string FormatText(std::string_view text, std::string_view format);
-
 // The number that FormatNumber(value, "$#,##0.00") shows: rounded to cents. What TextToNumber would read
 // back from that text, without making it.
 double RoundToCents(double value);

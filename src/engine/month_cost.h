@@ -4,9 +4,6 @@
 // months up takes the month's cost as it shows, rounded to cents.
 #pragma once
 
-#include <cstdint>
-#include <string>
-
 #include "sins/catalogue.h"
 
 namespace vicetoll {
@@ -16,10 +13,6 @@ inline constexpr double kCigarettesPerPack = 20;
 
 // The quantity itself, or a twentieth of it where it counts cigarettes.
 double PacksFromQuantity(bool packsFlag, double quantity);
-
-// The cost after `monthIndex` increases of yearlyFraction / 12 each (a fraction of one, 0.06 for 6%).
-// Month 1 has one increase already; an index of 0 or below has one too. Throws Fault(Overflow).
-double CompoundedCost(double cost, std::int16_t monthIndex, double yearlyFraction);
 
 // The cost on the straight line: the first month has moved 1/months of the way, the last is the final
 // cost, and beyond it the line goes on.
@@ -36,6 +29,9 @@ struct CostTerms {
   bool packsFlag = true;      // packs class: the quantity counts packs
   bool percentMode = true;    // the cost rises by a percentage, not from initial to final
   double yearlyFraction = 0;  // of the cost increase
+
+  // Of the four classes only two ever leave the percent mode.
+  bool RisesByPercent() const { return !HasCostModes(costClass) || percentMode; }
 };
 
 // The figures of one month, unrounded.
@@ -48,25 +44,12 @@ struct MonthFigures {
   double AdjustedCost() const { return unitCost - reasonableCost; }
 };
 
-// Row 1 of the table of texts that a month function returns. Always with a dollar sign: the cells are
-// internal, and whoever shows them formats them anew.
-struct MonthCostCells {
-  std::string quantity;        // column 0, "##.00"
-  std::string unitCost;        // column 1, "$#,##0.00", like all that follow
-  std::string monthCost;       // column 2
-  std::string reasonableCost;  // column 4, net-units class only
-  std::string adjustedCost;    // column 5, net-units class only
-  bool net = false;            // six columns instead of four; column 3 is always empty
-
-  int Columns() const { return net ? 6 : 4; }
-  const std::string& Column(int column) const;
-};
-
 // The months of a period, one after the other from month 1. Compounded costs are carried from month to
-// month: the same multiplications in the same order as CompoundedCost does, so no cent can differ.
+// month; month 1 has one increase of a twelfth of the yearly fraction already.
 class MonthWalk {
  public:
-  MonthWalk(const CostTerms& terms, double monthsInPeriod);
+  // On the straight line from initial to final cost the walk may start anywhere, behind `monthsGone` months.
+  MonthWalk(const CostTerms& terms, double monthsInPeriod, double monthsGone = 0);
 
   // The next month's figures. Throws Fault(Overflow).
   MonthFigures Next();
@@ -77,13 +60,7 @@ class MonthWalk {
   double factor_;  // of one month's increase
   double unitCost_;
   double reasonableCost_;
-  double month_ = 0;
+  double month_;
 };
-
-// The figures of a single month, its index counted from 1. Throws Fault(Overflow).
-MonthFigures FiguresOfMonth(const CostTerms& terms, double monthIndex, double monthsInPeriod);
-
-// The figures as texts.
-MonthCostCells CellsOf(const CostTerms& terms, const MonthFigures& figures);
 
 }  // namespace vicetoll

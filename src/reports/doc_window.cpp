@@ -144,7 +144,7 @@ void DocWindow::Paste() { Text().ReplaceSelection(workspaces_.GetSession().platf
 
 void DocWindow::Exit() {
   Hide();
-  RestoreDocButtonsOfSin(workspaces_);
+  RestoreResultButtonsOfSin(workspaces_, ReportStyle::Document);
 }
 
 }  // namespace vicetoll

@@ -20,18 +20,4 @@ void RestoreResultButtons(SinWorkspace& ws, ReportStyle style);
 void DisableResultButtonsOfSin(Workspaces& workspaces, ReportStyle style);
 void RestoreResultButtonsOfSin(Workspaces& workspaces, ReportStyle style);
 
-// The names of the vocabulary.
-inline void DisableSpdButtons(SinWorkspace& ws) { DisableResultButtons(ws, ReportStyle::Spreadsheet); }
-inline void RestoreSpdButtons(SinWorkspace& ws) { RestoreResultButtons(ws, ReportStyle::Spreadsheet); }
-inline void DisableDocButtons(SinWorkspace& ws) { DisableResultButtons(ws, ReportStyle::Document); }
-inline void RestoreDocButtons(SinWorkspace& ws) { RestoreResultButtons(ws, ReportStyle::Document); }
-inline void DisableSpdButtonsOfSin(Workspaces& all) {
-  DisableResultButtonsOfSin(all, ReportStyle::Spreadsheet);
-}
-inline void RestoreSpdButtonsOfSin(Workspaces& all) {
-  RestoreResultButtonsOfSin(all, ReportStyle::Spreadsheet);
-}
-inline void DisableDocButtonsOfSin(Workspaces& all) { DisableResultButtonsOfSin(all, ReportStyle::Document); }
-inline void RestoreDocButtonsOfSin(Workspaces& all) { RestoreResultButtonsOfSin(all, ReportStyle::Document); }
-
 }  // namespace vicetoll

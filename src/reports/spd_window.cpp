@@ -89,7 +89,7 @@ void SpdWindow::Copy() { workspaces_.GetSession().platform.SetClipboard(Rows().C
 void SpdWindow::Exit() {
   Rows().Clear();
   Hide();
-  RestoreSpdButtonsOfSin(workspaces_);
+  RestoreResultButtonsOfSin(workspaces_, ReportStyle::Spreadsheet);
 }
 
 }  // namespace vicetoll

@@ -2,18 +2,17 @@
 //
 // The names are the system's vocabulary (CommitPeriodPast, SetDrinkingParametersFuture,
 // LabelMakerSmokePast). Behind a pair of names for past and future, or twelve names of the sins, stands
-// one implementation; this table is where the names are.
+// one implementation. The names stand in operation_table.cpp.
 #pragma once
 
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
-#include "engine/month_cost.h"
 #include "shell/program.h"
+#include "vocabulary/month_functions.h"
 
 namespace vicetoll {
 
@@ -47,5 +46,9 @@ using OperationValue = std::variant<std::monostate, double, std::string, MonthCo
 // Calls the operation of that name on the workspace. Throws BadCall if there is none.
 OperationValue CallOperation(Program& program, SinWorkspace& workspace, std::string_view name,
                              const Arguments& arguments);
+
+// The module that the vocabulary puts the operation in (VTL_General, VTL_CombFunctions, ToolTipMod,
+// VTL_Developer), or the window that has it. Throws BadCall if there is none.
+std::string_view ModuleOfOperation(const SinRow& sin, std::string_view name);
 
 }  // namespace vicetoll

@@ -83,35 +83,5 @@ TEST(DateLabel, TheMonthAfterDecemberIsJanuaryOfTheNextYear) {
   EXPECT_EQ(MonthAfter("Jan - 1999"), "Feb - 1999");
 }
 
-double DayCount(std::string index, const char* start) { return DayCountOfMonthIndex(index, start); }
-
-TEST(DayCount, IsThatOfTheCalendarMonthInAYearOf365Days) {
-  constexpr double kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  for (std::int16_t month = 1; month <= 12; ++month) {
-    EXPECT_EQ(DayCount("1", MakeDateLabel(month, 2000).c_str()), kDays[month - 1]) << month;
-    EXPECT_EQ(DayCount(std::to_string(month), "Jan - 2000"), kDays[month - 1]) << month;
-  }
-}
-
-TEST(DayCount, LaterYearsRepeatTheFirstButForDecember) {
-  EXPECT_EQ(DayCount("12", "Jan - 2000"), 31);
-  EXPECT_EQ(DayCount("13", "Jan - 2000"), 31);  // the second January
-  EXPECT_EQ(DayCount("14", "Jan - 2000"), 28);
-  EXPECT_EQ(DayCount("24", "Jan - 2000"), 365.0 / 12);
-  EXPECT_EQ(DayCount("36", "Jan - 2000"), 365.0 / 12);
-  EXPECT_EQ(DayCount("10", "Mar - 2000"), 31);          // the first December
-  EXPECT_EQ(DayCount("22", "Mar - 2000"), 365.0 / 12);  // the second
-}
-
-TEST(DayCount, WritesTheCalendarMonthBack) {
-  std::string index = "3";
-  DayCountOfMonthIndex(index, "Mar - 2000");
-  EXPECT_EQ(index, "5");
-}
-
-TEST(DayCount, AnIndexThatIsNoNumberIsAFault) {
-  EXPECT_EQ(FaultOf([] { DayCount("one", "Jan - 2000"); }), FaultKind::Conversion);
-}
-
 }  // namespace
 }  // namespace vicetoll

@@ -88,15 +88,6 @@ TEST(NumberText, ShowsEvenTheLargestDouble) {
   EXPECT_TRUE(text.starts_with("$179,769,313,486,232,000,"));
 }
 
-TEST(NumberText, ATextThatIsNoNumberComesBackFromTheFormatter) {
-  for (const char* text : {"N/A", "", "n/a",
-                           "\x80"
-                           "5"})
-    EXPECT_EQ(FormatText(text, "$#,##0.00"), text);
-  EXPECT_EQ(FormatText("1.005", "$#,##0.00"), "$1.01");
-  EXPECT_EQ(FormatText("$1,234.5", "$#,###"), "$1,235");
-}
-
 TEST(NumberText, HasAtMostFifteenDigitsAndNoTrailingZeros) {
   EXPECT_EQ(NumberToText(0), "0");
   EXPECT_EQ(NumberToText(-0.0), "0");

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "calendar/number_text.h"
 #include "fault_of.h"
 
 namespace vicetoll {
@@ -10,10 +9,6 @@ namespace {
 
 constexpr CostClass kClasses[] = {CostClass::PacksClass, CostClass::UnitsClass, CostClass::NetUnitsClass,
                                   CostClass::FlatRateClass};
-
-MonthCostCells Cells(const CostTerms& terms, std::int16_t month, std::int16_t months) {
-  return CellsOf(terms, FiguresOfMonth(terms, month, months));
-}
 
 // 20 cigarettes a day, a pack for 2.00, 6% a year.
 constexpr CostTerms kPackADay{.costClass = CostClass::PacksClass,
@@ -29,61 +24,6 @@ constexpr CostTerms kFourCoffees{.costClass = CostClass::NetUnitsClass,
                                  .reasonableCost = 1.1,
                                  .quantity = 4,
                                  .yearlyFraction = 0.12};
-
-// A month's increase is 1.005: 2.01 * 30.42 = 61.1442, then 2.02005 * 30.42 = 61.449921.
-TEST(MonthCost, OfAPackADay) {
-  const MonthCostCells first = Cells(kPackADay, 1, 3);
-  EXPECT_EQ(first.quantity, "1.00");
-  EXPECT_EQ(first.unitCost, "$2.01");
-  EXPECT_EQ(first.monthCost, "$61.14");
-  const MonthCostCells second = Cells(kPackADay, 2, 3);
-  EXPECT_EQ(second.unitCost, "$2.02");
-  EXPECT_EQ(second.monthCost, "$61.45");
-}
-
-TEST(MonthCost, OfUnitsTakesTheQuantityAsItIs) {
-  // 6 * 3.00 * 30.42 = 547.56.
-  const CostTerms terms{
-      .costClass = CostClass::UnitsClass, .initialCost = 3, .quantity = 6, .packsFlag = false};
-  const MonthCostCells cells = Cells(terms, 1, 1);
-  EXPECT_EQ(cells.quantity, "6.00");
-  EXPECT_EQ(cells.monthCost, "$547.56");
-}
-
-// 20 * (1 + 0.05 / 12) = 20.08333, and the month 608.40 + 2.535 = 610.935, a tie in decimal.
-TEST(MonthCost, OfAFlatRateShowsTheCostPerDayBeforeAndAfterTheIncrease) {
-  const CostTerms terms{.initialCost = 20, .yearlyFraction = 0.05};
-  const MonthCostCells cells = Cells(terms, 1, 12);
-  EXPECT_EQ(cells.quantity, "20.00");
-  EXPECT_EQ(cells.unitCost, "$20.08");
-  EXPECT_EQ(cells.monthCost, "$610.94");
-}
-
-// Gross 3.03 and reasonable 1.111 both rise; 1.919 * 4 * 30.42 = 233.50392.
-TEST(MonthCost, OfNetUnitsRaisesGrossAndReasonableAlike) {
-  const MonthCostCells cells = Cells(kFourCoffees, 1, 12);
-  EXPECT_EQ(cells.quantity, "4.00");
-  EXPECT_EQ(cells.unitCost, "$3.03");
-  EXPECT_EQ(cells.reasonableCost, "$1.11");
-  EXPECT_EQ(cells.adjustedCost, "$1.92");
-  EXPECT_EQ(cells.monthCost, "$233.50");
-}
-
-TEST(MonthCost, CellsStandInTheirColumns) {
-  for (const CostClass costClass : kClasses) {
-    CostTerms terms = kFourCoffees;
-    terms.costClass = costClass;
-    const bool net = costClass == CostClass::NetUnitsClass;
-    const MonthCostCells cells = Cells(terms, 1, 12);
-    EXPECT_EQ(cells.Columns(), net ? 6 : 4);
-    EXPECT_EQ(cells.Column(0), cells.quantity);
-    EXPECT_EQ(cells.Column(1), cells.unitCost);
-    EXPECT_EQ(cells.Column(2), cells.monthCost);
-    EXPECT_EQ(cells.Column(3), "");
-    EXPECT_EQ(cells.Column(4), net ? "$1.11" : "");
-    EXPECT_EQ(cells.Column(5), net ? "$1.92" : "");
-  }
-}
 
 TEST(MonthCost, WithoutAnIncreaseEveryMonthHasTheInitialCost) {
   for (const CostClass costClass : kClasses) {
@@ -102,119 +42,60 @@ TEST(MonthCost, EqualInitialAndFinalCostsAreTheCostOfEveryMonth) {
   for (int month = 1; month <= 7; ++month) EXPECT_EQ(walk.Next().unitCost, 2);
 }
 
-// From 2.00 to 5.00 in three months: the first has moved a third of the way.
-TEST(MonthCost, TheStraightLineEndsInTheFinalCost) {
-  CostTerms terms = kPackADay;
-  terms.percentMode = false;
-  terms.finalCost = 5;
-  EXPECT_EQ(Cells(terms, 1, 3).unitCost, "$3.00");
-  EXPECT_EQ(Cells(terms, 2, 3).unitCost, "$4.00");
-  EXPECT_EQ(Cells(terms, 3, 3).unitCost, "$5.00");
-  EXPECT_EQ(Cells(terms, 4, 3).unitCost, "$6.00");
-  EXPECT_EQ(Cells(terms, 1, 1).unitCost, "$5.00");
-}
-
-TEST(MonthCost, TheFirstMonthHasAnIncreaseAlready) {
-  EXPECT_EQ(CompoundedCost(100, 1, 0.12), 100 * 1.01);
-  EXPECT_EQ(Cells(kPackADay, 1, 1).unitCost, "$2.01");
-}
-
-TEST(MonthCost, CompoundsMonthly) {
-  double cost = 100;
-  for (std::int16_t month = 1; month <= 12; ++month) {
-    cost *= 1.01;
-    EXPECT_DOUBLE_EQ(CompoundedCost(100, month, 0.12), cost);
-  }
-  EXPECT_NEAR(cost, 112.6825, 0.0001);  // 12.68% a year, not 12%
-}
-
-TEST(MonthCost, AnIndexBelowOneHasOneIncrease) {
-  for (std::int16_t month : {0, -1, -32768}) EXPECT_EQ(CompoundedCost(100, month, 0.12), 100 * 1.01);
-}
-
-TEST(MonthCost, AnAmountBeyondADoubleIsAFault) {
-  EXPECT_EQ(FaultOf([] { CompoundedCost(1e308, 1000, 1); }), FaultKind::Overflow);
-  EXPECT_EQ(FaultOf([] { LinearCost(0, 1e308, 1000, 1); }), FaultKind::Overflow);
-  EXPECT_EQ(FaultOf([] { FiguresOfMonth({.initialCost = 1e307}, 1, 1); }), FaultKind::Overflow);
-}
-
 TEST(MonthCost, TwentyCigarettesAreAPack) {
   EXPECT_EQ(PacksFromQuantity(true, 1.5), 1.5);
   EXPECT_EQ(PacksFromQuantity(false, 30), 1.5);
 }
 
-TEST(MonthCost, HalfAPackShowsWithoutALeadingZero) {
+// From 2.00 to 5.00 in three months: the first has moved a third of the way.
+TEST(MonthWalk, TheStraightLineEndsInTheFinalCostAndGoesOn) {
   CostTerms terms = kPackADay;
-  terms.quantity = 10;
-  EXPECT_EQ(Cells(terms, 1, 1).quantity, ".50");
+  terms.percentMode = false;
+  terms.finalCost = 5;
+  MonthWalk walk(terms, 3);
+  for (const double cost : {3, 4, 5, 6}) EXPECT_EQ(walk.Next().unitCost, cost);
 }
 
-TEST(MonthCost, IsNothingWhereGrossIsReasonable) {
-  CostTerms terms = kFourCoffees;
-  terms.reasonableCost = terms.initialCost;
-  EXPECT_EQ(Cells(terms, 5, 12).monthCost, "$0.00");
+// Gross 3.03 and reasonable 1.111 both rise; 1.919 * 4 * 30.42 = 233.50392. The second month has
+// 3.0603 and 1.12211.
+TEST(MonthWalk, RaisesGrossAndReasonableAlike) {
+  MonthWalk walk(kFourCoffees, 12);
+  const MonthFigures first = walk.Next();
+  EXPECT_DOUBLE_EQ(first.unitCost, 3.03);
+  EXPECT_DOUBLE_EQ(first.reasonableCost, 1.111);
+  EXPECT_NEAR(first.AdjustedCost(), 1.919, 1e-12);
+  EXPECT_NEAR(first.monthCost, 233.50392, 1e-9);
+  const MonthFigures second = walk.Next();
+  EXPECT_DOUBLE_EQ(second.unitCost, 3.0603);
+  EXPECT_DOUBLE_EQ(second.reasonableCost, 1.12211);
 }
 
-// (1.00 - 2.00) * 4 * 30.42 = -121.68.
-TEST(MonthCost, IsBelowZeroWhereReasonableIsAboveGross) {
-  CostTerms terms = kFourCoffees;
-  terms.initialCost = 1;
-  terms.reasonableCost = 2;
-  terms.yearlyFraction = 0;
-  const MonthCostCells cells = Cells(terms, 1, 12);
-  EXPECT_EQ(cells.adjustedCost, "-$1.00");
-  EXPECT_EQ(cells.monthCost, "-$121.68");
-}
-
-TEST(MonthCost, ClassesWithoutCostModesKnowNoStraightLine) {
-  for (const CostClass costClass : {CostClass::NetUnitsClass, CostClass::FlatRateClass}) {
-    CostTerms terms = kFourCoffees;
-    terms.costClass = costClass;
-    terms.percentMode = false;
-    terms.finalCost = 100;
-    EXPECT_EQ(Cells(terms, 2, 2).unitCost, "$3.06");  // 3.00 * 1.01 * 1.01 = 3.0603
-  }
-}
-
-// The walk multiplies once a month where the single month multiplies from the beginning; the same
-// multiplications in the same order give the same bits.
-TEST(MonthWalk, CarriesTheVeryFiguresOfTheSingleMonths) {
-  constexpr std::int16_t kMonths = 1080;
+// The cost of month n is the first cost multiplied n times by one month's factor, in this order: another
+// order could differ in the last bit, and so in a cent.
+TEST(MonthWalk, MultipliesOnceAMonth) {
+  constexpr int kMonths = 1080;
   for (const CostClass costClass : kClasses) {
-    for (const bool percentMode : {true, false}) {
-      for (const double rate : {0.0, 0.01, 0.05, 0.07, 0.1, 0.29, 1.0}) {
-        CostTerms terms = kFourCoffees;
-        terms.costClass = costClass;
-        terms.percentMode = percentMode;
-        terms.yearlyFraction = rate;
-        terms.initialCost = 7.3;
-        terms.finalCost = 11.7;
-        MonthWalk walk(terms, kMonths);
-        for (std::int16_t month = 1; month <= kMonths; ++month) {
-          const MonthFigures carried = walk.Next();
-          const MonthFigures single = FiguresOfMonth(terms, month, kMonths);
-          ASSERT_EQ(carried.unitCost, single.unitCost) << "month " << month << " at " << rate;
-          ASSERT_EQ(carried.reasonableCost, single.reasonableCost);
-          ASSERT_EQ(carried.monthCost, single.monthCost);
-          if (percentMode) {
-            ASSERT_EQ(carried.unitCost, CompoundedCost(7.3, month, rate));
-          }
-        }
+    for (const double rate : {0.0, 0.01, 0.05, 0.07, 0.1, 0.29, 1.0}) {
+      CostTerms terms = kFourCoffees;
+      terms.costClass = costClass;
+      terms.initialCost = 7.3;
+      terms.yearlyFraction = rate;
+      MonthWalk walk(terms, kMonths);
+      double cost = 7.3, reasonable = 1.1;
+      for (int month = 1; month <= kMonths; ++month) {
+        cost *= 1 + rate / 12;
+        reasonable *= 1 + rate / 12;
+        const MonthFigures figures = walk.Next();
+        ASSERT_EQ(figures.unitCost, cost) << "month " << month << " at " << rate;
+        ASSERT_EQ(figures.reasonableCost, costClass == CostClass::NetUnitsClass ? reasonable : 0);
       }
     }
   }
 }
 
-// What is added up is what the cell shows.
-TEST(MonthCost, CountsAsItShows) {
-  for (const CostTerms& terms :
-       {kPackADay, kFourCoffees, CostTerms{.initialCost = 20, .yearlyFraction = 0.05}}) {
-    MonthWalk walk(terms, 240);
-    for (int month = 1; month <= 240; ++month) {
-      const MonthFigures figures = walk.Next();
-      EXPECT_EQ(RoundToCents(figures.monthCost), TextToNumber(CellsOf(terms, figures).monthCost));
-    }
-  }
+TEST(MonthWalk, AnAmountBeyondADoubleIsAFault) {
+  EXPECT_EQ(FaultOf([] { LinearCost(0, 1e308, 1000, 1); }), FaultKind::Overflow);
+  EXPECT_EQ(FaultOf([] { MonthWalk({.initialCost = 1e307}, 1).Next(); }), FaultKind::Overflow);
 }
 
 }  // namespace

@@ -197,7 +197,7 @@ TEST(TermsOfRecord, AMonthlyEntryIsTheCostOfItsMonth) {
   for (int dollars = 0; dollars <= 300'000; dollars += dollars < 1000 ? 1 : 50) {
     const PeriodTerms terms =
         TermsOf(record, CostClass::FlatRateClass, FormatNumber(dollars, "$#,##0.00"), false);
-    ASSERT_EQ(FormatNumber(FiguresOfMonth(terms.cost, 7, 12).monthCost, "$0.00"),
+    ASSERT_EQ(FormatNumber(MonthWalk(terms.cost, 12).Next().monthCost, "$0.00"),
               FormatNumber(dollars, "$0.00"));
   }
 }
@@ -215,7 +215,7 @@ TEST(TermsOfRecord, ThePacksClassTakesTheStoredUnit) {
   record.QuantityUnitFlag = false;
   const PeriodTerms terms = TermsOf(record, CostClass::PacksClass, "1.00", true);
   EXPECT_EQ(terms.cost.quantity, 1);
-  EXPECT_EQ(FiguresOfMonth(terms.cost, 1, 1).quantity, 0.05);
+  EXPECT_EQ(MonthWalk(terms.cost, 1).Next().quantity, 0.05);
 }
 
 TEST(TermsOfRecord, TheCalendarMonthDoesNotMatter) {

@@ -12,6 +12,7 @@
 #include "fake_platform.h"
 #include "reports/report_operations.h"
 #include "reports/report_windows.h"
+#include "vocabulary/text_functions.h"
 #include "workspace/loading.h"
 
 namespace vicetoll {

@@ -234,6 +234,23 @@ TEST_F(Operations, WarnOfADateOutOfRange) {
   }
 }
 
+// ---- Modules ----
+
+TEST_F(Operations, StandInTheirModule) {
+  const SinRow& drinking = Catalogue()[1];
+  const std::pair<const char*, const char*> kModules[] = {{"FormatMoney", "VTL_General"},
+                                                          {"MonthCostSmoking", "VTL_General"},
+                                                          {"CommitPeriodFuture", "VTL_CombFunctions"},
+                                                          {"FineBetweenPast", "VTL_CombFunctions"},
+                                                          {"AddBalloon", "ToolTipMod"},
+                                                          {"TypeLine", "VTL_Developer"},
+                                                          {"SetDrinkingParametersPast", "SinWorkspace"},
+                                                          {"PopulateTotals", "frmCombRes"},
+                                                          {"DocSinData", "frmAdvResultsDoc"}};
+  for (const auto& [name, module] : kModules) EXPECT_EQ(ModuleOfOperation(drinking, name), module) << name;
+  EXPECT_THROW(ModuleOfOperation(drinking, "SetSmokingParametersPast"), BadCall);
+}
+
 // ---- Bad calls ----
 
 TEST_F(Operations, RefuseWhatTheyCannotUnderstand) {
