@@ -22,20 +22,6 @@ constexpr int kFrameGap = 100;
 constexpr Place kCsvPlace{60, 250, 2460, 300};
 constexpr Place kDocPlace{60, 600, 2460, 300};
 
-// Where the layout switch finds its text, by the current sin. The slip from jail time to sloth, and the
-// two sins without a row, are as users know them.
-struct LayoutSource {
-  std::string_view sinKey, workspaceKey;
-  std::int16_t past, future;
-};
-constexpr LayoutSource kLayoutSources[] = {
-    {"Smoking", "Smoking", 1, 2},       {"Drinking", "Drinking", 3, 4},
-    {"Gambling", "Gambling", 5, 6},     {"Coffeeing", "Coffeeing", 7, 8},
-    {"Watering", "Watering", 9, 10},    {"Jailing", "Slothing", 11, 12},
-    {"Drugging", "Drugging", 13, 14},   {"Soliciting", "Soliciting", 17, 18},
-    {"Interring", "Interring", 21, 22}, {"Shopping", "Shopping", 23, 24},
-};
-
 }  // namespace
 
 DocWindow::DocWindow(Workspaces& workspaces)
@@ -94,10 +80,10 @@ void DocWindow::OnResize() {
 }
 
 void DocWindow::RefillForCurrentSin(bool docFlag) {
-  const std::string& current = workspaces_.GetSession().CurrentSinKey;
-  const auto source = std::ranges::find(kLayoutSources, current, &LayoutSource::sinKey);
-  if (source == std::end(kLayoutSources)) return;
-  DocSinData(workspaces_.At(SinPosition(source->workspaceKey)), source->past, source->future, docFlag);
+  const SinWorkspace& current = workspaces_.Current();
+  const int source = SinPosition(current.Sin().layoutSwitchReads);
+  if (source == -1) return;
+  DocSinData(workspaces_.At(source), current.SideIndex(Side::Past), current.SideIndex(Side::Future), docFlag);
 }
 
 void DocWindow::DocSinData(SinWorkspace& ws, std::int16_t past, std::int16_t future, bool docFlag) {

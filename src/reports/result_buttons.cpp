@@ -27,8 +27,7 @@ std::array<FlaggedButton, 5> ButtonsOf(SinWorkspace& ws, ReportStyle style) {
 }
 
 SinWorkspace& WorkspaceOfButtons(Workspaces& workspaces) {
-  if (workspaces.GetSession().CurrentSinKey == "Watering") return workspaces.At(SinPosition("Coffeeing"));
-  return workspaces.Current();
+  return workspaces.At(SinPosition(workspaces.Current().Sin().reportButtonsOf));
 }
 
 }  // namespace

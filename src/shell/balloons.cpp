@@ -10,7 +10,7 @@ void Balloons::AttachToolTips(int position, SinWorkspace& workspace) {
   At(position).active = true;
   for (const BalloonRow& row : BalloonRows())
     if (!workspace.FindAll(row.control).empty()) AddBalloon(position, row.control, row.text);
-  if (workspace.IsSmoking()) AddBalloon(position, EuroBalloon().control, EuroBalloon().text);
+  if (workspace.cmdEuro != nullptr) AddBalloon(position, EuroBalloon().control, EuroBalloon().text);
 }
 
 void Balloons::AddBalloon(int position, std::string_view control, std::string_view text) {
@@ -25,7 +25,7 @@ Balloons::OfSin& Balloons::At(int position) {
 
 void Balloons::ConnectOptions(SinWorkspace& workspace) {
   const int position = workspace.Position();
-  const bool shared = workspace.IsSmoking() || workspace.Sin().key == "Drinking";
+  const bool shared = workspace.Sin().switchesAllBalloons;
   for (const bool on : {true, false})
     workspace.Get<Option>(on ? "optToolTipEnable" : "optToolTipDisable").onClick = [=, this] {
       shared ? SwitchAll(on) : SwitchOne(position, on);

@@ -38,7 +38,7 @@ SinChooser::SinChooser(Workspaces& workspaces, SinSwitching& switching)
 void SinChooser::Open(SinWorkspace& from) {
   from.cmdSwitchSins->SetEnabled(false);
   ShowSinChooser(from.Position());
-  if (from.IsSmoking()) RetireEuroButton(from);
+  if (from.cmdEuro != nullptr) RetireEuroButton(from);
 }
 
 void SinChooser::ShowSinChooser(int position) {
@@ -71,12 +71,12 @@ void SinChooser::SwitchTo(int position) {
   const bool noResults = target.Of(Side::Past).txtResultsTotal->Text().empty() &&
                          target.Of(Side::Future).txtResultsTotal->Text().empty();
   if (noResults && !session.SinVisited[position]) {
-    if (!target.IsSmoking()) switching_.AttachToolTips(position, target);
+    if (!target.Sin().startsTheProgram) switching_.AttachToolTips(position, target);
     LoadParameters(target, Side::Past);
     LoadParametersInitialFuture(target);
   }
   ShowAndHideForms(target);
-  if (target.IsSmoking()) {
+  if (target.Sin().startsTheProgram) {
     target.SetCaption("The \"Ashtoll\"");
     target.cmdSwitchSins->SetAvailable(true);
     for (const char* panel : {"cmdHideAdvertisingPast", "cmdHideAdvertisingFut"})

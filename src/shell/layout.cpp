@@ -199,11 +199,10 @@ void PlaceIdentification(SinWorkspace& ws) {
   const Place exit = ws.cmdExit->GetPlace();
   restore.SetPlace({exit.left, exit.top - 1500, exit.width, exit.height - 300});
   restore.SetVisible(false);
-  // A tiny square; on Interring it lies just outside its panel.
-  const Place panel = ws.Get<Panel>("SSPanel_BackColor", ws.IsSmoking() ? kTotalTab : kPastTab).GetPlace();
-  const int left = ws.IsSmoking() ? panel.width - 400 : panel.width + 300;
-  const int top = ws.IsSmoking() ? panel.height - 400 : panel.height + 200;
-  ws.Get<Button>("cmdRevealDeveloper").SetPlace({left, top, 60, 60});
+  const RevealSquare& square = *ws.Sin().revealSquare;
+  const Place panel = ws.Get<Panel>("SSPanel_BackColor", square.tab).GetPlace();
+  ws.Get<Button>("cmdRevealDeveloper")
+      .SetPlace({panel.width + square.right, panel.height + square.below, 60, 60});
 }
 
 }  // namespace vicetoll

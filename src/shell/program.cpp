@@ -36,8 +36,11 @@ SinWorkspace& Program::At(int position) {
   MakeStrip(ws);
   PlaceDesign(ws);
   Connect(ws);
-  if (!ws.IsSmoking()) ws.SetCaption(ws.Sin().windowCaption);
-  if (ws.Sin().key == "Interring") PlaceIdentification(ws);
+  // The start does this and more for the window that the program starts with.
+  if (!ws.Sin().startsTheProgram) {
+    ws.SetCaption(ws.Sin().windowCaption);
+    if (ws.Sin().revealSquare) PlaceIdentification(ws);
+  }
   return ws;
 }
 
@@ -73,7 +76,7 @@ void Program::Connect(SinWorkspace& ws) {
   ConnectReports(ws, *this, *this);
   balloons_.ConnectOptions(ws);
   ConnectIdentification(ws);
-  if (ws.IsSmoking()) ConnectSmokingExtras(ws);
+  if (ws.Sin().startsTheProgram) ConnectSmokingExtras(ws);
 }
 
 void Program::FollowUser() { UpdateStrip(Current()); }

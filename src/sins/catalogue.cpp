@@ -235,6 +235,10 @@ constexpr std::array<SinRow, kSinCount> kCatalogue{{
                   .outOfPocket = " Out of Pocket Monthly Cost of Cigarettes: ",
                   .plural = "Cigarettes"},
         .tableHeading = {kSmoking1, kSmoking2, kSmoking3, kUnits4, kUnits5},
+
+        .startsTheProgram = true, .hasCigaretteList = true,
+        .revealSquare = RevealSquare{.tab = 2, .right = -400, .below = -400},
+        .switchesAllBalloons = true,
     },
     {
         .key = "Drinking", .stem = "Drink", .costClass = CostClass::UnitsClass,
@@ -291,6 +295,8 @@ constexpr std::array<SinRow, kSinCount> kCatalogue{{
                   .outOfPocket = " Out of Pocket Monthly Cuptoll: ",
                   .plural = "Drinks"},
         .tableHeading = {kDrinking1, kDrinking2, kDrinking3, kUnits4, kUnits5},
+
+        .hasCigaretteList = true, .switchesAllBalloons = true, .futureTotalTakesListPosition = true,
     },
     {
         .key = "Gambling", .stem = "Gamble", .costClass = CostClass::FlatRateClass,
@@ -454,6 +460,8 @@ constexpr std::array<SinRow, kSinCount> kCatalogue{{
                   .outOfPocket = " Out of Pocket Monthly Dewtoll: ",
                   .plural = "Water"},
         .tableHeading = {kWatering1, kWatering2, kWatering3, kWatering4, kNetUnits5},
+
+        .pastStoresPlainReasonableCost = true, .reportButtonsOf = "Coffeeing",
     },
     {
         .key = "Jailing", .stem = "Jail", .costClass = CostClass::FlatRateClass,
@@ -499,6 +507,8 @@ constexpr std::array<SinRow, kSinCount> kCatalogue{{
                   .outOfPocket = " Out of Pocket Monthly Celltoll: ",
                   .plural = "Jails"},
         .tableHeading = {kJailing1, kJailing2, kFlat3, kFlat4, kFlat5},
+
+        .futureTotalHasNoIncrease = true, .layoutSwitchReads = "Slothing",
     },
     {
         .key = "Drugging", .stem = "Drug", .costClass = CostClass::FlatRateClass,
@@ -545,6 +555,8 @@ constexpr std::array<SinRow, kSinCount> kCatalogue{{
                   .outOfPocket = " Out of Pocket Monthly Pilltoll: ",
                   .plural = "Drugs"},
         .tableHeading = {kDrugging1, kDrugging2, kFlat3, kFlat4, kFlat5},
+
+        .futureKeepsUnit = true,
     },
     {
         .key = "Slothing", .stem = "Sloth", .costClass = CostClass::FlatRateClass,
@@ -591,6 +603,8 @@ constexpr std::array<SinRow, kSinCount> kCatalogue{{
                   .outOfPocket = " Out of Pocket Monthly Sofatoll: ",
                   .plural = "Sloths"},
         .tableHeading = {kSlothing1, kSlothing2, kFlat3, kFlat4, kFlat5},
+
+        .layoutSwitchReads = "",
     },
     {
         .key = "Soliciting", .stem = "Solicite", .costClass = CostClass::UnitsClass,
@@ -695,6 +709,8 @@ constexpr std::array<SinRow, kSinCount> kCatalogue{{
                   .outOfPocket = " Out of Pocket Monthly Leaftoll: ",
                   .plural = "Tobacco"},
         .tableHeading = {kTobaccoing1, kTobaccoing2, kFlat3, kFlat4, kFlat5},
+
+        .layoutSwitchReads = "",
     },
     {
         .key = "Interring", .stem = "Internet", .costClass = CostClass::FlatRateClass,
@@ -742,6 +758,8 @@ constexpr std::array<SinRow, kSinCount> kCatalogue{{
                   .outOfPocket = " Out of Pocket Monthly Webtoll Sub: ",
                   .plural = "Internets"},
         .tableHeading = {kInterring1, kInterring2, kFlat3, kFlat4, kFlat5},
+
+        .revealSquare = RevealSquare{.tab = 0, .right = 300, .below = 200},  // just outside its panel
     },
     {
         .key = "Shopping", .stem = "Shop", .costClass = CostClass::FlatRateClass,

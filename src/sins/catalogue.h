@@ -10,6 +10,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -65,6 +66,13 @@ struct DocumentMonthWords {
   std::string_view plainUnitCost{};   // net-units class only: " Cost of a Coffee: ", in the future months
   std::string_view outOfPocket;       // " Out of Pocket Monthly Cost of Cigarettes: "
   std::string_view plural;            // "Cigarettes", of the three lines that follow from it
+};
+
+// The tiny square that starts the identification sequence: where it lies on the panel of a tab, from the
+// panel's right and lower edge on, in twips.
+struct RevealSquare {
+  int tab;  // 0 PAST, 2 TOTAL
+  int right, below;
 };
 
 // One sin. Names of controls are given without their side suffix.
@@ -128,6 +136,31 @@ struct SinRow {
   DocumentHeaderWords header;
   DocumentMonthWords month;
   std::array<std::span<const std::string_view>, 5> tableHeading;  // CsvText: five lines of cells
+
+  // Where a sin goes its own way. Most of it are old slips that users know; each stays as it is.
+
+  // The window that the program starts with: it has the euro button, the advertising panels and the web
+  // button, and what the others get at their first visit it has from the start.
+  bool startsTheProgram = false;
+  // Its window has comCigsPerDay. In Drinking the list stands there unused.
+  bool hasCigaretteList = false;
+  // The identification sequence can be started from its window.
+  std::optional<RevealSquare> revealSquare{};
+  // Its balloon options switch the balloons of all sins, not its own alone.
+  bool switchesAllBalloons = false;
+  // Storing a future period leaves the unit in the store as it was; only the figure is stored.
+  bool futureKeepsUnit = false;
+  // A past period's reasonable cost is stored without its currency.
+  bool pastStoresPlainReasonableCost = false;
+  // TotalCostInCurrentPeriodFuture takes the stored list position for the daily quantity.
+  bool futureTotalTakesListPosition = false;
+  // TotalCostInCurrentPeriodFuture knows no yearly increase.
+  bool futureTotalHasNoIncrease = false;
+  // The sin whose result buttons close while a report is open: Watering closes those of Coffeeing.
+  std::string_view reportButtonsOf = key;
+  // The sin whose workspace the layout switch of the document window reads, at the numbers of this sin's
+  // sides. Jailing reads that of Slothing; where it is empty the switch leaves the text alone.
+  std::string_view layoutSwitchReads = key;
 };
 
 // The twelve sins in the system's one order.
@@ -148,5 +181,9 @@ constexpr std::int16_t SideIndexOf(int position, Side side) {
 
 // True for the classes that have the percent and the initial/final option.
 constexpr bool HasCostModes(CostClass c) { return c == CostClass::PacksClass || c == CostClass::UnitsClass; }
+
+// True for the class that has a quantity list for each of its units, packs and cigarettes. The others have
+// one, which is filled anew when the unit changes.
+constexpr bool HasListPerUnit(CostClass c) { return c == CostClass::PacksClass; }
 
 }  // namespace vicetoll

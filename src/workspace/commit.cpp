@@ -55,7 +55,7 @@ void PressSetButton(SinWorkspace& ws, Side side) {
   SetParameters(ws, side, period);
   CommitPeriod(ws, side, period, ws.SideIndex(side));
   // Every press of the past side lowers the window, also when the button has long gone.
-  if (ws.IsSmoking() && side == Side::Past) RetireEuroButton(ws);
+  if (ws.cmdEuro != nullptr && side == Side::Past) RetireEuroButton(ws);
 }
 
 void CommitPeriod(SinWorkspace& ws, Side side, std::int16_t count, std::int16_t sideIndex) {

@@ -57,7 +57,7 @@ void OnTab(SinWorkspace& ws) {
       // Until its period 1 is committed, every arrival loads the side anew and drops what was chosen.
       if (!ws.Record(Side::Future, 1).PeriodSet) LoadParameters(ws, Side::Future);
       session.CurrentSinNumber = ws.SideIndex(Side::Future);
-      if (ws.IsSmoking() && ws.cmdEuro->Visible()) RetireEuroButton(ws);
+      if (ws.cmdEuro != nullptr && ws.cmdEuro->Visible()) RetireEuroButton(ws);
       EnableSetButton(ws, Side::Future);
       break;
     case kTotalTab:
@@ -84,7 +84,9 @@ void ConnectSide(SinWorkspace& ws, Side side) {
     c.comSubCost->onFocus = [&ws, side] { ReasonableCostEntered(ws, side); };
   }
   for (Option* option : {c.firstUnit, c.secondUnit})
-    option->onClick = [&ws, side] { ws.IsSmoking() ? OnPacksOrCigarettes(ws, side) : OnUnit(ws, side); };
+    option->onClick = [&ws, side] {
+      HasListPerUnit(ws.Class()) ? OnPacksOrCigarettes(ws, side) : OnUnit(ws, side);
+    };
   for (Option* option : {c.OptCigPercentCostIncrease, c.OptCigInitialFinalCostIncrease})
     if (option != nullptr) option->onClick = [&ws, side] { OnCostMode(ws, side); };
   c.cmdSetPeriodParams->onClick = [&ws, side] { PressSetButton(ws, side); };

@@ -20,7 +20,7 @@ void PutOptionsBack(SinWorkspace& ws, Side side) {
   Option& startUnit = ws.Sin().startUnit == Unit::PerDay ? *c.firstUnit : *c.secondUnit;
   if (!startUnit.Value()) {
     startUnit.SetValue(true);
-    if (ws.IsSmoking())
+    if (HasListPerUnit(ws.Class()))
       ShowPacksOrCigarettes(ws, side);
     else
       RefillUnitList(ws, side, ws.Record(side, ws.State(side).CurrentPeriod).QuantityListIndex);
@@ -34,7 +34,7 @@ void PutOptionsBack(SinWorkspace& ws, Side side) {
 void FillValueLists(SinWorkspace& ws, Side side) {
   SideControls& c = ws.Of(side);
   const SinRow& sin = ws.Sin();
-  if (ws.IsSmoking()) {
+  if (HasListPerUnit(ws.Class())) {
     AppendEntries(ws, *c.quantity, sin.perDayList);
     AppendEntries(ws, *c.comCigsPerDay, sin.perMonthList);
   } else {
@@ -52,7 +52,7 @@ void SelectDefaults(SinWorkspace& ws, Side side) {
   SideControls& c = ws.Of(side);
   const SinRow& sin = ws.Sin();
   c.quantity->SelectEntry(sin.quantityDefault);
-  if (ws.IsSmoking()) c.comCigsPerDay->SelectEntry(sin.quantityDefault);
+  if (HasListPerUnit(ws.Class())) c.comCigsPerDay->SelectEntry(sin.quantityDefault);
   if (c.comInitialCost != nullptr) c.comInitialCost->SelectEntry(sin.costDefault);
   if (c.comFinalCost != nullptr) c.comFinalCost->SelectEntry(sin.secondCostDefault);
   if (c.comSubCost != nullptr) c.comSubCost->SelectEntry(sin.secondCostDefault);

@@ -9,9 +9,9 @@ namespace {
 
 constexpr std::int16_t kCoarseStep = 12;
 
-// The list of the unit option that is on. Smoking has one for each unit, the others one for both.
+// The list of the unit option that is on.
 const DropDownList& QuantityListOf(const SinWorkspace& ws, const SideControls& c) {
-  return ws.IsSmoking() && !c.firstUnit->Value() ? *c.comCigsPerDay : *c.quantity;
+  return HasListPerUnit(ws.Class()) && !c.firstUnit->Value() ? *c.comCigsPerDay : *c.quantity;
 }
 
 // The part of SetParameters that all sins share.
@@ -78,8 +78,7 @@ void SetParameters(SinWorkspace& ws, Side side, std::int16_t period) {
   SaveSharedParameters(ws, side, period);
   SideControls& c = ws.Of(side);
   PeriodRecord& record = ws.Record(side, period);
-  // The future side of Drugging keeps the unit it had in the store; only its cost is stored.
-  const bool keepsUnit = side == Side::Future && ws.Sin().key == "Drugging";
+  const bool keepsUnit = side == Side::Future && ws.Sin().futureKeepsUnit;
   if (!keepsUnit) record.QuantityUnitFlag = c.firstUnit->Value();
   record.QuantityListIndex = QuantityPosition(ws, c);
   if (c.comInitialCost != nullptr) record.InitialCostText = c.comInitialCost->Text();
@@ -88,9 +87,8 @@ void SetParameters(SinWorkspace& ws, Side side, std::int16_t period) {
     record.CostModeFlag = c.OptCigPercentCostIncrease->Value();
   }
   if (c.comSubCost != nullptr) {
-    // Only the past side of Watering takes the currency off what it stores.
-    const bool stripped = side == Side::Past && ws.Sin().key == "Watering";
-    record.ReasonableCostText = stripped ? StripCurrency(c.comSubCost->Text()) : c.comSubCost->Text();
+    const bool plain = side == Side::Past && ws.Sin().pastStoresPlainReasonableCost;
+    record.ReasonableCostText = plain ? StripCurrency(c.comSubCost->Text()) : c.comSubCost->Text();
   }
 }
 
@@ -131,7 +129,7 @@ void GetParameters(SinWorkspace& ws, Side side, std::int16_t period) {
     const int found = FindCost(*c.comSubCost, record.ReasonableCostText);
     c.comSubCost->SetText(found == -1 ? record.ReasonableCostText : c.comSubCost->Entry(found));
   }
-  if (ws.IsSmoking()) {
+  if (HasListPerUnit(ws.Class())) {
     ShowPacksOrCigarettes(ws, side);
     c.quantity->SetText(c.quantity->EntryOrLast(record.QuantityListIndex));
     c.comCigsPerDay->SetText(c.comCigsPerDay->EntryOrLast(record.QuantityListIndex));

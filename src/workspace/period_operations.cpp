@@ -52,9 +52,9 @@ double TotalCostInCurrentPeriod(const SinWorkspace& ws, Side side, double count,
                                 std::int16_t period) {
   if (count < 1) return 0;  // the period may hold no texts yet
   PeriodTerms terms = PeriodTermsOf(ws, side, period);
-  if (side == Side::Future && ws.Sin().key == "Drinking")
+  if (side == Side::Future && ws.Sin().futureTotalTakesListPosition)
     terms.cost.quantity = ws.Record(side, period).QuantityListIndex;
-  if (side == Side::Future && ws.Sin().key == "Jailing") terms.cost.yearlyFraction = 0;
+  if (side == Side::Future && ws.Sin().futureTotalHasNoIncrease) terms.cost.yearlyFraction = 0;
   return TotalCostInCurrentPeriod(count, months, terms.rates, terms.cost);
 }
 

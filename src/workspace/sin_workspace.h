@@ -121,7 +121,6 @@ class SinWorkspace : public Form {
   const SinRow& Sin() const { return sin_; }
   int Position() const { return position_; }
   CostClass Class() const { return sin_.costClass; }
-  bool IsSmoking() const { return position_ == 0; }
   std::int16_t SideIndex(Side side) const { return SideIndexOf(position_, side); }
   PeriodRecord& Record(Side side, int period) const { return Store().At(period, SideIndex(side)); }
 

@@ -87,7 +87,7 @@ class Designer {
                                         Text({"Set ", PeriodPrefix(side), "1 Parameters"}));
     EnableRadios(c, page);
     Results(c, page);
-    if (ws_.IsSmoking()) {
+    if (sin_.startsTheProgram) {
       Make<Button>(On(page), Sided("cmdHideAdvertising"), Text({kWebAddress, " Click to Hide This AD"}));
       if (side == Side::Past)
         Make<Button>(On(page), "cmdOrvaneWebsite", Text({"Go To ", kWebAddress, " Website"}));
@@ -141,8 +141,7 @@ class Designer {
         c.quantity = Make<DropDownList>(in, Sided("comPerPeriod"));
     }
     Pair(c.firstUnit, c.secondUnit, sin_.startUnit == Unit::PerDay);
-    if (ws_.IsSmoking() || sin_.key == "Drinking")
-      c.comCigsPerDay = Make<DropDownList>(in, Sided("comCigsPerDay"));
+    if (sin_.hasCigaretteList) c.comCigsPerDay = Make<DropDownList>(in, Sided("comCigsPerDay"));
     const bool flat = sin_.costClass == CostClass::FlatRateClass;
     c.quantityLabel = Make<Label>(in, Sided(flat ? sin_.costLabelName : sin_.quantityLabelName),
                                   flat ? sin_.costLabelDesign : sin_.quantityLabelDesign);
@@ -284,14 +283,11 @@ class Designer {
     ws_.comInflationRateFutureDateTot->SetText("3%");
     ws_.cmdCumulativeFutureDateTot = Make<Button>(atDate, "cmdCumulativeFutureDateTot", "Update");
     ws_.txtCumulativeFutureDateTot = Make<TextBox>(atDate, "txtCumulativeFutureDateTot");
-    if (HasIdentification()) Make<Button>(InPanel(kTotalTab), "cmdRevealDeveloper", "")->SetVisible(false);
+    if (sin_.revealSquare) Make<Button>(InPanel(kTotalTab), "cmdRevealDeveloper", "")->SetVisible(false);
   }
 
-  // The identification sequence can be started from these two.
-  bool HasIdentification() const { return ws_.IsSmoking() || sin_.key == "Interring"; }
-
   void BottomRow() {
-    if (ws_.IsSmoking())
+    if (sin_.startsTheProgram)
       ws_.cmdEuro = Make<Button>({}, "cmdEuro", "Replace $ With Euro Symbol Throughout Program");
     ws_.cmdSwitchSins = Make<Button>({}, "cmdSwitchSins", "Switch Sins");
     Make<Button>({}, "cmdCombinedResults", "Combined Sins Results");
@@ -299,7 +295,7 @@ class Designer {
     Option* enable = Make<Option>({tips}, "optToolTipEnable", "Enable");
     Option* disable = Make<Option>({tips}, "optToolTipDisable", "Disable");
     Pair(enable, disable, true);
-    if (HasIdentification()) Make<Button>({}, "cmdRestoreProgram", "Restore Program");
+    if (sin_.revealSquare) Make<Button>({}, "cmdRestoreProgram", "Restore Program");
     ws_.cmdExit = Make<Button>({}, "cmdExit", "Exit Program");
     Make<Button>({}, "cmdHelp", "Help");
     Make<Button>({}, "cmdFaq", "FAQ and Info");

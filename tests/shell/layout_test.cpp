@@ -136,7 +136,7 @@ TEST_F(Layout, TheButtonsOfTheIdentificationHideInTheirCorners) {
   run.Enter("Interring");
   for (const char* key : {"Smoking", "Interring"}) {
     const SinWorkspace& ws = run.program.At(SinPosition(key));
-    const bool isSmoking = ws.IsSmoking();
+    const bool isSmoking = ws.Sin().startsTheProgram;
     const Place panel = ws.Get<Panel>("SSPanel_BackColor", isSmoking ? 2 : 0).GetPlace();
     const Place reveal = At(ws, "cmdRevealDeveloper");
     EXPECT_EQ(reveal.width, 60);

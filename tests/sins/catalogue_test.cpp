@@ -465,5 +465,37 @@ TEST(CatalogueReports, OnlyCoffeeingAndWateringHaveASecondHeading) {
   EXPECT_EQ(Row("Watering").month.headingTwin, " Water Drinking  Results for the Beginning to End of ");
 }
 
+// Each difference belongs to the sins named here and to no other.
+TEST(CatalogueDifferences, BelongToTheSinsThatUsersKnow) {
+  const auto having = [](auto has) {
+    std::string keys;
+    for (const SinRow& row : Catalogue())
+      if (has(row)) keys.append(keys.empty() ? "" : " ").append(row.key);
+    return keys;
+  };
+  EXPECT_EQ(having([](const SinRow& r) { return r.startsTheProgram; }), "Smoking");
+  EXPECT_EQ(having([](const SinRow& r) { return r.hasCigaretteList; }), "Smoking Drinking");
+  EXPECT_EQ(having([](const SinRow& r) { return r.revealSquare.has_value(); }), "Smoking Interring");
+  EXPECT_EQ(having([](const SinRow& r) { return r.switchesAllBalloons; }), "Smoking Drinking");
+  EXPECT_EQ(having([](const SinRow& r) { return r.futureKeepsUnit; }), "Drugging");
+  EXPECT_EQ(having([](const SinRow& r) { return r.pastStoresPlainReasonableCost; }), "Watering");
+  EXPECT_EQ(having([](const SinRow& r) { return r.futureTotalTakesListPosition; }), "Drinking");
+  EXPECT_EQ(having([](const SinRow& r) { return r.futureTotalHasNoIncrease; }), "Jailing");
+  EXPECT_EQ(having([](const SinRow& r) { return r.reportButtonsOf != r.key; }), "Watering");
+  EXPECT_EQ(having([](const SinRow& r) { return r.layoutSwitchReads != r.key; }),
+            "Jailing Slothing Tobaccoing");
+  EXPECT_EQ(having([](const SinRow& r) { return r.layoutSwitchReads.empty(); }), "Slothing Tobaccoing");
+}
+
+// A misspelt key would be passed over in silence, or end in a fault at the first report.
+TEST(CatalogueDifferences, NameSinsThatThereAre) {
+  for (const SinRow& row : Catalogue()) {
+    EXPECT_NE(SinPosition(row.reportButtonsOf), -1) << row.key;
+    if (!row.layoutSwitchReads.empty()) {
+      EXPECT_NE(SinPosition(row.layoutSwitchReads), -1) << row.key;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace vicetoll

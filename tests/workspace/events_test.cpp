@@ -11,11 +11,12 @@ INSTANTIATE_TEST_SUITE_P(, SideEvents, AllSinsAndSides(), NameOfSinAndSide);
 
 TEST_P(SideEvents, FocusOnAListOpensTheSetButtonOfItsSideOnly) {
   const SideControls& other = ws.Of(side == Side::Past ? Side::Future : Side::Past);
-  if (ws.IsSmoking()) c.comCigsPerDay->SetAvailable(true);
+  if (HasListPerUnit(sin.costClass)) c.comCigsPerDay->SetAvailable(true);
   if (c.comFinalCost != nullptr) c.comFinalCost->SetAvailable(true);
   for (DropDownList* list :
-       {c.comStart, c.comStop, c.quantity, ws.IsSmoking() ? c.comCigsPerDay : nullptr, c.comInitialCost,
-        c.comFinalCost, c.comSubCost, c.comPercentIncrease, c.comInterestRate1, c.comInflationRate1}) {
+       {c.comStart, c.comStop, c.quantity, HasListPerUnit(sin.costClass) ? c.comCigsPerDay : nullptr,
+        c.comInitialCost, c.comFinalCost, c.comSubCost, c.comPercentIncrease, c.comInterestRate1,
+        c.comInflationRate1}) {
     if (list == nullptr) continue;
     c.cmdSetPeriodParams->SetEnabled(false);
     other.cmdSetPeriodParams->SetEnabled(false);

@@ -14,7 +14,7 @@ class Loading : public EverySinAndSide {
     for (DropDownList* list : {c.quantity, c.comPercentIncrease, c.comInterestRate1, c.comInflationRate1,
                                c.comInitialCost, c.comFinalCost, c.comSubCost})
       if (list != nullptr) lists.push_back(list);
-    if (ws.IsSmoking()) lists.push_back(c.comCigsPerDay);
+    if (HasListPerUnit(sin.costClass)) lists.push_back(c.comCigsPerDay);
     return lists;
   }
 };
@@ -30,7 +30,7 @@ TEST_P(Loading, ShowsTheDefaults) {
   EXPECT_EQ(c.comPercentIncrease->Text(), expected.percent);
   EXPECT_EQ(c.comInterestRate1->Text(), "5%");
   EXPECT_EQ(c.comInflationRate1->Text(), "3%");
-  if (ws.IsSmoking()) {
+  if (HasListPerUnit(sin.costClass)) {
     EXPECT_EQ(c.comCigsPerDay->Text(), "20");
   }
 }

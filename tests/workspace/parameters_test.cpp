@@ -188,7 +188,7 @@ TEST_P(Movers, BringAPeriodBackAsItWasEntered) {
   // Drugging forgets the future unit, so there the unit it knows is taken.
   const bool keepsUnit = sin.key == "Drugging" && side == Side::Future;
   if (!keepsUnit) run.Click(*c.secondUnit);
-  run.Pick(*(ws.IsSmoking() ? c.comCigsPerDay : c.quantity), 8);
+  run.Pick(*(HasListPerUnit(sin.costClass) ? c.comCigsPerDay : c.quantity), 8);
   if (c.comFinalCost != nullptr) {
     run.Click(*c.OptCigInitialFinalCostIncrease);
     run.Pick(*c.comInitialCost, 20);
