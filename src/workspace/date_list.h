@@ -8,13 +8,10 @@
 
 namespace vicetoll {
 
-// Fills the list with `first`, every month that is a multiple of `step` months (1 to 12) behind it, and
-// `last`, also where `last` falls between two steps. Without `clear` the months go before the entries
-// that are there, and only those that are missing, `first` excepted. A selection survives if its text is
-// still an entry; otherwise the first entry is selected.
-//
-// Where `last` lies less than a step behind `first`, or before it, the list holds just the two.
-// Throws Fault for a malformed label, with the list in pieces.
+// Fills the list with the months from `first` to `last` in steps of `step` months, as MonthList has them.
+// Without `clear` they go before the entries that are there, and only those that are missing, `first`
+// excepted; where there is no step between them, both. A selection survives if its text is still an entry;
+// otherwise the first entry is selected. Throws as MonthList, with the list as it was.
 void FillDateList(bool clear, DropDownList& list, const std::string& first, const std::string& last,
                   std::int16_t step);
 
