@@ -5,7 +5,7 @@
 #include <QPainterPath>
 #include <algorithm>
 
-#include "desktop/look.h"
+#include "desktop/themes.h"
 
 namespace vicetoll {
 namespace {
@@ -70,8 +70,8 @@ void BalloonWidget::paintEvent(QPaintEvent*) {
   stem.lineTo(point_.x() + 1, root);
   stem.lineTo(point_.x() + 1 + kStemWidth, root);
   stem.closeSubpath();
-  painter.setPen(QPen(QColor(look::kInk), 1));
-  painter.setBrush(Qt::white);
+  painter.setPen(QPen(Colour(Tone::Ink), 1));
+  painter.setBrush(Colour(Tone::BalloonGround));
   painter.drawPath(path.united(stem));
   painter.drawText(body_.adjusted(kPadding, kPadding, -kPadding, -kPadding), Qt::TextWordWrap, text_);
 }

@@ -39,6 +39,7 @@ class ListView : public ViewOf<DropDownList, BlueList> {
       desktop.Enter([&] { list.UserTypes(FromQt(text)); });
     });
   }
+  void TakeTheme() override { widget_->TakeTheme(); }
 
  protected:
   void UpdateContents() override {

@@ -23,6 +23,9 @@ class ControlView {
   // The widget that takes the focus and the pointer for this control.
   virtual QWidget* Hand() const { return widget_; }
 
+  // Takes the colours of the theme in force, where the palette of the window does not bring them.
+  virtual void TakeTheme() {}
+
   // Brings the widget in step with the control.
   void Update();
 

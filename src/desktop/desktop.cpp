@@ -22,7 +22,25 @@ class FlagWhile {
 
 }  // namespace
 
-Desktop::Desktop(Program& program) : program_(program) {
+// Hears what the system says to the whole application; windows with colours of their own are not told.
+class SystemWatch : public QObject {
+ public:
+  explicit SystemWatch(std::function<void()> onPalette) : onPalette_(std::move(onPalette)) {
+    qApp->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::ApplicationPaletteChange) onPalette_();
+    return false;
+  }
+
+ private:
+  std::function<void()> onPalette_;
+};
+
+Desktop::Desktop(Program& program)
+    : program_(program), watch_(std::make_unique<SystemWatch>([this] { TakeTheme(); })) {
   program_.onWindowCreated = [this](Form& form) { Listen(form); };
   for (Form* form : program_.Windows()) Listen(*form);
   Flush();
@@ -79,6 +97,10 @@ void Desktop::Flush() {
   // focus means something there, and no user brought it.
   QWidget* const now = QApplication::focusWidget();
   if (now != focus && dynamic_cast<BlueList*>(now) != nullptr) now->clearFocus();
+}
+
+void Desktop::TakeTheme() {
+  for (const auto& window : windows_) window->TakeTheme();
 }
 
 void Desktop::UpdateForms() {

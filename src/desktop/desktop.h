@@ -17,6 +17,7 @@
 namespace vicetoll {
 
 class FormWindow;
+class SystemWatch;
 
 // What changed since it was last taken, each once, in the order of its first change.
 template <class T>
@@ -71,8 +72,10 @@ class Desktop : public FormListener {
   FormWindow* FindWindow(const Form& form) const;
   void UpdateForms();
   void UpdateControls();
+  void TakeTheme();
 
   Program& program_;
+  std::unique_ptr<SystemWatch> watch_;
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::unordered_map<const Form*, FormWindow*> windowOf_;
   Changes<Form> changedForms_;

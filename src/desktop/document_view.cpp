@@ -9,6 +9,7 @@
 
 #include "desktop/desktop.h"
 #include "desktop/text.h"
+#include "desktop/themes.h"
 #include "shell/info_window.h"
 
 namespace vicetoll {
@@ -138,6 +139,21 @@ void PageBrowser::SetText(const std::string& text, const QString& folder) {
   shown_ = text;
   setSearchPaths({folder});
   setMarkdown(ToQt(text));
+  ColourLinks();
+}
+
+void PageBrowser::ColourLinks() {
+  QTextCharFormat link;
+  link.setForeground(Colour(Tone::Link));
+  for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+    for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+      const QTextFragment fragment = piece.fragment();
+      if (!fragment.charFormat().isAnchor()) continue;
+      QTextCursor cursor(document());
+      cursor.setPosition(fragment.position());
+      cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+      cursor.mergeCharFormat(link);
+    }
 }
 
 QVariant PageBrowser::loadResource(int type, const QUrl& name) {
@@ -200,6 +216,7 @@ class PageView : public ControlView {
  public:
   PageView(DocumentText& document, QWidget* parent, const InfoWindow& window)
       : ControlView(document, new PageBrowser(parent)), document_(document), window_(window) {}
+  void TakeTheme() override { static_cast<PageBrowser*>(Widget())->ColourLinks(); }
 
  protected:
   void UpdateContents() override {

@@ -47,6 +47,8 @@ class PageBrowser : public QTextBrowser {
 
   void SetText(const std::string& text, const QString& folder);
   const std::string& Text() const { return shown_; }
+  // Gives the links the colour of the theme in force.
+  void ColourLinks();
 
  protected:
   // Pictures that are wider than the page are made to fit it.

@@ -15,6 +15,7 @@
 #include "desktop/desktop.h"
 #include "desktop/look.h"
 #include "desktop/text.h"
+#include "desktop/themes.h"
 #include "desktop/widgets.h"
 
 namespace vicetoll {
@@ -83,6 +84,7 @@ FormWindow::FormWindow(Form& form, Desktop& desktop) : form_(form), desktop_(des
   setObjectName(ToQt(form.Name()));
   if (!form.HasCloseEntry())
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowMinMaxButtonsHint);
+  setPalette(ThemePalette(CurrentTheme()));
   MakeControls();
   GiveAccessKeys();
   for (const auto& view : views_) {
@@ -159,6 +161,11 @@ void FormWindow::GiveAccessKeys(QString (&taken)[4], const Picks& picks) {
     widget->SetAccessKey(letter);
     taken[page] += letter.toUpper();
   }
+}
+
+void FormWindow::TakeTheme() {
+  setPalette(ThemePalette(CurrentTheme()));
+  for (const auto& view : views_) view->TakeTheme();
 }
 
 QWidget* FormWindow::WidgetOf(const Control& control) const {
@@ -372,7 +379,7 @@ QRect FormWindow::RoomOfHint() const {
 void FormWindow::paintEvent(QPaintEvent*) {
   if (!form_.Hint().empty() && form_.Canvas().empty()) {
     QPainter painter(this);
-    painter.setPen(QColor(90, 94, 110));
+    painter.setPen(Colour(Tone::Hint));
     DrawFitted(painter, RoomOfHint(), Qt::AlignLeft | Qt::AlignVCenter, ToQt(form_.Hint()), font());
   }
   PaintCanvas();
@@ -386,7 +393,7 @@ void FormWindow::PaintCanvas() {
   letters.setBold(true);
   letters.setStretch(kCanvasStretch);
   painter.setFont(letters);
-  painter.setPen(QColor(look::kInk));
+  painter.setPen(Colour(Tone::Ink));
   const int step = painter.fontMetrics().height();
   int baseline = painter.fontMetrics().ascent();
   for (const CanvasLine& line : form_.Canvas()) {

@@ -25,6 +25,8 @@ class FormWindow : public QWidget {
   // Bring in step: the window itself, or one control and the names that assistive tools read off it.
   void UpdateForm();
   void UpdateControl(Control& control);
+  // Takes the colours of the theme in force.
+  void TakeTheme();
 
   // The widget or menu entry of a control of this window.
   QWidget* WidgetOf(const Control& control) const;

@@ -5,13 +5,14 @@
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyleFactory>
-#include <cmath>
+#include <QStyleOption>
+
+#include "desktop/themes.h"
 
 namespace vicetoll {
 namespace {
 
 constexpr double kSmallestPoints = 6;
-constexpr double kReadableContrast = 4.5;
 
 class DesktopStyle : public QProxyStyle {
  public:
@@ -36,23 +37,9 @@ bool Fits(const QString& text, QSize room, const QFont& font) {
   return taken.width() <= room.width() && taken.height() <= room.height();
 }
 
-// Relative luminance, as contrast is reckoned from it.
-double Luminance(const QColor& colour) {
-  const auto linear = [](double part) {
-    return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
-
 }  // namespace
 
-void ApplyLook(QApplication& application) {
-  auto* style = new DesktopStyle;
-  application.setStyle(style);
-  QPalette palette = style->standardPalette();
-  palette.setColor(QPalette::Window, QColor(look::kPanelGround).darker(104));
-  application.setPalette(palette);
-}
+void ApplyLook(QApplication& application) { application.setStyle(new DesktopStyle); }
 
 QFont FittedFont(const QString& text, const QSize& room, const QFont& font) {
   QFont fitted = font;
@@ -81,16 +68,42 @@ void DrawFitted(QPainter& painter, const QRect& room, int alignment, const QStri
 void DrawFocusRing(QPainter& painter, const QRect& room) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(QColor(look::kFocus), 2));
+  painter.setPen(QPen(Colour(Tone::Focus), 2));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(QRectF(room).adjusted(1, 1, -1, -1), 3, 3);
   painter.restore();
 }
 
-QColor Readable(QColor colour) {
-  const double ground = Luminance(QColor(look::kFrameGround)) + 0.05;
-  while (ground / (Luminance(colour) + 0.05) < kReadableContrast) colour = colour.darker(105);
-  return colour;
+void DrawBox(QPainter& painter, const QRect& room, const QColor& ground, const QColor& line, double radius) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(line);
+  painter.setBrush(ground);
+  painter.drawRoundedRect(QRectF(room).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+  painter.restore();
+}
+
+void DrawIndicator(QPainter& painter, const QRect& room, bool round, const QStyleOption& state) {
+  const bool enabled = state.state & QStyle::State_Enabled;
+  QColor line = Colour(Tone::FrameLine), mark = Colour(Tone::Ink);
+  if (!enabled) line.setAlpha(kFaint), mark.setAlpha(kFaint);
+  const Tone ground = state.state & QStyle::State_Sunken ? Tone::ButtonDown : Tone::BoxGround;
+  const double side = room.width();
+  DrawBox(painter, room, Colour(ground), line, round ? side / 2 : side / 6);
+  if (!(state.state & QStyle::State_On)) return;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF inside = QRectF(room).adjusted(side / 4, side / 4, -side / 4, -side / 4);
+  if (round) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(mark);
+    painter.drawEllipse(inside);
+  } else {
+    painter.setPen(QPen(mark, side / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF({QPointF(inside.left(), inside.center().y()),
+                                    QPointF(inside.left() + side / 6, inside.bottom()), inside.topRight()}));
+  }
+  painter.restore();
 }
 
 }  // namespace vicetoll

@@ -1,4 +1,5 @@
-// How the windows look: colours, sizes, and texts that fit where they stand.
+// How the windows look: style, sizes, what widgets are drawn with, and texts that fit where they stand. The
+// colours are in themes.h.
 #pragma once
 
 #include <QColor>
@@ -8,6 +9,7 @@
 
 class QApplication;
 class QPainter;
+class QStyleOption;
 class QWidget;
 
 namespace vicetoll {
@@ -17,20 +19,11 @@ inline constexpr int kTwipsPerPixel = 15;
 constexpr int ToPixels(int twips) { return (twips + (twips < 0 ? -7 : 7)) / kTwipsPerPixel; }
 constexpr int ToTwips(int pixels) { return pixels * kTwipsPerPixel; }
 
-namespace look {
-
-inline constexpr QRgb kInk = qRgb(0, 0, 150);          // captions of frames, balloons
-inline constexpr QRgb kListGround = qRgb(0, 0, 255);   // lists are white on blue
-inline constexpr QRgb kListOff = qRgb(136, 140, 168);  // a disabled list
-inline constexpr QRgb kPanelGround = qRgb(236, 238, 244);
-inline constexpr QRgb kFrameGround = qRgb(248, 249, 252);
-inline constexpr QRgb kFrameLine = qRgb(176, 182, 200);
-inline constexpr QRgb kFocus = qRgb(230, 120, 0);  // the ring around the control that has the focus
-
-}  // namespace look
-
-// Style, palette and hints of the whole program: the same look on any desktop.
+// The style of the whole program: the same look on any desktop, in the colours of the system.
 void ApplyLook(QApplication& application);
+
+// What is disabled is drawn in its colours with this alpha.
+inline constexpr int kFaint = 110;
 
 // The font in which the text, wrapped at words, fits the room: the given one, or a smaller one where a
 // large system font would be cut off.
@@ -42,8 +35,11 @@ void DrawFitted(QPainter& painter, const QRect& room, int alignment, const QStri
 // The ring around the control that has the focus.
 void DrawFocusRing(QPainter& painter, const QRect& room);
 
-// The colour, darkened until it can be read on a light ground (contrast at least 4.5 to 1).
-QColor Readable(QColor colour);
+// A ground with a line around it, as boxes and buttons have it; `radius` of its corners in pixels.
+void DrawBox(QPainter& painter, const QRect& room, const QColor& ground, const QColor& line, double radius);
+
+// The mark of a choice: a round one for options, a square one for check boxes.
+void DrawIndicator(QPainter& painter, const QRect& room, bool round, const QStyleOption& state);
 
 // A text in which nothing marks an access key.
 QString WithoutAccessKey(const QString& text);

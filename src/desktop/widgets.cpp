@@ -6,18 +6,21 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
-#include <QStylePainter>
 #include <QWheelEvent>
 
 #include "desktop/look.h"
 #include "desktop/text.h"
+#include "desktop/themes.h"
 
 namespace vicetoll {
 namespace {
 
 constexpr int kArrowRoom = 20;      // pixels at the right end of a list
+constexpr int kBoxMargin = 3;       // pixels between a box's line and its text
 constexpr int kIndicatorRoom = 20;  // pixels in front of the caption of a choice
 constexpr int kPopupRows = 18;
+constexpr int kCorner = 3;      // the radius of corners
+constexpr int kIndicator = 14;  // pixels across the mark of a choice
 constexpr int kTabHeight = 46, kTabTop = 8, kTabLeft = 8;
 constexpr int kTabWidth = 96, kTabPadding = 9;
 
@@ -54,14 +57,18 @@ BlueList::BlueList(QWidget* parent) : QComboBox(parent), entries_(new EntryModel
   setMaxVisibleItems(kPopupRows);
   setInsertPolicy(QComboBox::NoInsert);
   setFocusPolicy(Qt::StrongFocus);
-  QPalette colours = palette();
-  colours.setColor(QPalette::Base, QColor(look::kListGround));
-  colours.setColor(QPalette::Disabled, QPalette::Base, QColor(look::kListOff));
-  colours.setColor(QPalette::Text, Qt::white);
-  colours.setColor(QPalette::Disabled, QPalette::Text, QColor(230, 230, 238));
-  // The entry under the pointer is turned about: blue on white.
-  colours.setColor(QPalette::Highlight, Qt::white);
-  colours.setColor(QPalette::HighlightedText, QColor(look::kListGround));
+  TakeTheme();
+}
+
+void BlueList::TakeTheme() {
+  QPalette colours;
+  colours.setColor(QPalette::Base, Colour(Tone::ListGround));
+  colours.setColor(QPalette::Disabled, QPalette::Base, Colour(Tone::ListOffGround));
+  colours.setColor(QPalette::Text, Colour(Tone::ListText));
+  colours.setColor(QPalette::Disabled, QPalette::Text, Colour(Tone::ListOffText));
+  // The entry under the pointer is turned about.
+  colours.setColor(QPalette::Highlight, Colour(Tone::ListText));
+  colours.setColor(QPalette::HighlightedText, Colour(Tone::ListGround));
   setPalette(colours);
 }
 
@@ -90,21 +97,16 @@ QString BlueList::ShownText() const { return isEditable() ? lineEdit()->text() :
 
 void BlueList::showPopup() {
   // The popup is made at its first use; making it earlier would cost every list of a window.
-  if (!popupColoured_) {
-    view()->setPalette(palette());
-    view()->setFont(font());
-    popupColoured_ = true;
-  }
+  view()->setPalette(palette());
+  view()->setFont(font());
   QComboBox::showPopup();
 }
 
 void BlueList::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
   const QColor ground = palette().color(QPalette::Base);
-  painter.setPen(ground.darker(150));
-  painter.setBrush(ground);
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+  DrawBox(painter, rect(), ground, isEnabled() ? Colour(Tone::ListLine) : ground, kCorner);
+  painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(palette().color(QPalette::Text));
   if (!isEditable())
     DrawFitted(painter, rect().adjusted(7, 1, -kArrowRoom, -1), Qt::AlignLeft | Qt::AlignVCenter,
@@ -112,7 +114,7 @@ void BlueList::paintEvent(QPaintEvent*) {
   PaintArrow(painter, QRect(width() - kArrowRoom, 0, kArrowRoom, height()));
   if (hasFocus()) {
     DrawFocusRing(painter, rect());
-    painter.setPen(QPen(Qt::white, 1));
+    painter.setPen(Colour(Tone::FocusGap));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 2, 2);
   }
@@ -138,15 +140,17 @@ void BlueList::wheelEvent(QWheelEvent* event) {
 
 ResultBox::ResultBox(QWidget* parent) : QLineEdit(parent) {
   setReadOnly(true);
+  setFrame(false);
+  setTextMargins(kBoxMargin, 0, kBoxMargin, 0);
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   setFocusPolicy(Qt::StrongFocus);
 }
 
 void ResultBox::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
-  if (!hasFocus()) return;
   QPainter painter(this);
-  DrawFocusRing(painter, rect());
+  DrawBox(painter, rect(), Qt::transparent, Colour(Tone::FrameLine), kCorner);
+  if (hasFocus()) DrawFocusRing(painter, rect());
 }
 
 CaptionButton::CaptionButton(QWidget* parent) : QPushButton(parent) { setAutoDefault(false); }
@@ -162,12 +166,14 @@ void CaptionButton::SetCaption(const QString& caption) {
 }
 
 void CaptionButton::paintEvent(QPaintEvent*) {
-  QStylePainter painter(this);
+  QPainter painter(this);
   QStyleOptionButton option;
   initStyleOption(&option);
-  option.text.clear();
-  option.state &= ~QStyle::State_HasFocus;
-  painter.drawControl(QStyle::CE_PushButton, option);
+  Tone ground = option.state & QStyle::State_MouseOver ? Tone::ButtonHover : Tone::ButtonGround;
+  if (option.state & QStyle::State_Sunken) ground = Tone::ButtonDown;
+  QColor line = Colour(Tone::FrameLine);
+  if (!isEnabled()) line.setAlpha(kFaint);
+  DrawBox(painter, rect(), Colour(ground), line, kCorner);
   painter.setPen(palette().color(QPalette::ButtonText));
   DrawFitted(painter, rect().adjusted(5, 2, -5, -2), Qt::AlignCenter, text(), font());
   if (hasFocus()) DrawFocusRing(painter, rect());
@@ -189,18 +195,17 @@ void CaptionChoice<Base>::SetColour(int colour) {
 
 template <class Base>
 void CaptionChoice<Base>::paintEvent(QPaintEvent*) {
-  QStylePainter painter(this);
+  QPainter painter(this);
   QStyleOptionButton option;
   this->initStyleOption(&option);
   constexpr bool isRadio = std::is_same_v<Base, QRadioButton>;
-  const int size = this->style()->pixelMetric(
-      isRadio ? QStyle::PM_ExclusiveIndicatorWidth : QStyle::PM_IndicatorWidth, &option, this);
-  option.rect = QRect(2, (this->height() - size) / 2, size, size);
-  painter.drawPrimitive(isRadio ? QStyle::PE_IndicatorRadioButton : QStyle::PE_IndicatorCheckBox, option);
+  DrawIndicator(painter, QRect(2, (this->height() - kIndicator) / 2, kIndicator, kIndicator), isRadio,
+                option);
   QColor ink = this->palette().color(QPalette::WindowText);
   if (colour_ != -1) {
-    ink = Readable(QColor(colour_ & 0xFF, colour_ >> 8 & 0xFF, colour_ >> 16 & 0xFF));
-    if (!this->isEnabled()) ink.setAlpha(110);
+    ink = Readable(QColor(colour_ & 0xFF, colour_ >> 8 & 0xFF, colour_ >> 16 & 0xFF),
+                   vicetoll::Colour(Tone::FrameGround));
+    if (!this->isEnabled()) ink.setAlpha(kFaint);
   }
   painter.setPen(ink);
   DrawFitted(painter, this->rect().adjusted(kIndicatorRoom, 0, -2, 0), Qt::AlignLeft | Qt::AlignVCenter,
@@ -227,17 +232,14 @@ void CaptionLabel::paintEvent(QPaintEvent*) {
 
 void CaptionFrame::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QColor(look::kFrameLine));
-  painter.setBrush(QColor(look::kFrameGround));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+  DrawBox(painter, rect(), Colour(Tone::FrameGround), Colour(Tone::FrameLine), kCorner);
   int contents = height();
   for (const QObject* child : children())
     if (const auto* widget = qobject_cast<const QWidget*>(child)) contents = std::min(contents, widget->y());
   QFont bold = font();
   bold.setBold(true);
-  QColor ink(look::kInk);
-  if (!isEnabled()) ink.setAlpha(110);
+  QColor ink = Colour(Tone::Ink);
+  if (!isEnabled()) ink.setAlpha(kFaint);
   painter.setPen(ink);
   DrawFitted(painter, QRect(8, 3, width() - 12, contents - 3), Qt::AlignLeft | Qt::AlignTop, title(), bold);
 }
@@ -265,11 +267,23 @@ class TallTabBar : public QTabBar {
     const int text = fontMetrics().horizontalAdvance(WithoutAccessKey(tabText(index)));
     return {std::max(text + 2 * kTabPadding, kTabWidth), kTabHeight};
   }
-  void paintEvent(QPaintEvent* event) override {
-    QTabBar::paintEvent(event);
-    if (!hasFocus()) return;
+  void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    DrawFocusRing(painter, tabRect(currentIndex()).adjusted(3, 3, -3, -2));
+    for (int tab = 0; tab < count(); ++tab) PaintTab(painter, tab);
+    if (hasFocus()) DrawFocusRing(painter, tabRect(currentIndex()).adjusted(3, 3, -3, -2));
+  }
+
+ private:
+  // A tab's lower edge is hidden by the page; the tab in front stands higher and bears a stripe.
+  void PaintTab(QPainter& painter, int tab) {
+    const bool inFront = tab == currentIndex();
+    const QRect room = tabRect(tab).adjusted(1, inFront ? 0 : 4, -1, 8);
+    DrawBox(painter, room, Colour(inFront ? Tone::PanelGround : Tone::ButtonGround), Colour(Tone::FrameLine),
+            kCorner);
+    if (inFront) painter.fillRect(room.left() + 2, room.top() + 1, room.width() - 4, 3, Colour(Tone::Ink));
+    painter.setPen(
+        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    painter.drawText(tabRect(tab), Qt::AlignCenter | Qt::TextShowMnemonic, tabText(tab));
   }
 };
 
@@ -306,10 +320,8 @@ void TabPages::resizeEvent(QResizeEvent*) {
 
 void TabPages::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QColor(look::kFrameLine));
-  painter.setBrush(QColor(look::kPanelGround));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, kTabTop + kTabHeight - 1.5, -2.5, -0.5), 3, 3);
+  DrawBox(painter, rect().adjusted(2, kTabTop + kTabHeight - 2, -2, 0), Colour(Tone::PanelGround),
+          Colour(Tone::FrameLine), kCorner);
 }
 
 }  // namespace vicetoll

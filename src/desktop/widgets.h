@@ -29,6 +29,9 @@ class BlueList : public QComboBox {
   void SetShown(const QString& text, int position);
   QString ShownText() const;
 
+  // Takes the colours of the theme in force.
+  void TakeTheme();
+
   void showPopup() override;
 
  protected:
@@ -40,7 +43,6 @@ class BlueList : public QComboBox {
 
   EntryModel* entries_;
   QString text_;
-  bool popupColoured_ = false;
 };
 
 // A box that shows a result: right-aligned, to be read, selected and copied, not to be typed into.

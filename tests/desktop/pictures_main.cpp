@@ -1,7 +1,8 @@
-// window-pictures FOLDER [POINTS]: draws every window and tab to PNG files, to be looked at. POINTS is the
-// size of the system font to try. The scale is Qt's: QT_SCALE_FACTOR=2.
+// window-pictures FOLDER [--font POINTS] [--theme light|dark|contrast]: draws every window and tab to PNG
+// files, to be looked at. POINTS is the size of the system font to try. The scale is Qt's: QT_SCALE_FACTOR=2.
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QContextMenuEvent>
 #include <QDir>
 #include <QHash>
@@ -227,6 +228,27 @@ class Pictures {
   QString folder_;
 };
 
+void SetSystemFont(int points) {
+  QFont font = QApplication::font();
+  font.setPointSize(points);
+  QApplication::setFont(font);
+}
+
+// A system's palette for which the program chooses that theme.
+void SetSystemColours(const QString& theme) {
+  QPalette palette = QApplication::palette();
+  const bool light = theme == QStringLiteral("light");
+  const QColor ground = light                             ? QColor(239, 239, 239)
+                        : theme == QStringLiteral("dark") ? QColor(50, 50, 50)
+                                                          : Qt::black;
+  const QColor text = light ? Qt::black : Qt::white;
+  for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button, QPalette::ToolTipBase})
+    palette.setColor(role, ground);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+    palette.setColor(role, text);
+  QApplication::setPalette(palette);
+}
+
 }  // namespace
 }  // namespace vicetoll
 
@@ -234,17 +256,20 @@ int main(int argc, char** argv) {
   using namespace vicetoll;
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  if (argc < 2) return 2;
+  QCommandLineParser parser;
+  const QCommandLineOption font("font", "Size of the system font.", "POINTS");
+  const QCommandLineOption theme("theme", "light, dark or contrast.", "NAME");
+  parser.addOptions({font, theme});
+  parser.process(application);
+  if (parser.positionalArguments().size() != 1) return 2;
   ApplyLook(application);
-  if (argc > 2) {
-    QFont font = QApplication::font();
-    font.setPointSize(std::atoi(argv[2]));
-    QApplication::setFont(font);
-  }
-  QDir().mkpath(QString::fromLocal8Bit(argv[1]));
+  if (parser.isSet(font)) SetSystemFont(parser.value(font).toInt());
+  if (parser.isSet(theme)) SetSystemColours(parser.value(theme));
+  const QString folder = parser.positionalArguments().first();
+  QDir().mkpath(folder);
   PicturePlatform platform([](const std::string&) {});
   Program program(platform);
   Desktop desktop(program);
-  Pictures(platform, program, desktop, QString::fromLocal8Bit(argv[1])).All();
+  Pictures(platform, program, desktop, folder).All();
   return 0;
 }
