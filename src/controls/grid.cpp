@@ -18,23 +18,27 @@ int LeadingInteger(std::string_view text) {
 // The text of the cells `first` to `last` of a row, with a tab between each two, also where the row has
 // fewer cells.
 void AppendCells(std::string& out, std::string_view row, int first, int last) {
-  int column = 0;
-  for (; column < first; ++column) {
-    const std::size_t end = row.find(kCellEnd);
-    row = end == std::string_view::npos ? std::string_view() : row.substr(end + 1);
-  }
-  for (; column <= last; ++column) {
-    const std::size_t end = std::min(row.find(kCellEnd), row.size());
-    out += row.substr(0, end);
-    if (column < last) out += kCellEnd;
-    row.remove_prefix(std::min(end + 1, row.size()));
+  for (int column = 0; column < first; ++column) TakeCell(row, kCellEnd);
+  for (int column = first; column <= last; ++column) {
+    if (column > first) out += kCellEnd;
+    out += TakeCell(row, kCellEnd);
   }
 }
 
 }  // namespace
 
+std::string_view TakeCell(std::string_view& cells, char separator) {
+  const std::size_t end = std::min(cells.find(separator), cells.size());
+  const std::string_view cell = cells.substr(0, end);
+  cells.remove_prefix(std::min(end + 1, cells.size()));
+  return cell;
+}
+
+Grid::Grid(Form& form, Identity identity, int columns)
+    : Control(form, std::move(identity)), alignments_(columns, Alignment::Left), widths_(columns, kOwnSize) {}
+
 bool Grid::HasCell(int row, int column) const {
-  return row >= 0 && row < RowCount() && column >= 0 && column < kColumns;
+  return row >= 0 && row < RowCount() && column >= 0 && column < ColumnCount();
 }
 
 std::string_view Grid::RowText(int row) const { return HasCell(row, 0) ? rows_[row] : std::string_view(); }
@@ -42,27 +46,26 @@ std::string_view Grid::RowText(int row) const { return HasCell(row, 0) ? rows_[r
 std::string_view Grid::Cell(int row, int column) const {
   if (!HasCell(row, column)) return {};
   std::string_view rest = rows_[row];
-  for (; column > 0; --column) {
-    const std::size_t end = rest.find(kCellEnd);
-    if (end == std::string_view::npos) return {};
-    rest.remove_prefix(end + 1);
-  }
-  return rest.substr(0, rest.find(kCellEnd));
+  for (; column > 0; --column) TakeCell(rest, kCellEnd);
+  return TakeCell(rest, kCellEnd);
+}
+
+void Grid::RowsChanged() {
+  ++rowsVersion_;
+  Changed();
 }
 
 void Grid::Clear() {
   rows_.clear();
   hasHeading_ = false;
   row_ = col_ = rowSel_ = colSel_ = 0;
-  Changed();
+  RowsChanged();
 }
 
 void Grid::SetHeading(std::string_view format) {
   std::string heading;
-  for (int column = 0; column < kColumns && !format.empty(); ++column) {
-    const std::size_t end = std::min(format.find('|'), format.size());
-    std::string_view cell = format.substr(0, end);
-    format.remove_prefix(std::min(end + 1, format.size()));
+  for (int column = 0; column < ColumnCount() && !format.empty(); ++column) {
+    std::string_view cell = TakeCell(format, '|');
     alignments_[column] = cell.starts_with('^') ? Alignment::Centre : Alignment::Left;
     if (cell.starts_with('^') || cell.starts_with('<')) cell.remove_prefix(1);
     if (column > 0) heading += kCellEnd;
@@ -73,7 +76,7 @@ void Grid::SetHeading(std::string_view format) {
   else
     rows_.insert(rows_.begin(), std::move(heading));
   hasHeading_ = true;
-  Changed();
+  RowsChanged();
 }
 
 void Grid::Append(std::vector<std::string> rows) {
@@ -81,7 +84,7 @@ void Grid::Append(std::vector<std::string> rows) {
     rows_ = std::move(rows);
   else
     rows_.insert(rows_.end(), std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
-  Changed();
+  RowsChanged();
 }
 
 void Grid::SortByFirstCell() {
@@ -92,7 +95,7 @@ void Grid::SortByFirstCell() {
   // Reports nearly always come in order.
   if (std::is_sorted(first, rows_.end(), before)) return;
   std::stable_sort(first, rows_.end(), before);
-  Changed();
+  RowsChanged();
 }
 
 void Grid::SetHeadingHeight(int height) {

@@ -9,20 +9,27 @@
 
 namespace vicetoll {
 
+// Takes the first cell off a text of cells: what stands before the separator, which goes as well. The whole
+// text where there is none.
+std::string_view TakeCell(std::string_view& cells, char separator);
+
 class Grid : public Control {
  public:
-  static constexpr int kColumns = 11;
   // A size that the toolkit's font decides: a row as high as its text, a column as wide as its heading.
   static constexpr int kOwnSize = -1;
 
   enum class Alignment { Left, Centre };
 
-  using Control::Control;
+  Grid(Form& form, Identity identity, int columns);
   ControlKind Kind() const override { return ControlKind::Grid; }
+
+  int ColumnCount() const { return static_cast<int>(widths_.size()); }
 
   // A grid that never had a heading has no rows at all; otherwise the heading is row 0.
   int RowCount() const { return static_cast<int>(rows_.size()); }
   bool HasHeading() const { return hasHeading_; }
+  // Another number whenever rows or heading have changed.
+  unsigned RowsVersion() const { return rowsVersion_; }
   // The text of a cell; empty where a row has fewer cells, and outside the grid. Valid until the rows
   // change.
   std::string_view Cell(int row, int column) const;
@@ -62,11 +69,13 @@ class Grid : public Control {
 
  private:
   bool HasCell(int row, int column) const;
+  void RowsChanged();
 
   std::vector<std::string> rows_;
   bool hasHeading_ = false;
-  std::vector<Alignment> alignments_ = std::vector<Alignment>(kColumns, Alignment::Left);
-  std::vector<int> widths_ = std::vector<int>(kColumns, kOwnSize);
+  unsigned rowsVersion_ = 0;
+  std::vector<Alignment> alignments_;
+  std::vector<int> widths_;
   int headingHeight_ = kOwnSize;
   int row_ = 0, col_ = 0, rowSel_ = 0, colSel_ = 0;
 };

@@ -18,7 +18,7 @@ constexpr int kEmptyColumn = 40;  // pixels of a column without heading
 }  // namespace
 
 GridWidget::GridWidget(QWidget* parent, Grid& grid)
-    : QTableView(parent), grid_(grid), model_(new GridModel(this)) {
+    : QTableView(parent), grid_(grid), model_(new GridModel(grid, this)) {
   setModel(model_);
   setSelectionMode(QAbstractItemView::ContiguousSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -36,8 +36,8 @@ GridWidget::GridWidget(QWidget* parent, Grid& grid)
 }
 
 void GridWidget::Show() {
-  if (model_->Take(grid_))
-    for (int c = 0; c < Grid::kColumns; ++c) horizontalHeader()->resizeSection(c, ColumnPixels(c));
+  if (model_->Follow())
+    for (int c = 0; c < grid_.ColumnCount(); ++c) horizontalHeader()->resizeSection(c, ColumnPixels(c));
   horizontalHeader()->setFixedHeight(HeadingPixels());
   horizontalHeader()->setVisible(grid_.HasHeading());
   ShowSelection();
@@ -56,7 +56,7 @@ int GridWidget::ColumnPixels(int column) const {
 
 int GridWidget::HeadingPixels() const {
   int needed = fontMetrics().height() + 6;
-  for (int c = 0; c < Grid::kColumns; ++c) {
+  for (int c = 0; c < grid_.ColumnCount(); ++c) {
     const QString heading = model_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
     const QRect room(0, 0, horizontalHeader()->sectionSize(c) - 2 * kCellPadding, 1 << 12);
     needed = std::max(needed, fontMetrics().boundingRect(room, Qt::TextWordWrap, heading).height() + 8);

@@ -3,30 +3,18 @@
 #include <initializer_list>
 
 #include "calendar/money.h"
-#include "calendar/number_text.h"
-#include "reports/cell_line.h"
+#include "reports/report_columns.h"
 
 namespace vicetoll {
 namespace {
 
 using std::string_view;
 
-constexpr string_view kQuantityFormat = "#,##0.00";
-constexpr string_view kCentsFormat = "$#,##0.00";
-constexpr string_view kWholeFormat = "$#,##0";
 constexpr string_view kExcessFormat = "$##.00";
-constexpr string_view kNotApplicable = "N/A";
 constexpr string_view kLineEnd = "\r\n";
 constexpr string_view kRuleLine =
     "____________________________________________"
     "____________________________________________\r\n";
-
-// Widths that figures are padded to.
-constexpr std::size_t kQuantityWidth = 12;
-constexpr std::size_t kUnitCostWidth = 16;
-constexpr std::size_t kMonthCostWidth = 14;
-constexpr std::size_t kFreeMonthCostWidth = 16;  // of a month without cost; wider than the others' for good
-constexpr std::size_t kAmountWidth = 14;
 
 // What a month takes in the text, about.
 constexpr std::size_t kBlockSize = 640;
@@ -37,91 +25,19 @@ void AppendLine(std::string& text, std::initializer_list<string_view> parts) {
   text += kLineEnd;
 }
 
-std::string Padded(std::string text, std::size_t width) {
-  if (text.size() < width) text.append(width - text.size(), ' ');
-  return text;
-}
-
-// The figures of a month as the document view shows them: padded, with the letter "e" for the euro.
-class Figures {
+class BlockWriter : public MonthSink {
  public:
-  explicit Figures(const SinWorkspace& ws)
-      : net_(ws.Class() == CostClass::NetUnitsClass), currency_(ws.GetSession().currency) {}
-
-  void Take(const ReportMonth& month, bool active) {
-    if (active)
-      TakeCosts(month);
-    else
-      TakeNoCosts();
-    monthWithInterest = Money(month.monthWithInterest, kCentsFormat, kAmountWidth);
-    cumulativeCost = Money(month.cumulativeCost, kWholeFormat, kAmountWidth);
-    cumulativeCostWithInterest = Money(month.cumulativeCostWithInterest, kWholeFormat, kAmountWidth);
-  }
-
-  std::string quantity, unitCost, reasonableCost, adjustedCost, monthCost;
-  std::string monthWithInterest, cumulativeCost, cumulativeCostWithInterest;
-
- private:
-  std::string Money(double value, string_view format, std::size_t width) const {
-    return Padded(FormatMoneyLetter(currency_, value, format), width);
-  }
-
-  void TakeCosts(const ReportMonth& month) {
-    quantity = Padded(FormatNumber(month.quantity, kQuantityFormat), kQuantityWidth);
-    unitCost = Money(month.unitCost, kCentsFormat, kUnitCostWidth);
-    if (net_) {
-      reasonableCost = Money(month.reasonableCost, kCentsFormat, kUnitCostWidth);
-      adjustedCost = Money(month.adjustedCost, kCentsFormat, kUnitCostWidth);
-    }
-    monthCost = Money(month.monthCost, kCentsFormat, kMonthCostWidth);
-  }
-
-  void TakeNoCosts() {
-    quantity = Padded(FormatNumber(0, kQuantityFormat), kQuantityWidth);
-    unitCost = Padded(std::string(kNotApplicable), kUnitCostWidth);
-    reasonableCost = adjustedCost = kNotApplicable;  // these two are not padded
-    monthCost = Money(0, kCentsFormat, kFreeMonthCostWidth);
-  }
-
-  bool net_;
-  Currency currency_;
-};
-
-class DocWriter : public MonthSink {
- public:
-  DocWriter(const SinWorkspace& ws, std::string& text) : sin_(ws.Sin()), text_(text), figures_(ws) {}
+  BlockWriter(const SinWorkspace& ws, std::string& text)
+      : sin_(ws.Sin()), text_(text), cells_(ReportLayout::Document, ws.GetSession().currency) {}
 
   void Begin(const ReportStretch& stretch) override {
     stretch_ = stretch;
-    period_ = std::to_string(stretch.period);
-    text_.reserve(text_.size() + MonthSize() * static_cast<std::size_t>(stretch.months));
+    text_.reserve(text_.size() + kBlockSize * static_cast<std::size_t>(stretch.months));
   }
 
   void Add(const ReportMonth& month) override {
-    figures_.Take(month, stretch_.kind == MonthKind::Active);
-    Write(month);
-  }
-
- protected:
-  virtual std::size_t MonthSize() const = 0;
-  virtual void Write(const ReportMonth& month) = 0;
-
-  const SinRow& sin_;
-  std::string& text_;
-  Figures figures_;
-  ReportStretch stretch_{};
-  std::string period_;
-};
-
-class BlockWriter : public DocWriter {
- public:
-  using DocWriter::DocWriter;
-
- private:
-  std::size_t MonthSize() const override { return kBlockSize; }
-
-  void Write(const ReportMonth& month) override {
     const DocumentMonthWords& words = sin_.month;
+    const auto cell = [&](ColumnKey key) -> string_view { return cells_.Text(key, month); };
     text_ += " Month Number ";
     AppendNumber(text_, month.index);
     text_ += ":";
@@ -129,20 +45,24 @@ class BlockWriter : public DocWriter {
     text_ += month.label;
     if (stretch_.kind != MonthKind::Gap) {
       text_ += " of Period ";
-      text_ += period_;
+      AppendNumber(text_, month.period);
     }
     text_ += kLineEnd;
-    AppendLine(text_, {" Period ", period_, ": ", stretch_.from, " to ", stretch_.to});
-    WriteUnitCosts(words);
-    AppendLine(text_, {words.outOfPocket, figures_.monthCost});
+    text_ += " Period ";
+    AppendNumber(text_, month.period);
+    AppendLine(text_, {": ", stretch_.from, " to ", stretch_.to});
+    WriteUnitCosts(month);
+    AppendLine(text_, {words.outOfPocket, cell(ColumnKey::MonthCost)});
     AppendLine(text_, {" Monthly Cost of ", words.plural,
-                       " Including Interest for Month: ", figures_.monthWithInterest});
-    AppendLine(text_, {" Cumulative Cost of ", words.plural, " Thru Month: ", figures_.cumulativeCost});
+                       " Including Interest for Month: ", cell(ColumnKey::MonthWithInterest)});
+    AppendLine(text_,
+               {" Cumulative Cost of ", words.plural, " Thru Month: ", cell(ColumnKey::CumulativeCost)});
     AppendLine(text_, {" Cumulative Cost of ", words.plural,
-                       " Thru Month with Interest: ", figures_.cumulativeCostWithInterest});
+                       " Thru Month with Interest: ", cell(ColumnKey::CumulativeCostWithInterest)});
     text_ += kRuleLine;
   }
 
+ private:
   bool FutureActive() const { return stretch_.kind == MonthKind::Active && stretch_.side == Side::Future; }
 
   // The months of past periods and those between future ones have the other form of the heading.
@@ -151,45 +71,50 @@ class BlockWriter : public DocWriter {
     return twin ? sin_.month.headingTwin : sin_.month.heading;
   }
 
-  void WriteUnitCosts(const DocumentMonthWords& words) {
+  // The flat-rate class has a line for the unit cost, though its rows have no cell.
+  void WriteUnitCosts(const ReportMonth& month) {
+    const DocumentMonthWords& words = sin_.month;
+    const auto line = [&](string_view before, ColumnKey key) {
+      AppendLine(text_, {before, cells_.Text(key, month)});
+    };
     const bool net = sin_.costClass == CostClass::NetUnitsClass;
     // In the months of future periods coffee and water have no quantity, but the gross cost a second time.
     const bool grossAgain = net && FutureActive();
-    if (!grossAgain) AppendLine(text_, {words.quantity, figures_.quantity});
-    AppendLine(text_, {words.unitCost, figures_.unitCost});
+    if (!grossAgain) line(words.quantity, ColumnKey::Quantity);
+    line(words.unitCost, ColumnKey::UnitCost);
     if (net) {
-      AppendLine(text_, {words.reasonableCost, figures_.reasonableCost});
-      AppendLine(text_, {words.adjustedCost, figures_.adjustedCost});
+      line(words.reasonableCost, ColumnKey::ReasonableCost);
+      line(words.adjustedCost, ColumnKey::AdjustedCost);
     }
-    if (grossAgain) AppendLine(text_, {words.plainUnitCost, figures_.unitCost});
+    if (grossAgain) line(words.plainUnitCost, ColumnKey::UnitCost);
   }
+
+  const SinRow& sin_;
+  std::string& text_;
+  ReportCells cells_;
+  ReportStretch stretch_{};
 };
 
-class TableWriter : public DocWriter {
+class TableWriter : public MonthSink {
  public:
-  using DocWriter::DocWriter;
+  TableWriter(const SinWorkspace& ws, std::string& text)
+      : text_(text),
+        columns_(ColumnsOf(ws.Class())),
+        cells_(ReportLayout::Document, ws.GetSession().currency) {}
 
- private:
-  std::size_t MonthSize() const override { return kTableLineSize; }
+  void Begin(const ReportStretch& stretch) override {
+    text_.reserve(text_.size() + kTableLineSize * static_cast<std::size_t>(stretch.months));
+  }
 
-  void Write(const ReportMonth& month) override {
-    CellLine line(text_);
-    line.Cell(month.index);
-    line.Cell(stretch_.kind == MonthKind::Gap ? kNotApplicable : string_view(period_));
-    line.Cell(month.label);
-    line.Cell(figures_.quantity);
-    // The flat-rate class has no cell for the unit cost, though its blocks have a line.
-    if (sin_.costClass != CostClass::FlatRateClass) line.Cell(figures_.unitCost);
-    if (sin_.costClass == CostClass::NetUnitsClass) {
-      line.Cell(figures_.reasonableCost);
-      line.Cell(figures_.adjustedCost);
-    }
-    line.Cell(figures_.monthCost);
-    line.Cell(figures_.monthWithInterest);
-    line.Cell(figures_.cumulativeCost);
-    line.LastCell(figures_.cumulativeCostWithInterest);
+  void Add(const ReportMonth& month) override {
+    cells_.AppendLine(text_, columns_, month);
     text_ += kLineEnd;
   }
+
+ private:
+  std::string& text_;
+  std::vector<const ReportColumn*> columns_;
+  ReportCells cells_;
 };
 
 // The lines of what a period costs, as its class has them.

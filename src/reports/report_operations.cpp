@@ -78,7 +78,7 @@ void FinishSpdGrid(Grid& grid, std::string_view sinKey) {
   grid.SetHeading(GridHeaderText(sinKey));
   grid.SortByFirstCell();
   grid.SetHeadingHeight(kHeadingHeight);
-  for (int column = kFirstFixedColumn; column < Grid::kColumns; ++column)
+  for (int column = kFirstFixedColumn; column < grid.ColumnCount(); ++column)
     grid.SetColumnWidth(column, kColumnWidth);
   grid.Select(1, 0, 1, 0);
 }

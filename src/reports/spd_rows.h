@@ -1,17 +1,15 @@
 // The months of a report as rows of the grid.
 #pragma once
 
-#include <limits>
 #include <string>
 #include <vector>
 
-#include "reports/report_months.h"
+#include "reports/report_columns.h"
 #include "workspace/sin_workspace.h"
 
 namespace vicetoll {
 
-// Collects the rows, each its cells joined by tabs: index, period, month, quantity a day, then the costs
-// of the sin's class, what the month added, and the two totals.
+// Collects the rows, each its cells joined by tabs, with the columns of the sin's class.
 class SpdRowWriter : public MonthSink {
  public:
   explicit SpdRowWriter(const SinWorkspace& ws);
@@ -23,16 +21,8 @@ class SpdRowWriter : public MonthSink {
   std::vector<std::string> Take() { return std::move(rows_); }
 
  private:
-  std::string Money(double value, std::string_view format) const;
-  const std::string& Quantity(double value);
-
-  CostClass costClass_;
-  Currency currency_;
-  bool active_ = false;
-  std::string period_;
-  std::string freeMonth_;  // the month cost of a month without one
-  double quantity_ = std::numeric_limits<double>::quiet_NaN();
-  std::string quantityText_;  // of quantity_, which stays the same through a period
+  std::vector<const ReportColumn*> columns_;
+  ReportCells cells_;
   std::string line_;
   std::vector<std::string> rows_;
 };

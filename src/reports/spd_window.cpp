@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "reports/report_columns.h"
 #include "reports/report_file.h"
 #include "reports/result_buttons.h"
 
@@ -28,7 +29,7 @@ SpdWindow::SpdWindow(Workspaces& workspaces)
 }
 
 void SpdWindow::Design() {
-  fgdAdvResultsSpd_ = &Add<Grid>({"fgdAdvResultsSpd"});
+  fgdAdvResultsSpd_ = &Add<Grid>({"fgdAdvResultsSpd"}, kReportColumnCount);
   const auto connect = [this](Button& button, void (SpdWindow::*action)()) {
     button.onClick = [this, action] { (this->*action)(); };
     return &button;
@@ -69,11 +70,11 @@ void SpdWindow::SaveAs() {
   // A line is one quoted text of all eleven columns, each followed by a tab. The heading is left out.
   std::string bytes;
   for (int row = 1; row < Rows().RowCount(); ++row) {
-    const std::string_view cells = Rows().RowText(row);
-    const auto tabs = std::count(cells.begin(), cells.end(), '\t');
     bytes += '"';
-    bytes += cells;
-    bytes.append(Grid::kColumns - tabs, '\t');
+    for (int column = 0; column < Rows().ColumnCount(); ++column) {
+      bytes += Rows().Cell(row, column);
+      bytes += '\t';
+    }
     bytes += "\"\r\n";
   }
   SaveReport(workspaces_.GetSession().platform, filePath_, bytes);
@@ -81,7 +82,7 @@ void SpdWindow::SaveAs() {
 
 void SpdWindow::SelectAll() {
   // From the row that is current, which a report leaves at the first one below the heading.
-  Rows().Select(Rows().Row(), 0, std::max(Rows().RowCount() - 1, 0), Grid::kColumns - 1);
+  Rows().Select(Rows().Row(), 0, std::max(Rows().RowCount() - 1, 0), Rows().ColumnCount() - 1);
 }
 
 void SpdWindow::Copy() { workspaces_.GetSession().platform.SetClipboard(Rows().Clip()); }

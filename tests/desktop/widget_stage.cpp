@@ -187,7 +187,7 @@ UserOutcome WidgetStage::SelectCells(Grid& grid, const CellSpan& cells) {
   if (!Reaches(grid)) return UserOutcome::Refused;
   auto& table = Widget<GridWidget>(grid);
   const auto inside = [&](int row, int column) {
-    return row >= 0 && row < grid.RowCount() && column >= 0 && column < Grid::kColumns;
+    return row >= 0 && row < grid.RowCount() && column >= 0 && column < grid.ColumnCount();
   };
   if (!inside(cells.row, cells.col) || !inside(cells.rowSel, cells.colSel)) return UserOutcome::NoEntry;
   if (cells.row == 0 || cells.rowSel == 0) {  // the header takes no selection
@@ -252,12 +252,12 @@ std::vector<std::vector<std::string>> WidgetStage::Rows(Grid& grid) {
   std::vector<std::vector<std::string>> rows;
   if (grid.HasHeading()) {
     rows.emplace_back();
-    for (int c = 0; c < Grid::kColumns; ++c)
+    for (int c = 0; c < grid.ColumnCount(); ++c)
       rows.back().push_back(FromQt(cells.headerData(c, Qt::Horizontal, Qt::DisplayRole).toString()));
   }
   for (int r = 0; r < cells.rowCount({}); ++r) {
     rows.emplace_back();
-    for (int c = 0; c < Grid::kColumns; ++c) rows.back().push_back(cells.Cell(r, c));
+    for (int c = 0; c < grid.ColumnCount(); ++c) rows.back().emplace_back(cells.Cell(r, c));
   }
   return rows;
 }

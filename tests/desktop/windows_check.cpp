@@ -562,7 +562,7 @@ TEST_F(Windows, TheGridShowsTheSelectionOfItsControl) {
   desktop.Enter([&] { grid.Select(1, 0, 1, 0); });
   desktop.Enter([&] { program.Spd().Get<MenuEntry>("cmdSelectAll").UserClicks(); });
   EXPECT_EQ(ShownSelection(table).height(), grid.RowCount() - 1);
-  EXPECT_EQ(ShownSelection(table).width(), Grid::kColumns);
+  EXPECT_EQ(ShownSelection(table).width(), grid.ColumnCount());
 }
 
 TEST_F(Windows, DraggingOverTheGridSelectsWhatIsShown) {

@@ -18,7 +18,7 @@ class CountingListener : public FormListener {
 class GridTest : public ::testing::Test {
  protected:
   Form form{"frmTest", ""};
-  Grid& grid = form.Add<Grid>({"fgd"});
+  Grid& grid = form.Add<Grid>({"fgd"}, 11);
 
   void Fill() {
     grid.SetHeading("<A|^ B|C");
@@ -58,7 +58,49 @@ TEST_F(GridTest, CellsBeyondARowAreEmpty) {
   EXPECT_EQ(grid.Cell(3, 3), "f");
   EXPECT_EQ(grid.Cell(4, 0), "");
   EXPECT_EQ(grid.Cell(-1, 0), "");
-  EXPECT_EQ(grid.Cell(1, Grid::kColumns), "");
+  EXPECT_EQ(grid.Cell(1, grid.ColumnCount()), "");
+}
+
+TEST_F(GridTest, HasTheColumnsItWasMadeWith) {
+  Grid& two = form.Add<Grid>({"fgdTwo"}, 2);
+  two.SetHeading("A|B|C");
+  two.Append({"1\tx\ty"});
+  EXPECT_EQ(two.ColumnCount(), 2);
+  EXPECT_EQ(two.RowText(0), "A\tB");
+  EXPECT_EQ(two.Cell(1, 1), "x");
+  EXPECT_EQ(two.Cell(1, 2), "");
+  EXPECT_EQ(two.ColumnWidth(1), Grid::kOwnSize);
+  EXPECT_THROW(two.ColumnWidth(2), std::out_of_range);
+}
+
+TEST_F(GridTest, VersionTellsChangesOfRowsAndNothingElse) {
+  Fill();
+  const unsigned filled = grid.RowsVersion();
+  grid.Select(1, 0, 2, 2);
+  grid.SetColumnWidth(1, 1000);
+  grid.SetHeadingHeight(900);
+  grid.SortByFirstCell();  // in order already
+  EXPECT_EQ(grid.RowsVersion(), filled);
+  grid.Append({"3 \tg"});
+  const unsigned appended = grid.RowsVersion();
+  EXPECT_NE(appended, filled);
+  grid.SortByFirstCell();
+  const unsigned sorted = grid.RowsVersion();
+  EXPECT_NE(sorted, appended);
+  grid.SetHeading("Z");
+  const unsigned headed = grid.RowsVersion();
+  EXPECT_NE(headed, sorted);
+  grid.Clear();
+  EXPECT_NE(grid.RowsVersion(), headed);
+}
+
+TEST(TakeCell, TakesUpToTheSeparator) {
+  std::string_view cells = "a||b";
+  EXPECT_EQ(TakeCell(cells, '|'), "a");
+  EXPECT_EQ(TakeCell(cells, '|'), "");
+  EXPECT_EQ(TakeCell(cells, '|'), "b");
+  EXPECT_EQ(cells, "");
+  EXPECT_EQ(TakeCell(cells, '|'), "");
 }
 
 TEST_F(GridTest, SortIsByNumberAndKeepsEquals) {

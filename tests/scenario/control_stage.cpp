@@ -71,7 +71,7 @@ std::vector<std::string> ControlStage::Entries(DropDownList& list) { return list
 std::vector<std::vector<std::string>> ControlStage::Rows(Grid& grid) {
   std::vector<std::vector<std::string>> rows(grid.RowCount());
   for (int r = 0; r < grid.RowCount(); ++r)
-    for (int c = 0; c < Grid::kColumns; ++c) rows[r].emplace_back(grid.Cell(r, c));
+    for (int c = 0; c < grid.ColumnCount(); ++c) rows[r].emplace_back(grid.Cell(r, c));
   return rows;
 }
 

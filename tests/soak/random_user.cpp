@@ -113,8 +113,8 @@ std::vector<UserAction> RandomUser::ActionsOn(Control& control) {
   if (auto* grid = dynamic_cast<Grid*>(&control)) {
     if (grid->RowCount() == 0) return {};
     UserAction select = On(control, ActionKind::SelectCells);
-    select.numbers = {Below(grid->RowCount()), Below(Grid::kColumns), Below(grid->RowCount()),
-                      Below(Grid::kColumns)};
+    select.numbers = {Below(grid->RowCount()), Below(grid->ColumnCount()), Below(grid->RowCount()),
+                      Below(grid->ColumnCount())};
     return {select};
   }
   if (auto* document = dynamic_cast<DocumentText*>(&control)) {
