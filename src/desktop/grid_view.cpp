@@ -2,6 +2,7 @@
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include "desktop/desktop.h"
@@ -63,6 +64,11 @@ int GridWidget::HeadingPixels() const {
   }
   if (grid_.HeadingHeight() == Grid::kOwnSize) return needed;
   return std::max(needed, ToPixels(grid_.HeadingHeight()));
+}
+
+void GridWidget::mousePressEvent(QMouseEvent* event) {
+  // It opens the menu, whose entries mean the cells that are selected.
+  if (event->button() != Qt::RightButton) QTableView::mousePressEvent(event);
 }
 
 void GridWidget::ShowSelection() {

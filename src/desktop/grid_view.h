@@ -32,6 +32,10 @@ class GridWidget : public QTableView {
   int ColumnPixels(int column) const;
   int HeadingPixels() const;
 
+ protected:
+  // The right button moves neither the current cell nor the selection.
+  void mousePressEvent(QMouseEvent* event) override;
+
  private:
   void ShowSelection();
 

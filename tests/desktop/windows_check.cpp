@@ -588,6 +588,45 @@ TEST_F(Windows, DraggingOverTheGridSelectsWhatIsShown) {
   }
 }
 
+// The menu's entries mean what is selected: a right click on the way to it moves nothing, wherever it falls
+// and however the hand shakes.
+TEST_F(Windows, ARightClickInTheGridMovesNothing) {
+  Grid& grid = program.Spd().Rows();
+  auto& table = Report<GridWidget>(&SideControls::cmdAdvResultsSpd, grid);
+  const auto centre = [&](int row, int column) {
+    return table.visualRect(table.model()->index(row - 1, column)).center();
+  };
+  desktop.Enter([&] { grid.UserSelects(2, 1, 4, 2); });
+  const QModelIndex current = table.currentIndex();
+  const auto expectUnmoved = [&](const char* after) {
+    QApplication::processEvents();
+    EXPECT_EQ(std::tuple(grid.Row(), grid.Col(), grid.RowSel(), grid.ColSel()), std::tuple(2, 1, 4, 2))
+        << after;
+    EXPECT_EQ(ShownSelection(table).top(), 1) << after;
+    EXPECT_EQ(ShownSelection(table).height(), 3) << after;
+    EXPECT_EQ(table.currentIndex(), current) << after;
+  };
+  QTest::mouseClick(table.viewport(), Qt::RightButton, Qt::NoModifier, centre(8, 3));
+  expectUnmoved("a click");
+  QTest::mouseClick(table.viewport(), Qt::RightButton, Qt::ShiftModifier, centre(8, 3));
+  expectUnmoved("a click with shift");
+  QTest::mouseDClick(table.viewport(), Qt::RightButton, Qt::NoModifier, centre(7, 3));
+  expectUnmoved("a double click");
+  QTest::mousePress(table.viewport(), Qt::RightButton, Qt::NoModifier, centre(6, 1));
+  QMouseEvent move(QEvent::MouseMove, centre(9, 4), table.viewport()->mapToGlobal(centre(9, 4)), Qt::NoButton,
+                   Qt::RightButton, Qt::NoModifier);
+  QApplication::sendEvent(table.viewport(), &move);
+  QTest::mouseRelease(table.viewport(), Qt::RightButton, Qt::NoModifier, centre(9, 4));
+  expectUnmoved("a drag");
+
+  // As a report leaves it, Select All takes the whole table, whatever was under the pointer.
+  desktop.Enter([&] { grid.Select(1, 0, 1, 0); });
+  QTest::mouseClick(table.viewport(), Qt::RightButton, Qt::NoModifier, centre(8, 3));
+  QApplication::processEvents();
+  desktop.Enter([&] { program.Spd().Get<MenuEntry>("cmdSelectAll").UserClicks(); });
+  EXPECT_EQ(ShownSelection(table).height(), grid.RowCount() - 1);
+}
+
 // Buttons that are in front together have different letters, and all have one.
 TEST_F(Windows, EveryButtonHasALetterOfItsOwn) {
   for (const int tab : {kPastTab, kFutureTab, kTotalTab}) {
