@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "calendar/number_text.h"
-#include "reports/cell_line.h"
+#include "reports/report_columns.h"
 
 namespace vicetoll {
 
