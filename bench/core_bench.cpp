@@ -9,7 +9,7 @@
 #include "calendar/date_label.h"
 #include "calendar/number_text.h"
 #include "engine/side_chain.h"
-#include "fake_platform.h"
+#include "scenario/scripted_platform.h"
 #include "shell/program.h"
 #include "vocabulary/month_functions.h"
 #include "workspace/date_rules.h"
@@ -91,7 +91,7 @@ void SideOfFourPeriods(State& state) {
 // ---- A workspace ----
 
 void CreateAndLoad(State& state, const char* key) {
-  FakePlatform platform;
+  ScriptedPlatform platform;
   Session session(platform);
   for (auto _ : state) {
     SinWorkspace workspace(session, SinPosition(key));
@@ -124,7 +124,7 @@ struct FullWorkspace {
     }
   }
 
-  FakePlatform platform;
+  ScriptedPlatform platform;
   Program program;
   SinWorkspace& ws;
 };
@@ -149,7 +149,7 @@ void ChangeRadio(State& state) {
 }
 
 void FocusDates(State& state, bool fine) {
-  FakePlatform platform;
+  ScriptedPlatform platform;
   Program program(platform);
   SinWorkspace& ws = program.At(0);
   SideControls& c = ws.Of(Side::Past);

@@ -10,7 +10,7 @@
 #include <tuple>
 #include <vector>
 
-#include "fake_platform.h"
+#include "scenario/scripted_platform.h"
 #include "shell/program.h"
 
 namespace vicetoll {
@@ -59,7 +59,7 @@ class RunningProgram {
  public:
   explicit RunningProgram(MonthAndYear now = {6, 2026}) : platform(At(now)), program(platform) {}
 
-  FakePlatform platform;
+  ScriptedPlatform platform;
   Program program;
 
   SinWorkspace& Smoking() { return program.At(0); }
@@ -133,8 +133,8 @@ class RunningProgram {
   }
 
  private:
-  static FakePlatform At(MonthAndYear now) {
-    FakePlatform platform;
+  static ScriptedPlatform At(MonthAndYear now) {
+    ScriptedPlatform platform;
     platform.now = now;
     return platform;
   }

@@ -326,7 +326,7 @@ TEST_F(ReportWindowsTest, LayoutSwitchOfJailTimeBeforeAnyReportOfSloth) {
 TEST_F(ReportWindowsTest, SavedRowsAreQuotedLinesOfElevenColumns) {
   SinWorkspace& ws = BothSides("Gambling");
   Press(ws.Of(Side::Future).cmdAdvResultsSpd);
-  world.platform.fileAnswers = {"rows.txt"};
+  world.platform.answers.files = {"rows.txt"};
   EXPECT_EQ(Click(Spd(), "cmdSaveAs"), UserOutcome::Done);
   const std::string row1(Rows().RowText(1)), row2(Rows().RowText(2));
   EXPECT_EQ(row1.substr(0, 6), "1 \t1 \t");
@@ -337,7 +337,7 @@ TEST_F(ReportWindowsTest, SavedRowsAreQuotedLinesOfElevenColumns) {
 TEST_F(ReportWindowsTest, SavedRowsOfElevenCellsHaveNoEmptyOnes) {
   SinWorkspace& ws = BothSides("Coffeeing");
   Press(ws.Of(Side::Past).cmdAdvResultsSpd);
-  world.platform.fileAnswers = {"rows.txt"};
+  world.platform.answers.files = {"rows.txt"};
   Click(Spd(), "cmdSaveAs");
   const std::string& bytes = world.platform.files["rows.txt"];
   const std::string line = bytes.substr(0, bytes.find("\r\n"));
@@ -348,7 +348,7 @@ TEST_F(ReportWindowsTest, SavedRowsOfElevenCellsHaveNoEmptyOnes) {
 TEST_F(ReportWindowsTest, EmptyGridSavesAsAnEmptyFile) {
   SinWorkspace& ws = world.At("Smoking");
   Press(ws.Of(Side::Future).cmdAdvResultsSpd);
-  world.platform.fileAnswers = {"rows.txt"};
+  world.platform.answers.files = {"rows.txt"};
   Click(Spd(), "cmdSaveAs");
   ASSERT_EQ(world.platform.files.count("rows.txt"), 1u);
   EXPECT_EQ(world.platform.files["rows.txt"], "");
@@ -357,7 +357,7 @@ TEST_F(ReportWindowsTest, EmptyGridSavesAsAnEmptyFile) {
 TEST_F(ReportWindowsTest, CancelledSaveOverwritesTheFileChosenBefore) {
   SinWorkspace& ws = BothSides();
   Press(ws.Of(Side::Past).cmdAdvResultsSpd);
-  world.platform.fileAnswers = {"rows.txt", std::nullopt};
+  world.platform.answers.files = {"rows.txt", std::nullopt};
   Click(Spd(), "cmdSaveAs");
   world.platform.files["rows.txt"] = "changed meanwhile";
   Click(Spd(), "cmdSaveAs");
@@ -370,7 +370,7 @@ TEST_F(ReportWindowsTest, SaveWithoutANameIsAFileFault) {
   Press(ws.Of(Side::Past).cmdAdvResultsSpd);
   Press(ws.Of(Side::Past).cmdAdvResultsDoc);
   // The windows have a dialog each: the name chosen in the one is not that of the other.
-  world.platform.fileAnswers = {"rows.txt"};
+  world.platform.answers.files = {"rows.txt"};
   Click(Spd(), "cmdSaveAs");
   try {
     Click(Doc(), "cmdSaveAs");
@@ -436,7 +436,7 @@ TEST_F(ReportWindowsTest, HeadingAloneCopiesAndPrintsNothing) {
 TEST_F(ReportWindowsTest, SavedTextIsOneQuotedField) {
   Doc().Show();
   Text().SetText("a \"b\"\r\nc");
-  world.platform.fileAnswers = {"text.txt", "part.txt", "part.txt"};
+  world.platform.answers.files = {"text.txt", "part.txt", "part.txt"};
   Click(Doc(), "cmdSaveAs");
   EXPECT_EQ(world.platform.files["text.txt"], "\"a \"b\"\r\nc\"\r\n");
   EXPECT_EQ(Text().SelLength(), 8);  // everything is selected now

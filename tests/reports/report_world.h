@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "calendar/money.h"
-#include "fake_platform.h"
 #include "reports/report_operations.h"
 #include "reports/report_windows.h"
+#include "scenario/scripted_platform.h"
 #include "vocabulary/text_functions.h"
 #include "workspace/loading.h"
 
@@ -19,7 +19,7 @@ namespace vicetoll {
 
 class ReportWorld : public Workspaces, public ReportWindows {
  public:
-  FakePlatform platform;
+  ScriptedPlatform platform;
   Session session{platform};
 
   // A workspace is loaded on both sides at its creation, its result buttons connected.

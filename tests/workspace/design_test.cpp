@@ -10,7 +10,7 @@ class Design : public testing::TestWithParam<int> {
  protected:
   const int position = GetParam();
   const SinRow& sin = Catalogue()[position];
-  FakePlatform platform;
+  ScriptedPlatform platform;
   Session session{platform};
   SinWorkspace ws{session, position};
 
@@ -405,7 +405,7 @@ TEST(DesignWords, OfParticularSins) {
       {"Shopping", "frmEnableDisableShoppingPast", "Enable/Disable Periods of Shopping"},
       {"Shopping", "lblShopPercentIncreasePast", "Yearly Increase Cost (%) For Shopping"},
   };
-  FakePlatform platform;
+  ScriptedPlatform platform;
   Session session(platform);
   for (const Word& word : kWords) {
     const SinWorkspace ws(session, SinPosition(word.key));
