@@ -99,44 +99,35 @@ TEST_F(Operations, ReckonAMonthOfEverySin) {
 
 // ---- The operations of a workspace ----
 
+// Each is seen at work: the caption, the store or the screen of its own sin and side changes.
 TEST_F(Operations, BearTheKeyAndTheStemOfTheirSin) {
   for (int i = 0; i < kSinCount; ++i) {
     const std::string key(Catalogue()[i].key), stem(Catalogue()[i].stem);
     SinWorkspace& ws = run.Enter(key);
-    for (const std::string side : {"Past", "Future"}) {
-      SCOPED_TRACE(key + side);
-      const std::string suffix = side == "Past" ? "Past" : "Fut";
-      EXPECT_TRUE(Exists(ws, "Load" + key + "Parameters" + side, {}));
-      EXPECT_TRUE(Exists(ws, "Initialize" + key + "Parameters" + side, {}));
-      EXPECT_TRUE(Exists(ws, "SetPeriodParameters" + key + side, {"1"}));
-      EXPECT_TRUE(Exists(ws, "Set" + key + "Parameters" + side, {"1"}));
-      EXPECT_TRUE(Exists(ws, "Get" + key + "Parameters" + side, {"1"}));
-      EXPECT_TRUE(Exists(ws, "LabelMaker" + stem + suffix, {"2"}));
-      EXPECT_TRUE(Exists(ws, "ResetSideScreen" + side, {}));
-      const std::string index = std::to_string(2 * i + (side == "Past" ? 1 : 2));
-      EXPECT_TRUE(Exists(ws, "InitializeDates" + side, {index}));
-      EXPECT_TRUE(Exists(ws, "CommitPeriod" + side, {"1", index}));
-      EXPECT_TRUE(Exists(ws, "RefreshResults" + side, {index}));
-      EXPECT_TRUE(Exists(ws, "PopulateResults" + side, {index}));
-      EXPECT_TRUE(Exists(ws, "UpdateResultButtons" + side, {index}));
-      EXPECT_TRUE(Exists(ws, "CostInPeriod" + side, {"1"}));
-      EXPECT_TRUE(Exists(ws, "CumulativeCostInPeriod" + side, {"0", "1", "Jun - 2026"}));
-      EXPECT_TRUE(Exists(ws, "CumulativeCostBetweenPeriod" + side, {"0", "1", "Jun - 2026", "Jul - 2026"}));
-      EXPECT_TRUE(Exists(ws, "RefreshDatesFromStart" + side, {}));
-      EXPECT_TRUE(Exists(ws, "RefreshDatesFromStop" + side, {}));
-      EXPECT_TRUE(
-          Exists(ws, "FineBetween" + side, {"comStart" + suffix, "Jun - 2026", "Jun - 2020", "Jun - 1915"}));
-      EXPECT_TRUE(Exists(ws, "FineStart" + side, {"comStart" + suffix, "Jun - 2026", "Jun - 1915"}));
-      EXPECT_TRUE(Exists(ws, "FineStop" + side, {"comStop" + suffix, "Jun - 2026"}));
-      EXPECT_TRUE(Exists(ws, "PrepareNextPeriodDates" + side, {"2", index}));
-      EXPECT_TRUE(Exists(ws, "ResetDateLists" + side, {}));
+    for (const Side side : kSides) {
+      const std::string name(OperationSuffix(side)), suffix(ControlSuffix(side));
+      SCOPED_TRACE(key + name);
+      SideControls& c = ws.Of(side);
+      Call(ws, "Load" + key + "Parameters" + name);
+      EXPECT_EQ(c.comInterestRate1->Text(), "5%");
+      Call(ws, "LabelMaker" + stem + suffix, {"2"});
+      EXPECT_EQ(c.frmRates->Caption(), std::string(PeriodPrefix(side)) + "2: Savings and Inflation Rates");
+      Call(ws, "SetPeriodParameters" + key + name, {"3"});
+      EXPECT_TRUE(ws.Record(side, 3).PeriodSelected);
+      c.comInterestRate1->SetText("9%");
+      Call(ws, "Set" + key + "Parameters" + name, {"4"});
+      EXPECT_EQ(ws.Record(side, 4).InterestRateText, "9%");
+      Call(ws, "Get" + key + "Parameters" + name, {"1"});
+      EXPECT_EQ(c.comInterestRate1->Text(), "5%");
+      Call(ws, "CommitPeriod" + name, {"1", std::to_string(2 * i + (side == Side::Past ? 1 : 2))});
+      EXPECT_TRUE(ws.Record(side, 1).PeriodSet);
+      EXPECT_NE(c.txtResultsTotal->Text(), "");
+      Call(ws, "Load" + key + "Parameters" + name);
+      EXPECT_FALSE(ws.Record(side, 1).PeriodSet);
+      Call(ws, "Initialize" + key + "Parameters" + name);
+      EXPECT_EQ(ws.Record(side, 4).InterestRateText, "5%");
     }
-    EXPECT_TRUE(Exists(ws, "CostAfterLastPeriod", {"0", "7", "Jun - 2026", "Jul - 2026"}));
-    EXPECT_TRUE(Exists(ws, "UpdateTotalTab", {std::to_string(2 * i + 2), std::to_string(2 * i + 1)}));
-    EXPECT_TRUE(Exists(ws, "UpdateFutureDateTotal", {std::to_string(2 * i + 2), std::to_string(2 * i + 1)}));
-    EXPECT_TRUE(Exists(ws, "CumulativeChainFuture", {std::to_string(2 * i + 2), "0"}));
-    EXPECT_TRUE(Exists(ws, "Load" + key + "ParametersInitialFuture", {}));
-    EXPECT_TRUE(Exists(ws, "HideFutureResults", {}));
+    Call(ws, "Load" + key + "ParametersInitialFuture");
     // Another sin's names are not this one's.
     const std::string other(Catalogue()[(i + 1) % kSinCount].key);
     EXPECT_FALSE(Exists(ws, "Load" + other + "ParametersPast", {}));
