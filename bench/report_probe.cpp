@@ -35,7 +35,7 @@ double Median(Desktop& desktop, Form& form, DocWindow& document, Button& open, B
     desktop.Enter([&] { open.UserClicks(); });
     desktop.WindowOf(form).repaint();
     QApplication::processEvents();
-    times.push_back(timer.nsecsElapsed() / 1e6);
+    times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
     desktop.Enter([&] { close.UserClicks(); });
     QApplication::processEvents();
   }

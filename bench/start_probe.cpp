@@ -23,7 +23,7 @@ constexpr const char* kStartVariable = "VICETOLL_PROBE_START";
 double Now() {
   timespec now{};
   clock_gettime(CLOCK_MONOTONIC, &now);
-  return now.tv_sec * 1e3 + now.tv_nsec / 1e6;
+  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
 double PeakMebibytes() {

@@ -8,6 +8,8 @@
 
 namespace vicetoll {
 
+inline constexpr int kMonthsPerYear = 12;
+
 // 1 to 12, or 0 where the first three characters, in any case, name no month.
 std::int16_t MonthNumberFromLabel(std::string_view label);
 

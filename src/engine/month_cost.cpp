@@ -1,11 +1,10 @@
 #include "engine/month_cost.h"
 
 #include "base/checked_int.h"
+#include "calendar/date_label.h"
 
 namespace vicetoll {
 namespace {
-
-constexpr double kMonthsPerYear = 12;
 
 double QuantityUsed(const CostTerms& terms) {
   switch (terms.costClass) {

@@ -10,7 +10,7 @@ namespace {
 // In twips.
 constexpr Place kFramePlace = {200, 150, 3600, 5100};
 constexpr Place kExitPlace = {1150, 5450, 1700, 500};
-constexpr int kWidth = 4000, kHeight = 6200;
+constexpr int kChooserWidth = 4000, kChooserHeight = 6200;
 constexpr int kRowHeight = 390;
 
 }  // namespace
@@ -31,8 +31,8 @@ SinChooser::SinChooser(Workspaces& workspaces, SinSwitching& switching)
   cmdExit_->SetPlace(kExitPlace);
   cmdExit_->onClick = [this] { Leave(); };
   // Smaller, its entries would be out of reach.
-  onResize = [this] { Resize(std::max(Width(), kWidth), std::max(Height(), kHeight)); };
-  Resize(kWidth, kHeight);
+  onResize = [this] { Resize(std::max(Width(), kChooserWidth), std::max(Height(), kChooserHeight)); };
+  Resize(kChooserWidth, kChooserHeight);
 }
 
 void SinChooser::Open(SinWorkspace& from) {

@@ -34,8 +34,8 @@ constexpr int kCellHeight = 360;
 constexpr int kTotalTop = kFirstRow + kSinCount * kRowStep + 180;
 constexpr int kTableHeight = kTotalTop + kCellHeight + 180;
 constexpr int kBottom = kMargin + kTableHeight + 200;
-constexpr int kWindowWidth = 2 * kMargin + kTickWidth + 6 * (kColumnWidth + kGap);
-constexpr int kWindowHeight = kBottom + 1150;
+constexpr int kCombinedWidth = 2 * kMargin + kTickWidth + 6 * (kColumnWidth + kGap);
+constexpr int kCombinedHeight = kBottom + 1150;
 
 // The amount in a cell; a text that is none (words, a blank, a lone currency symbol) adds nothing.
 double AmountIn(const std::string& text) {
@@ -53,8 +53,8 @@ CombinedResults::CombinedResults(Workspaces& workspaces)
   MakeColumns();
   MakeBottom();
   // Smaller, its buttons would be out of reach.
-  onResize = [this] { Resize(std::max(Width(), kWindowWidth), std::max(Height(), kWindowHeight)); };
-  Resize(kWindowWidth, kWindowHeight);
+  onResize = [this] { Resize(std::max(Width(), kCombinedWidth), std::max(Height(), kCombinedHeight)); };
+  Resize(kCombinedWidth, kCombinedHeight);
 }
 
 void CombinedResults::MakeTicks() {
@@ -107,7 +107,7 @@ void CombinedResults::MakeBottom() {
   update.SetPlace({5600, kBottom + 250, 2200, 600});
   update.onClick = [this] { PopulateCombResultsText(); };
   cmdExit_ = &Add<Button>({"cmdExit"}, "Exit");
-  cmdExit_->SetPlace({kWindowWidth - kMargin - 2200, kBottom + 250, 2200, 600});
+  cmdExit_->SetPlace({kCombinedWidth - kMargin - 2200, kBottom + 250, 2200, 600});
   cmdExit_->onClick = [this] { Hide(); };
 }
 

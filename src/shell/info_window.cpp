@@ -10,8 +10,8 @@ namespace vicetoll {
 namespace {
 
 // In twips.
-constexpr int kWidth = 10500, kHeight = 9000;
-constexpr int kMargin = 200;
+constexpr int kInfoWidth = 10500, kInfoHeight = 9000;
+constexpr int kInfoMargin = 200;
 
 }  // namespace
 
@@ -22,14 +22,14 @@ InfoWindow::InfoWindow(Platform& platform) : Form("frmInfo", ""), platform_(plat
   cmdExit_->SetPlace({0, 0, 1500, 500});
   cmdExit_->onClick = [this] { Hide(); };
   onResize = [this] { PlaceControls(); };
-  Resize(kWidth, kHeight);
+  Resize(kInfoWidth, kInfoHeight);
 }
 
 void InfoWindow::PlaceControls() {
-  const Place text = {kMargin, kMargin, Width() - 2 * kMargin, Height() - 1400};
+  const Place text = {kInfoMargin, kInfoMargin, Width() - 2 * kInfoMargin, Height() - 1400};
   rtfInfo_->SetPlace(text);
   Place exit = cmdExit_->GetPlace();
-  exit.left = kMargin + text.width - exit.width;
+  exit.left = kInfoMargin + text.width - exit.width;
   exit.top = text.top + text.height + 400;
   cmdExit_->SetPlace(exit);
 }

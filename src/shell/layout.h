@@ -5,10 +5,9 @@
 
 namespace vicetoll {
 
-// The size of every workspace, and how much higher Smoking is while its euro button is shown.
+// The size of every workspace; Smoking is higher by kEuroRow while its euro button is shown.
 inline constexpr int kWindowWidth = 12000;
 inline constexpr int kWindowHeight = 10500;
-inline constexpr int kEuroRow = 750;
 
 // Puts all controls in their design places. Called once, when the workspace is made.
 void PlaceDesign(SinWorkspace& ws);

@@ -19,8 +19,8 @@ constexpr StripButton kStrip[] = {
 
 // Twips. The strip ends below the last button of the bottom row.
 constexpr int kRight = 11875;
-constexpr int kGap = 60;
-constexpr int kHeight = 420;
+constexpr int kStripGap = 60;
+constexpr int kStripHeight = 420;
 constexpr int kAboveBottom = 500;
 
 bool AnyPeriodCounts(const SinWorkspace& ws) {
@@ -42,14 +42,14 @@ void MakeStrip(SinWorkspace& ws) {
 void PlaceStrip(SinWorkspace& ws) {
   int left = StripLeft();
   for (const StripButton& row : kStrip) {
-    ws.Get<Button>(row.name).SetPlace({left, ws.Height() - kAboveBottom, row.width, kHeight});
-    left += row.width + kGap;
+    ws.Get<Button>(row.name).SetPlace({left, ws.Height() - kAboveBottom, row.width, kStripHeight});
+    left += row.width + kStripGap;
   }
 }
 
 int StripLeft() {
-  int left = kRight + kGap;
-  for (const StripButton& row : kStrip) left -= row.width + kGap;
+  int left = kRight + kStripGap;
+  for (const StripButton& row : kStrip) left -= row.width + kStripGap;
   return left;
 }
 

@@ -7,7 +7,6 @@
 namespace vicetoll {
 namespace {
 
-constexpr int kMonthsPerYear = 12;
 constexpr std::string_view kQuantityFormat = "##.00";
 constexpr std::string_view kMoneyFormat = "$#,##0.00";
 

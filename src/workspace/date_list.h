@@ -8,6 +8,9 @@
 
 namespace vicetoll {
 
+// Months from entry to entry of a list of the coarse resolution.
+inline constexpr std::int16_t kCoarseStep = 12;
+
 // Fills the list with the months from `first` to `last` in steps of `step` months, as MonthList has them.
 // Without `clear` they go before the entries that are there, and only those that are missing, `first`
 // excepted; where there is no step between them, both. A selection survives if its text is still an entry;

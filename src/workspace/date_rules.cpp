@@ -11,7 +11,6 @@ namespace vicetoll {
 namespace {
 
 constexpr std::int16_t kFineStep = 1;
-constexpr std::int16_t kCoarseStep = 12;
 
 // Handed to the fine rules for period 1, which has no previous period: a date long past. It is parsed,
 // but each rule that would use it applies only to periods above 1.

@@ -6,7 +6,6 @@
 namespace vicetoll {
 namespace {
 
-constexpr std::int16_t kCoarseStep = 12;
 // The earliest past month lies so many years back, the latest future month so many ahead.
 constexpr int kPastYears = -90;
 constexpr int kFutureYears = 75;

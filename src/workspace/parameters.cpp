@@ -7,8 +7,6 @@
 namespace vicetoll {
 namespace {
 
-constexpr std::int16_t kCoarseStep = 12;
-
 // The list of the unit option that is on.
 const DropDownList& QuantityListOf(const SinWorkspace& ws, const SideControls& c) {
   return HasListPerUnit(ws.Class()) && !c.firstUnit->Value() ? *c.comCigsPerDay : *c.quantity;

@@ -18,6 +18,9 @@
 
 namespace vicetoll {
 
+// The height by which Smoking's window makes room for its euro button, in twips.
+inline constexpr int kEuroRow = 750;
+
 enum Tab { kPastTab = 0, kFutureTab = 1, kTotalTab = 2 };
 
 // An array of controls indexed 1..N, as the periods are. Throws Fault(Index) outside.

@@ -11,8 +11,6 @@ namespace vicetoll {
 namespace {
 
 constexpr std::string_view kNotAvailable = "n/a";
-// The height by which the Smoking window makes room for its euro button, in twips.
-constexpr int kEuroHeight = 750;
 
 void WriteZeroIfEmpty(TextBox& box) {
   if (box.Text().empty()) box.SetText("0");
@@ -214,7 +212,7 @@ void GrowFutureRateLists(SinWorkspace& ws) {
 
 void RetireEuroButton(SinWorkspace& ws) {
   ws.cmdEuro->SetAvailable(false);
-  ws.Resize(ws.Width(), ws.Height() - kEuroHeight);
+  ws.Resize(ws.Width(), ws.Height() - kEuroRow);
 }
 
 }  // namespace vicetoll

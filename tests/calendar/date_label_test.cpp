@@ -37,7 +37,8 @@ TEST(DateLabel, MonthsBesideTheYearKeepTheYear) {
 }
 
 TEST(DateLabel, OtherMonthsGiveNoLabelAtAll) {
-  for (std::int16_t month : {-32768, -2, 14, 32767}) EXPECT_EQ(MakeDateLabel(month, 2000), "") << month;
+  for (const std::int16_t month : std::initializer_list<std::int16_t>{-32768, -2, 14, 32767})
+    EXPECT_EQ(MakeDateLabel(month, 2000), "") << month;
 }
 
 TEST(DateLabel, YearIsTheLastFourCharacters) {

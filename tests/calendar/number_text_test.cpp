@@ -96,7 +96,7 @@ TEST(NumberText, HasAtMostFifteenDigitsAndNoTrailingZeros) {
   EXPECT_EQ(NumberToText(0.1 + 0.2), "0.3");
   EXPECT_EQ(NumberToText(186.19479684), "186.19479684");
   EXPECT_EQ(NumberToText(1.0 / 3), "0.333333333333333");
-  EXPECT_EQ(NumberToText(123456789012345678), "123456789012346000");
+  EXPECT_EQ(NumberToText(123456789012345678.0), "123456789012346000");
 }
 
 TEST(NumberText, HasNoExponent) {

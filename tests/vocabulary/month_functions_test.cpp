@@ -112,7 +112,8 @@ TEST(MonthCost, TheFirstMonthHasAnIncreaseAlready) {
 }
 
 TEST(MonthCost, AnIndexBelowOneHasOneIncrease) {
-  for (std::int16_t month : {0, -1, -32768}) EXPECT_EQ(CompoundedCost(100, month, 0.12), 100 * 1.01);
+  for (const std::int16_t month : std::initializer_list<std::int16_t>{0, -1, -32768})
+    EXPECT_EQ(CompoundedCost(100, month, 0.12), 100 * 1.01);
 }
 
 TEST(MonthCost, AnAmountBeyondADoubleIsAFault) {
