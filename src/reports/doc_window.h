@@ -6,19 +6,16 @@
 #include <string>
 
 #include "controls/document_text.h"
-#include "controls/form.h"
-#include "workspace/workspaces.h"
+#include "reports/report_window.h"
 
 namespace vicetoll {
 
-class DocWindow : public Form {
+class DocWindow : public ReportWindow {
  public:
   // One window serves all sins; it starts in the table layout. There is no way out but cmdExit.
   explicit DocWindow(Workspaces& workspaces);
 
-  std::string_view MenuTitle() const override { return "Edit"; }
-
-  DocumentText& Text() { return *rtfAdvResultsDoc_; }
+  DocumentText& Text() const { return *rtfAdvResultsDoc_; }
   // Whether the block layout is on.
   bool BlockLayout() const { return Opt_Doc_->Value(); }
 
@@ -33,27 +30,20 @@ class DocWindow : public Form {
   void DocSinData(SinWorkspace& ws, std::int16_t past, std::int16_t future, bool docFlag);
 
  private:
-  void Design();
-  void PlaceControls();
-  void OnResize();
+  void AddLayouts();
   void RefillForCurrentSin(bool docFlag);
-  void Print();
-  void SaveAs();
-  void SelectAll();
-  void Copy();
+  std::string Selection() const override { return std::string(Text().SelText()); }
+  void SelectAll() override { Text().SelectAll(); }
+  void Print() override;
+  std::string FileBytes() override;
+  void PlaceBeside(int left, int top) override;
   void Cut();
   void Paste();
-  void Exit();
 
-  Workspaces& workspaces_;
-  std::string filePath_;  // the name the save dialog holds
   DocumentText* rtfAdvResultsDoc_ = nullptr;
   Frame* SSFrame1_DocResults_ = nullptr;
   Option* Opt_Csv_ = nullptr;
   Option* Opt_Doc_ = nullptr;
-  Button* cmdPrint_ = nullptr;
-  Button* cmdSaveAs_ = nullptr;
-  Button* cmdExit_ = nullptr;
 };
 
 }  // namespace vicetoll

@@ -3,38 +3,27 @@
 
 #include <string>
 
-#include "controls/form.h"
 #include "controls/grid.h"
-#include "workspace/workspaces.h"
+#include "reports/report_window.h"
 
 namespace vicetoll {
 
-class SpdWindow : public Form {
+class SpdWindow : public ReportWindow {
  public:
   // One window serves all sins. Its caption speaks of smoking and never changes: the reports write their
   // titles into the document window's. There is no way out but cmdExit.
   explicit SpdWindow(Workspaces& workspaces);
 
-  std::string_view MenuTitle() const override { return "Edit"; }
-
-  Grid& Rows() { return *fgdAdvResultsSpd_; }
+  Grid& Rows() const { return *fgdAdvResultsSpd_; }
 
  private:
-  void Design();
-  void PlaceControls();
-  void OnResize();
-  void Print();
-  void SaveAs();
-  void SelectAll();
-  void Copy();
-  void Exit();
+  std::string Selection() const override { return Rows().Clip(); }
+  void SelectAll() override;
+  void Print() override;
+  std::string FileBytes() override;
+  void Leave() override { Rows().Clear(); }
 
-  Workspaces& workspaces_;
-  std::string filePath_;  // the name the save dialog holds
   Grid* fgdAdvResultsSpd_ = nullptr;
-  Button* cmdPrint_ = nullptr;
-  Button* cmdSaveAs_ = nullptr;
-  Button* cmdExit_ = nullptr;
 };
 
 }  // namespace vicetoll
