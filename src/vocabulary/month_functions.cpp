@@ -74,7 +74,7 @@ double DayCountOfMonthIndex(std::string& monthIndex, std::string_view startLabel
   std::int16_t month = Add(RoundToInt16(TextToNumber(monthIndex)), MonthNumberFromLabel(startLabel));
   month = Subtract(month, 1);
   monthIndex = std::to_string(month);
-  if (month > kMonthsPerYear) month %= kMonthsPerYear;
+  if (month > kMonthsPerYear) month = static_cast<std::int16_t>(month % kMonthsPerYear);
   switch (month) {
     case 1:
     case 3:
