@@ -49,7 +49,8 @@ void DocumentTextOf(benchmark::State& state, bool docFlag) {
   SinWorkspace& ws = WorkspaceWith(world, "Smoking", static_cast<int>(state.range(0)));
   std::size_t bytes = 0;
   for (auto _ : state) {
-    const std::string text = TotalDocText(ws, docFlag, 1, 2, IndexUse::Moved);
+    const std::string text =
+        TotalDocText(ws, docFlag, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future), IndexUse::Moved);
     bytes = text.size();
     benchmark::DoNotOptimize(text.data());
   }

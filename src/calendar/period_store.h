@@ -5,7 +5,11 @@
 #include <cstdint>
 #include <string>
 
+#include "calendar/side_index.h"
+
 namespace vicetoll {
+
+inline constexpr int kPeriodCount = 4;
 
 // The parameters of one period, mostly as the texts that the user picked, so that the period can be put
 // back on screen as it was entered. Texts become numbers only when a calculation needs them.
@@ -28,19 +32,15 @@ struct PeriodRecord {
   bool CostModeFlag = false;  // the cost rises by a percentage, not from initial to final
 };
 
-// All periods of all sins, by period 1..4 and SideIndex 1..24: past of the sin at position p (from 0) is
-// 2p + 1, its future 2p + 2.
+// All periods of all sins, by period 1..kPeriodCount and side.
 class PeriodStore {
  public:
-  static constexpr int kPeriods = 4;
-  static constexpr int kSides = 24;
-
   // Throws Fault(Index) outside the bounds.
-  PeriodRecord& At(int period, int sideIndex);
-  const PeriodRecord& At(int period, int sideIndex) const;
+  PeriodRecord& At(int period, SideIndex side);
+  const PeriodRecord& At(int period, SideIndex side) const;
 
  private:
-  std::array<std::array<PeriodRecord, kPeriods>, kSides> records_;
+  std::array<std::array<PeriodRecord, kPeriodCount>, kSideCount> records_;
 };
 
 }  // namespace vicetoll

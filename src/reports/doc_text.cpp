@@ -141,7 +141,7 @@ void AppendCosts(std::string& text, const SinWorkspace& ws, Side side, const Per
 
 }  // namespace
 
-std::string ParametersInPeriodDoc(const SinWorkspace& ws, Side side, std::int16_t period) {
+std::string ParametersInPeriodDoc(const SinWorkspace& ws, Side side, int period) {
   std::string text;
   const PeriodRecord& record = ws.Record(side, period);
   if (!record.PeriodSet || !record.PeriodEnabled) return text;

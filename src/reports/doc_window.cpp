@@ -59,7 +59,7 @@ void DocWindow::RefillForCurrentSin(bool docFlag) {
              docFlag);
 }
 
-void DocWindow::DocSinData(SinWorkspace& ws, std::int16_t past, std::int16_t future, bool docFlag) {
+void DocWindow::DocSinData(SinWorkspace& ws, SideIndex past, SideIndex future, bool docFlag) {
   std::int16_t index = ws.CurrentIndexSub;  // the workspace's own stays
   switch (ws.FuturePast_Flag) {
     case kShowsPast:

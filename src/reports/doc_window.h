@@ -27,7 +27,7 @@ class DocWindow : public ReportWindow {
 
   // Refills the text with what the workspace's last report showed: past, future or both. A workspace that
   // made none leaves it alone. Past and future are the numbers under which the counted periods are read.
-  void DocSinData(SinWorkspace& ws, std::int16_t past, std::int16_t future, bool docFlag);
+  void DocSinData(SinWorkspace& ws, SideIndex past, SideIndex future, bool docFlag);
 
  private:
   void AddLayouts();

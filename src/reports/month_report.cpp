@@ -17,8 +17,8 @@ class MonthCollector : public MonthSink {
 };
 
 ReportState Walk(const SinWorkspace& ws, ReportScope scope, MonthSink& sink) {
-  const std::int16_t past = ws.SideIndex(Side::Past);
-  const std::int16_t future = ws.SideIndex(Side::Future);
+  const SideIndex past = ws.SideIndex(Side::Past);
+  const SideIndex future = ws.SideIndex(Side::Future);
   if (scope == ReportScope::Past) return WalkSide(ReportSideOf(ws, Side::Past, past), {}, sink);
   if (scope == ReportScope::Future) return WalkSide(ReportSideOf(ws, Side::Future, future), {}, sink);
   return WalkTotal(TotalTermsOf(ws, past, future), {}, sink);

@@ -26,8 +26,8 @@ enum class MonthKind {
 // A period of a side, as a report reads it.
 struct ReportPeriod {
   Side side = Side::Past;
-  std::int16_t number = 0;  // 1 to 4
-  bool set = false;         // a period that is not has no months
+  int number = 0;    // 1 to 4
+  bool set = false;  // a period that is not has no months
   bool counted = false;
   PeriodTerms terms{};  // of its own months; the cost only where it counts
   // The labels that the stretches before and behind it run between. They are those of its own months but
@@ -49,7 +49,7 @@ struct ReportState {
 struct ReportStretch {
   MonthKind kind;
   Side side;
-  std::int16_t period;        // whose rates apply; of a gap the period before it
+  int period;                 // whose rates apply; of a gap the period before it
   std::string_view from, to;  // labels: first and last month, or of a gap the months around it
   std::int16_t months;
 };
@@ -60,8 +60,8 @@ struct ReportMonth {
   std::int16_t index;  // its number in the report
   MonthKind kind;
   Side side;
-  std::int16_t period;  // 1 to 4, whose rates apply; of a gap the period before it
-  std::string label;    // "Jan - 2000"
+  int period;         // 1 to 4, whose rates apply; of a gap the period before it
+  std::string label;  // "Jan - 2000"
   // Of active months only.
   double quantity = 0, unitCost = 0, reasonableCost = 0, adjustedCost = 0, monthCost = 0;
   double monthWithInterest = 0;  // what the month added to the total with interest

@@ -14,41 +14,39 @@ constexpr int kColumnWidth = 1000;
 constexpr int kFirstFixedColumn = 2;
 
 // Lists a period's months on from that state. One that is not set leaves the workspace's totals alone.
-void ListPeriod(SinWorkspace& ws, Side side, std::int16_t number, std::int16_t& index,
-                const ReportState& state, MonthSink& sink) {
+void ListPeriod(SinWorkspace& ws, Side side, int number, std::int16_t& index, const ReportState& state,
+                MonthSink& sink) {
   const ReportPeriod period = ReportPeriodOf(ws, side, number, true);
   if (period.set) KeepReport(ws, index, WalkPeriod(period, state, sink));
 }
 
-void ListBetweenPeriods(SinWorkspace& ws, Side side, bool periodIsDisabled, std::int16_t number,
-                        std::int16_t& index, const ReportState& state, std::string_view from,
-                        std::string_view to, MonthSink& sink) {
+void ListBetweenPeriods(SinWorkspace& ws, Side side, bool periodIsDisabled, int number, std::int16_t& index,
+                        const ReportState& state, std::string_view from, std::string_view to,
+                        MonthSink& sink) {
   const ReportPeriod period = ReportPeriodOf(ws, side, number, false);
   if (period.set) KeepReport(ws, index, WalkBetweenPeriods(period, periodIsDisabled, from, to, state, sink));
 }
 
 }  // namespace
 
-void ParametersForMonthInPeriodSpd(SinWorkspace& ws, Side side, Grid& grid, std::int16_t period,
-                                   std::int16_t& index, double cumulativeCost,
-                                   double cumulativeCostWithInterest) {
+void ParametersForMonthInPeriodSpd(SinWorkspace& ws, Side side, Grid& grid, int period, std::int16_t& index,
+                                   double cumulativeCost, double cumulativeCostWithInterest) {
   SpdRowWriter rows(ws);
   ListPeriod(ws, side, period, index, {index, cumulativeCost, cumulativeCostWithInterest}, rows);
   grid.Append(rows.Take());
 }
 
 void ParametersForMonthInPeriodSpdBetweenPeriods(SinWorkspace& ws, Side side, Grid& grid,
-                                                 bool periodIsDisabled, std::int16_t period,
-                                                 std::int16_t& index, double cumulativeCost,
-                                                 double cumulativeCostWithInterest, std::string_view from,
-                                                 std::string_view to) {
+                                                 bool periodIsDisabled, int period, std::int16_t& index,
+                                                 double cumulativeCost, double cumulativeCostWithInterest,
+                                                 std::string_view from, std::string_view to) {
   SpdRowWriter rows(ws);
   ListBetweenPeriods(ws, side, periodIsDisabled, period, index,
                      {index, cumulativeCost, cumulativeCostWithInterest}, from, to, rows);
   grid.Append(rows.Take());
 }
 
-std::string ParametersForMonthInPeriodDoc(SinWorkspace& ws, Side side, std::int16_t period, bool docFlag,
+std::string ParametersForMonthInPeriodDoc(SinWorkspace& ws, Side side, int period, bool docFlag,
                                           std::int16_t& index, double cumulativeCost,
                                           double cumulativeCostWithInterest) {
   std::string text;
@@ -58,8 +56,8 @@ std::string ParametersForMonthInPeriodDoc(SinWorkspace& ws, Side side, std::int1
 }
 
 std::string ParametersForMonthInPeriodDocBetweenPeriods(SinWorkspace& ws, Side side, bool periodIsDisabled,
-                                                        std::int16_t period, bool docFlag,
-                                                        std::int16_t& index, double cumulativeCost,
+                                                        int period, bool docFlag, std::int16_t& index,
+                                                        double cumulativeCost,
                                                         double cumulativeCostWithInterest,
                                                         std::string_view from, std::string_view to) {
   std::string text;
@@ -89,7 +87,7 @@ void ClearSpdGrid(Grid& grid) {
 }
 
 void BuildSpdRows(SinWorkspace& ws, Side side, Grid& grid, bool resetIndex, bool clearGrid,
-                  std::int16_t& index, std::int16_t sideIndex) {
+                  std::int16_t& index, SideIndex sideIndex) {
   if (resetIndex) index = 0;
   ReportState state = LastReport(ws);
   state.index = index;
@@ -106,7 +104,7 @@ void BuildSpdRows(SinWorkspace& ws, Side side, Grid& grid, bool resetIndex, bool
 std::string SideText(const SinWorkspace& ws, Side side, const ReportSide& periods, bool docFlag,
                      ReportState& state) {
   std::string text;
-  for (std::int16_t p = 1; p <= kPeriodCount; ++p) text += ParametersInPeriodDoc(ws, side, p);
+  for (int p = 1; p <= kPeriodCount; ++p) text += ParametersInPeriodDoc(ws, side, p);
   text += CsvText(ws, !docFlag);
   state.index = 0;
   state = WalkSide(periods, state, *MakeDocWriter(ws, docFlag, text));
@@ -114,7 +112,7 @@ std::string SideText(const SinWorkspace& ws, Side side, const ReportSide& period
 }
 
 std::string DocText(SinWorkspace& ws, Side side, bool docFlag, bool resetTotals, std::int16_t& index,
-                    std::int16_t sideIndex) {
+                    SideIndex sideIndex) {
   ReportState state = resetTotals ? ReportState{} : LastReport(ws);
   std::string text = SideText(ws, side, ReportSideOf(ws, side, sideIndex), docFlag, state);
   KeepReport(ws, index, state);
@@ -122,7 +120,7 @@ std::string DocText(SinWorkspace& ws, Side side, bool docFlag, bool resetTotals,
 }
 
 std::string BuildDocText(SinWorkspace& ws, Side side, DocumentText& view, bool docFlag, bool resetTotals,
-                         std::int16_t& index, std::int16_t sideIndex) {
+                         std::int16_t& index, SideIndex sideIndex) {
   std::string text = DocText(ws, side, docFlag, resetTotals, index, sideIndex);
   view.SetText(text);
   return text;

@@ -22,24 +22,22 @@ enum ShownSides : std::int16_t { kShowsPast = 1, kShowsFuture = 2, kShowsBoth = 
 // They throw Fault(Overflow) for an index beyond 16 bits.
 
 // Adds the rows of a period's months at the end of the grid.
-void ParametersForMonthInPeriodSpd(SinWorkspace& ws, Side side, Grid& grid, std::int16_t period,
-                                   std::int16_t& index, double cumulativeCost,
-                                   double cumulativeCostWithInterest);
+void ParametersForMonthInPeriodSpd(SinWorkspace& ws, Side side, Grid& grid, int period, std::int16_t& index,
+                                   double cumulativeCost, double cumulativeCostWithInterest);
 
 // Adds the rows of the months between two labels: a gap, or a disabled period.
 void ParametersForMonthInPeriodSpdBetweenPeriods(SinWorkspace& ws, Side side, Grid& grid,
-                                                 bool periodIsDisabled, std::int16_t period,
-                                                 std::int16_t& index, double cumulativeCost,
-                                                 double cumulativeCostWithInterest, std::string_view from,
-                                                 std::string_view to);
+                                                 bool periodIsDisabled, int period, std::int16_t& index,
+                                                 double cumulativeCost, double cumulativeCostWithInterest,
+                                                 std::string_view from, std::string_view to);
 
 // The same months as text: blocks if `docFlag`, table lines otherwise.
-std::string ParametersForMonthInPeriodDoc(SinWorkspace& ws, Side side, std::int16_t period, bool docFlag,
+std::string ParametersForMonthInPeriodDoc(SinWorkspace& ws, Side side, int period, bool docFlag,
                                           std::int16_t& index, double cumulativeCost,
                                           double cumulativeCostWithInterest);
 std::string ParametersForMonthInPeriodDocBetweenPeriods(SinWorkspace& ws, Side side, bool periodIsDisabled,
-                                                        std::int16_t period, bool docFlag,
-                                                        std::int16_t& index, double cumulativeCost,
+                                                        int period, bool docFlag, std::int16_t& index,
+                                                        double cumulativeCost,
                                                         double cumulativeCostWithInterest,
                                                         std::string_view from, std::string_view to);
 
@@ -56,7 +54,7 @@ void ClearSpdGrid(Grid& grid);
 // grid, hides its window and starts the totals from nothing; without them the rows go on from what stands.
 // Which periods count is read under `sideIndex`, the months are the workspace's own.
 void BuildSpdRows(SinWorkspace& ws, Side side, Grid& grid, bool resetIndex, bool clearGrid,
-                  std::int16_t& index, std::int16_t sideIndex);
+                  std::int16_t& index, SideIndex sideIndex);
 
 // The text of a side whose periods were read: the parameters of all of them, the heading of the table, the
 // months. The months number from 1 and carry the totals of the state on; it becomes the state behind them.
@@ -66,10 +64,10 @@ std::string SideText(const SinWorkspace& ws, Side side, const ReportSide& period
 // The text of a side of the workspace: the parameters of all its periods, the heading of the table, the
 // months. The months number from 1 in every run; `resetTotals` starts the totals from nothing.
 std::string DocText(SinWorkspace& ws, Side side, bool docFlag, bool resetTotals, std::int16_t& index,
-                    std::int16_t sideIndex);
+                    SideIndex sideIndex);
 
 // The same, shown in the view as well.
 std::string BuildDocText(SinWorkspace& ws, Side side, DocumentText& view, bool docFlag, bool resetTotals,
-                         std::int16_t& index, std::int16_t sideIndex);
+                         std::int16_t& index, SideIndex sideIndex);
 
 }  // namespace vicetoll

@@ -6,7 +6,7 @@
 
 namespace vicetoll {
 
-ReportPeriod ReportPeriodOf(const SinWorkspace& ws, Side side, std::int16_t period, bool counted) {
+ReportPeriod ReportPeriodOf(const SinWorkspace& ws, Side side, int period, bool counted) {
   const PeriodRecord& record = ws.Record(side, period);
   ReportPeriod read{.side = side, .number = period, .set = record.PeriodSet, .counted = counted};
   if (read.set && counted) {
@@ -21,9 +21,9 @@ ReportPeriod ReportPeriodOf(const SinWorkspace& ws, Side side, std::int16_t peri
   return read;
 }
 
-ReportSide ReportSideOf(const SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+ReportSide ReportSideOf(const SinWorkspace& ws, Side side, SideIndex sideIndex) {
   ReportSide periods;
-  for (std::int16_t p = 1; p <= kPeriodCount; ++p) {
+  for (int p = 1; p <= kPeriodCount; ++p) {
     ReportPeriod& period = periods[p - 1];
     period = ReportPeriodOf(ws, side, p, IsCounted(ws, side, p, sideIndex));
     const PeriodRecord& around = ws.Store().At(p, sideIndex);
@@ -43,7 +43,7 @@ void KeepReport(SinWorkspace& ws, std::int16_t& index, const ReportState& state)
   ws.CurrentCumulativeCostWithInterest = state.withInterest;
 }
 
-TotalTerms TotalTermsOf(const SinWorkspace& ws, std::int16_t past, std::int16_t future) {
+TotalTerms TotalTermsOf(const SinWorkspace& ws, SideIndex past, SideIndex future) {
   const CountedPeriods pastCounted = CountedOf(ws, Side::Past, past);
   const CountedPeriods futureCounted = CountedOf(ws, Side::Future, future);
   TotalTerms terms{.hasPast = pastCounted.worthCounting, .hasFuture = futureCounted.worthCounting};
@@ -51,7 +51,7 @@ TotalTerms TotalTermsOf(const SinWorkspace& ws, std::int16_t past, std::int16_t 
   if (terms.hasFuture) terms.future = ReportSideOf(ws, Side::Future, future);
   if (terms.HasBorder()) {
     const SideControls& boxes = ws.Of(Side::Past);
-    const auto last = static_cast<std::int16_t>(pastCounted.last);
+    const int last = pastCounted.last;
     terms.borderPeriod = ReportPeriodOf(ws, Side::Past, last, false);
     terms.borderFrom = ws.Store().At(last, past).StopLabel;
     terms.borderTo = ws.Store().At(futureCounted.first, future).StartLabel;

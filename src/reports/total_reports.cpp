@@ -27,7 +27,7 @@ void BuildTotalSpdRows(SinWorkspace& ws, Grid& grid) {
   ws.FuturePast_Flag = kShowsFuture;  // not both: a layout switch of the document then shows the future only
 }
 
-std::string TotalDocText(SinWorkspace& ws, bool docFlag, std::int16_t past, std::int16_t future,
+std::string TotalDocText(SinWorkspace& ws, bool docFlag, SideIndex past, SideIndex future,
                          IndexUse indexUse) {
   const TotalTerms terms = TotalTermsOf(ws, past, future);
   ReportState state = LastReport(ws);

@@ -20,7 +20,6 @@ enum class IndexUse { Moved, Kept };
 
 // The text of both sides. Each has its own headers, and its months number from 1. Past and future are the
 // numbers under which the counted periods are read.
-std::string TotalDocText(SinWorkspace& ws, bool docFlag, std::int16_t past, std::int16_t future,
-                         IndexUse indexUse);
+std::string TotalDocText(SinWorkspace& ws, bool docFlag, SideIndex past, SideIndex future, IndexUse indexUse);
 
 }  // namespace vicetoll

@@ -153,13 +153,13 @@ std::string CombinedResults::Joined(const std::string& past, const std::string& 
   return Money(both);
 }
 
-void CombinedResults::GetIndividualSinValues(SinWorkspace& workspace, int index, std::int16_t pastSide,
-                                             std::int16_t futureSide) {
+void CombinedResults::GetIndividualSinValues(SinWorkspace& workspace, int index, SideIndex pastSide,
+                                             SideIndex futureSide) {
   if (index < 0 || index >= kSinCount) throw Fault(FaultKind::Index, "The table has no such row.");
   const SideControls& past = workspace.Of(Side::Past);
   const SideControls& future = workspace.Of(Side::Future);
   if (!IsZeroOrEmpty(future.txtResultsTotal->Text()) || !IsZeroOrEmpty(past.txtResultsTotal->Text()))
-    UpdateCombinedCumulative(workspace, futureSide, pastSide);
+    UpdateCombinedCumulative(workspace, pastSide, futureSide);
   const std::string& noData = NoData();
   const auto orNoData = [&noData](const std::string& text) { return IsZeroOrEmpty(text) ? noData : text; };
   const std::string pastCost = orNoData(past.txtResultsTotal->Text());

@@ -25,8 +25,7 @@ class CombinedResults : public Form {
 
   // Fills the row of a sin. Its workspace's balance over both sides is brought up to date first.
   // Throws Fault(Index) for a row outside 0..11.
-  void GetIndividualSinValues(SinWorkspace& workspace, int index, std::int16_t pastSide,
-                              std::int16_t futureSide);
+  void GetIndividualSinValues(SinWorkspace& workspace, int index, SideIndex pastSide, SideIndex futureSide);
 
   // Fills the totals from the rows that are ticked.
   void PopulateTotals();

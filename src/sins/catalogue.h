@@ -15,11 +15,10 @@
 #include <string_view>
 
 #include "base/side.h"
+#include "calendar/period_store.h"
+#include "calendar/side_index.h"
 
 namespace vicetoll {
-
-inline constexpr int kSinCount = 12;
-inline constexpr int kPeriodCount = 4;
 
 enum class CostClass {
   PacksClass,     // packs or cigarettes a day, times the cost of a pack
@@ -173,11 +172,6 @@ inline constexpr int kInflationDefault = 3;
 
 // The position of a sin key in the catalogue, or -1 if it is none.
 int SinPosition(std::string_view key);
-
-// The past and future numbers of the sin at a position from 0, in all period tables: 2p + 1 and 2p + 2.
-constexpr std::int16_t SideIndexOf(int position, Side side) {
-  return static_cast<std::int16_t>(2 * position + (side == Side::Past ? 1 : 2));
-}
 
 // True for the classes that have the percent and the initial/final option.
 constexpr bool HasCostModes(CostClass c) { return c == CostClass::PacksClass || c == CostClass::UnitsClass; }

@@ -43,20 +43,18 @@ constexpr auto kPeriodTotal = [](SinWorkspace& ws, double count, double months, 
   return TotalCostInCurrentPeriod(ws, side, count, months, period);
 };
 
-constexpr auto kUpdateTotalTab = [](SinWorkspace& ws, std::int16_t future, std::int16_t past) {
-  UpdateTotalTab(ws, future, past);
+constexpr auto kUpdateTotalTab = [](SinWorkspace& ws, SideIndex future, SideIndex past) {
+  UpdateTotalTab(ws, past, future);
 };
-constexpr auto kUpdateCombined = [](SinWorkspace& ws, std::int16_t future, std::int16_t past) {
-  UpdateCombinedCumulative(ws, future, past);
+constexpr auto kUpdateCombined = [](SinWorkspace& ws, SideIndex future, SideIndex past) {
+  UpdateCombinedCumulative(ws, past, future);
 };
-constexpr auto kUpdateFutureDate = [](SinWorkspace& ws, std::int16_t future, std::int16_t past) {
-  UpdateFutureDateTotal(ws, future, past);
+constexpr auto kUpdateFutureDate = [](SinWorkspace& ws, SideIndex future, SideIndex past) {
+  UpdateFutureDateTotal(ws, past, future);
 };
-constexpr auto kIndividualSin = [](CombinedResults& table, SinWorkspace& ws, std::int16_t row,
-                                   std::int16_t past, std::int16_t future) {
-  table.GetIndividualSinValues(ws, row, past, future);
-};
-constexpr auto kDocSinData = [](DocWindow& doc, SinWorkspace& ws, std::int16_t past, std::int16_t future,
+constexpr auto kIndividualSin = [](CombinedResults& table, SinWorkspace& ws, std::int16_t row, SideIndex past,
+                                   SideIndex future) { table.GetIndividualSinValues(ws, row, past, future); };
+constexpr auto kDocSinData = [](DocWindow& doc, SinWorkspace& ws, SideIndex past, SideIndex future,
                                 bool docFlag) { doc.DocSinData(ws, past, future, docFlag); };
 
 constexpr auto kFinishGrid = [](SinWorkspace& ws, Grid& grid) {

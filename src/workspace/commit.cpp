@@ -27,7 +27,7 @@ void ClosePeriod(SideControls& c, Side side, int p, PeriodRecord& record) {
   c.txtResultsPeriod(p).SetText("0");
 }
 
-void SetPeriod(SinWorkspace& ws, SideControls& c, Side side, std::int16_t p, PeriodRecord& record) {
+void SetPeriod(SinWorkspace& ws, SideControls& c, Side side, int p, PeriodRecord& record) {
   c.optTimePeriod(p).SetEnabled(true);
   c.optTimePeriod(p).SetCaption(PeriodCaption(side, p) + " SET to Dates: (" + record.StartLabel + ") to (" +
                                 record.StopLabel + ")");
@@ -51,20 +51,20 @@ bool ClosesTheSide(Side side, const Present& now, std::int16_t stopMonth, std::i
 }  // namespace
 
 void PressSetButton(SinWorkspace& ws, Side side) {
-  const std::int16_t period = ws.State(side).CurrentPeriod;
+  const int period = ws.State(side).CurrentPeriod;
   SetParameters(ws, side, period);
   CommitPeriod(ws, side, period, ws.SideIndex(side));
   // Every press of the past side lowers the window, also when the button has long gone.
   if (ws.cmdEuro != nullptr && side == Side::Past) RetireEuroButton(ws);
 }
 
-void CommitPeriod(SinWorkspace& ws, Side side, std::int16_t count, std::int16_t sideIndex) {
+void CommitPeriod(SinWorkspace& ws, Side side, int count, SideIndex sideIndex) {
   const Present now(ws.GetSession());
   SideControls& c = ws.Of(side);
   PeriodStore& store = ws.Store();
   const std::int16_t stopMonth = MonthNumberFromLabel(c.comStop->Text());
   const std::int16_t stopYear = YearFromLabel(c.comStop->Text());
-  for (std::int16_t p = 1; p <= kPeriodCount; ++p) {
+  for (int p = 1; p <= kPeriodCount; ++p) {
     if (p > count)
       ClosePeriod(c, side, p, store.At(p, sideIndex));
     else
@@ -107,11 +107,11 @@ void CommitPeriod(SinWorkspace& ws, Side side, std::int16_t count, std::int16_t 
     c.txtCumulativeResultsPeriod(p).SetText(p <= count ? balances[p - 1] : "0");
 }
 
-void SelectPeriod(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+void SelectPeriod(SinWorkspace& ws, Side side, SideIndex sideIndex) {
   SideControls& c = ws.Of(side);
   SideState& state = ws.State(side);
   c.cmdSetPeriodParams->SetEnabled(false);
-  for (std::int16_t p = 1; p <= kPeriodCount; ++p) {
+  for (int p = 1; p <= kPeriodCount; ++p) {
     if (!c.optTimePeriod(p).Value()) continue;
     state.CurrentPeriod = p;
     PeriodRecord& record = ws.Store().At(p, sideIndex);
@@ -128,7 +128,7 @@ void SelectPeriod(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
   c.cmdSetPeriodParams->SetEnabled(true);
 }
 
-void UpdateResultButtons(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+void UpdateResultButtons(SinWorkspace& ws, Side side, SideIndex sideIndex) {
   SideControls& c = ws.Of(side);
   bool any = false;
   for (int p = 1; p <= kPeriodCount; ++p)

@@ -12,13 +12,13 @@ namespace vicetoll {
 void PressSetButton(SinWorkspace& ws, Side side);
 
 // Commits the first `count` periods: results, chain and total of the side. Throws all later ones away.
-void CommitPeriod(SinWorkspace& ws, Side side, std::int16_t count, std::int16_t sideIndex);
+void CommitPeriod(SinWorkspace& ws, Side side, int count, SideIndex sideIndex);
 
 // The click on a period's option: seeds the period on the first forward step onto it, and shows what is
 // stored.
-void SelectPeriod(SinWorkspace& ws, Side side, std::int16_t sideIndex);
+void SelectPeriod(SinWorkspace& ws, Side side, SideIndex sideIndex);
 
 // Opens the side's four result buttons if at least one set period is on, closes them otherwise.
-void UpdateResultButtons(SinWorkspace& ws, Side side, std::int16_t sideIndex);
+void UpdateResultButtons(SinWorkspace& ws, Side side, SideIndex sideIndex);
 
 }  // namespace vicetoll

@@ -42,8 +42,8 @@ void KeepBehindPreviousStop(SinWorkspace& ws, Side side, const std::string& this
 
 enum class From { Start, Stop };
 
-std::string PreviousStop(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
-  const std::int16_t current = ws.State(side).CurrentPeriod;
+std::string PreviousStop(SinWorkspace& ws, Side side, SideIndex sideIndex) {
+  const int current = ws.State(side).CurrentPeriod;
   return current == 1 ? kNoPreviousStop : ws.Store().At(current - 1, sideIndex).StopLabel;
 }
 
@@ -56,7 +56,7 @@ void RebuildDates(SinWorkspace& ws, Side side, From from) {
   c.comStart->Clear();
   c.comStop->Clear();
   // The side in front by its number: the tabs keep it.
-  const std::int16_t sideIndex = ws.GetSession().CurrentSinNumber;
+  const SideIndex sideIndex = ws.GetSession().CurrentSinNumber;
   const std::string previousStop = PreviousStop(ws, side, sideIndex);
   const PeriodRecord& record = ws.Store().At(ws.State(side).CurrentPeriod, sideIndex);
 
@@ -159,7 +159,7 @@ void FineStop(SinWorkspace& ws, Side side, DropDownList& list, const std::string
   FillDateList(true, list, thisDate, upper, kFineStep);
 }
 
-void PrepareNextPeriodDates(SinWorkspace& ws, Side side, std::int16_t period, std::int16_t sideIndex) {
+void PrepareNextPeriodDates(SinWorkspace& ws, Side side, int period, SideIndex sideIndex) {
   const Present now(ws.GetSession());
   SideControls& c = ws.Of(side);
   const std::string next = MonthAfter(ws.Store().At(period - 1, sideIndex).StopLabel);

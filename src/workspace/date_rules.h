@@ -28,7 +28,7 @@ void FineStop(SinWorkspace& ws, Side side, DropDownList& list, const std::string
 
 // Seeds the lists of period p on the first forward step onto it: one month long, right behind the stop
 // of the period before.
-void PrepareNextPeriodDates(SinWorkspace& ws, Side side, std::int16_t period, std::int16_t sideIndex);
+void PrepareNextPeriodDates(SinWorkspace& ws, Side side, int period, SideIndex sideIndex);
 
 // Recovery after a fault: the side's dates and period options as at the beginning. Store and flags stay.
 void ResetDateLists(SinWorkspace& ws, Side side);

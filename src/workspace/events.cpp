@@ -23,7 +23,7 @@ void OnDateFocus(SinWorkspace& ws, Side side, void (*refresh)(SinWorkspace&, Sid
 // A click on Per Day or Per Month. The stored position is kept and no value converted: 6 a day becomes
 // the entry at the same place in the monthly list.
 void OnUnit(SinWorkspace& ws, Side side) {
-  const std::int16_t period = ws.State(side).CurrentPeriod;
+  const int period = ws.State(side).CurrentPeriod;
   ws.Of(side).frmDaily->SetCaption(std::string(PeriodPrefix(side)) + std::to_string(period) +
                                    std::string(ws.Sin().dailySuffix[side]));
   EnableSetButton(ws, side);
@@ -61,7 +61,7 @@ void OnTab(SinWorkspace& ws) {
       EnableSetButton(ws, Side::Future);
       break;
     case kTotalTab:
-      UpdateTotalTab(ws, ws.SideIndex(Side::Future), ws.SideIndex(Side::Past));
+      UpdateTotalTab(ws, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future));
       break;
   }
 }
@@ -113,7 +113,7 @@ void ConnectEvents(SinWorkspace& ws) {
     list->onPick = [&ws] { ws.cmdCumulativeFutureDateTot->SetEnabled(true); };
   }
   ws.cmdCumulativeFutureDateTot->onClick = [&ws] {
-    UpdateFutureDateTotal(ws, ws.SideIndex(Side::Future), ws.SideIndex(Side::Past));
+    UpdateFutureDateTotal(ws, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future));
   };
   for (int i = kPastTab; i <= kTotalTab; ++i)
     ws.Get<Panel>("SSPanel_BackColor", i).onClick = [&ws] { OnPanel(ws); };

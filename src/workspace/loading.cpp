@@ -119,7 +119,7 @@ void InitializeParameters(SinWorkspace& ws, Side side) {
   }
 }
 
-void InitializeDates(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+void InitializeDates(SinWorkspace& ws, Side side, SideIndex sideIndex) {
   const Present now(ws.GetSession());
   SideControls& c = ws.Of(side);
   const bool past = side == Side::Past;
@@ -178,7 +178,7 @@ void ResetSideScreen(SinWorkspace& ws, Side side) {
   c.cmdSetPeriodParams->SetEnabled(true);
 }
 
-void LabelMaker(SinWorkspace& ws, Side side, std::int16_t period) {
+void LabelMaker(SinWorkspace& ws, Side side, int period) {
   SideControls& c = ws.Of(side);
   const SinRow& sin = ws.Sin();
   const std::string start = std::string(PeriodPrefix(side)) + std::to_string(period);

@@ -18,7 +18,7 @@ void LoadParametersInitialFuture(SinWorkspace& ws);
 
 // First values of the side's four periods from the lists as they stand.
 void InitializeParameters(SinWorkspace& ws, Side side);
-void InitializeDates(SinWorkspace& ws, Side side, std::int16_t sideIndex);
+void InitializeDates(SinWorkspace& ws, Side side, SideIndex sideIndex);
 
 // The last step of a load: the date lists in full, no results, period 1 alone open.
 void ResetSideScreen(SinWorkspace& ws, Side side);
@@ -26,6 +26,6 @@ void ResetSideScreen(SinWorkspace& ws, Side side);
 void HideFutureResults(SinWorkspace& ws);
 
 // The captions that follow the period number (LabelMakerSmokePast and its like).
-void LabelMaker(SinWorkspace& ws, Side side, std::int16_t period);
+void LabelMaker(SinWorkspace& ws, Side side, int period);
 
 }  // namespace vicetoll

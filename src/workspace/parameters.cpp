@@ -13,7 +13,7 @@ const DropDownList& QuantityListOf(const SinWorkspace& ws, const SideControls& c
 }
 
 // The part of SetParameters that all sins share.
-void SaveSharedParameters(SinWorkspace& ws, Side side, std::int16_t period) {
+void SaveSharedParameters(SinWorkspace& ws, Side side, int period) {
   SideControls& c = ws.Of(side);
   PeriodRecord& record = ws.Record(side, period);
   record.PeriodSelected = true;
@@ -67,12 +67,12 @@ void ShowCost(DropDownList* list, const std::string& stored) {
 }  // namespace
 
 void SetPeriodParameters(SinWorkspace& ws, Side side, std::string_view period) {
-  for (std::int16_t p = 1; p <= kPeriodCount; ++p) ws.Record(side, p).PeriodSelected = false;
+  for (int p = 1; p <= kPeriodCount; ++p) ws.Record(side, p).PeriodSelected = false;
   ws.Record(side, RoundToInt16(TextToNumber(period))).PeriodSelected = true;
   ws.Of(side).frmDaily->SetCaption("Period " + std::string(period) + std::string(ws.Sin().dailySuffix[side]));
 }
 
-void SetParameters(SinWorkspace& ws, Side side, std::int16_t period) {
+void SetParameters(SinWorkspace& ws, Side side, int period) {
   SaveSharedParameters(ws, side, period);
   SideControls& c = ws.Of(side);
   PeriodRecord& record = ws.Record(side, period);
@@ -90,7 +90,7 @@ void SetParameters(SinWorkspace& ws, Side side, std::int16_t period) {
   }
 }
 
-void LoadSharedParameters(SinWorkspace& ws, Side side, std::int16_t period) {
+void LoadSharedParameters(SinWorkspace& ws, Side side, int period) {
   SideControls& c = ws.Of(side);
   const PeriodRecord& record = ws.Record(side, period);
   c.optCourseDateStart->SetValue(true);
@@ -111,7 +111,7 @@ void LoadSharedParameters(SinWorkspace& ws, Side side, std::int16_t period) {
   c.comInflationRate1->SetText(record.InflationRateText);
 }
 
-void GetParameters(SinWorkspace& ws, Side side, std::int16_t period) {
+void GetParameters(SinWorkspace& ws, Side side, int period) {
   LoadSharedParameters(ws, side, period);
   SideControls& c = ws.Of(side);
   const PeriodRecord& record = ws.Record(side, period);
@@ -182,7 +182,7 @@ void ShowCostMode(SinWorkspace& ws, Side side) {
   c.percentLabel->SetCaption(percent ? sin.percentLabelPercent : sin.costLabelFinal);
 }
 
-const std::string& QuantityText(const SinWorkspace& ws, Side side, std::int16_t period) {
+const std::string& QuantityText(const SinWorkspace& ws, Side side, int period) {
   return QuantityListOf(ws, ws.Of(side)).EntryOrLast(ws.Record(side, period).QuantityListIndex);
 }
 

@@ -16,13 +16,13 @@ namespace vicetoll {
 void SetPeriodParameters(SinWorkspace& ws, Side side, std::string_view period);
 
 // Screen to store.
-void SetParameters(SinWorkspace& ws, Side side, std::int16_t period);
+void SetParameters(SinWorkspace& ws, Side side, int period);
 
 // Store to screen: as clicks on the stored options and picks of the stored entries would show it.
-void GetParameters(SinWorkspace& ws, Side side, std::int16_t period);
+void GetParameters(SinWorkspace& ws, Side side, int period);
 
 // The part of GetParameters that all sins share: dates and rates.
-void LoadSharedParameters(SinWorkspace& ws, Side side, std::int16_t period);
+void LoadSharedParameters(SinWorkspace& ws, Side side, int period);
 
 // Opens the options of periods 2 to n, or the frames and radios of those, and closes the rest. What
 // belongs to period 1 is left alone.
@@ -39,7 +39,7 @@ void ShowCostMode(SinWorkspace& ws, Side side);
 
 // The text of the quantity that a stored period counts with: the entry at its position in the list of the
 // unit option that is on now, the last entry for a position past the end.
-const std::string& QuantityText(const SinWorkspace& ws, Side side, std::int16_t period);
+const std::string& QuantityText(const SinWorkspace& ws, Side side, int period);
 
 // Appends the entries of a value list.
 void AppendEntries(const SinWorkspace& ws, DropDownList& list, const ListDefinition& definition);

@@ -12,29 +12,28 @@ namespace vicetoll {
 
 // A period of the workspace's own side as plain values. The quantity is read live: from the list of the
 // unit option that is on now, at the stored position. Throws Fault(Conversion).
-PeriodTerms PeriodTermsOf(const SinWorkspace& ws, Side side, std::int16_t period);
+PeriodTerms PeriodTermsOf(const SinWorkspace& ws, Side side, int period);
 
 // Whether the period counts in sums: its cost box is enabled, and so is the period.
-bool IsCounted(const SinWorkspace& ws, Side side, int period, std::int16_t sideIndex);
+bool IsCounted(const SinWorkspace& ws, Side side, int period, SideIndex sideIndex);
 
 // All four periods with what counts.
-SideTerms SideTermsOf(const SinWorkspace& ws, Side side, std::int16_t sideIndex);
+SideTerms SideTermsOf(const SinWorkspace& ws, Side side, SideIndex sideIndex);
 
 // Shows the message for a date out of range and lets the calculation go on.
 DateWarning WarningOf(const SinWorkspace& ws);
 
 // The operations under the workspace's names; labels, balances and rates as in the engine.
-double CostInPeriod(const SinWorkspace& ws, Side side, std::int16_t period);
-double CumulativeCostInPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost,
-                              std::int16_t period, std::string_view calculateToDate);
+double CostInPeriod(const SinWorkspace& ws, Side side, int period);
+double CumulativeCostInPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost, int period,
+                              std::string_view calculateToDate);
 double CumulativeCostBetweenPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost,
-                                   std::int16_t period, std::string_view stop, std::string_view start);
+                                   int period, std::string_view stop, std::string_view start);
 
 // The balance from nothing after `count` months of `months`. Where that is none, nothing is read from the
 // store: 0, also for a period that holds no texts yet. Two sins differ: the future side of Drinking
 // takes the stored list position for the daily quantity, and the future side of Jailing knows no yearly
 // increase.
-double TotalCostInCurrentPeriod(const SinWorkspace& ws, Side side, double count, double months,
-                                std::int16_t period);
+double TotalCostInCurrentPeriod(const SinWorkspace& ws, Side side, double count, double months, int period);
 
 }  // namespace vicetoll

@@ -25,7 +25,7 @@ struct Session {
 
   std::string CurrentSinKey = "Smoking";
   // The side in front: a switch of sins sets the past side's number, the tabs move it.
-  std::int16_t CurrentSinNumber = 1;
+  SideIndex CurrentSinNumber = SideIndexOf(0, Side::Past);
   // By position: the sin's workspace was left through the chooser.
   std::array<bool, kSinCount> SinVisited{};
 };

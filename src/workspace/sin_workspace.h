@@ -97,8 +97,8 @@ struct SideControls {
 
 // The fields of a side that steps and reports keep between events.
 struct SideState {
-  std::int16_t CurrentPeriod = 0;   // on screen
-  std::int16_t PreviousPeriod = 0;  // selected before it
+  int CurrentPeriod = 0;   // on screen
+  int PreviousPeriod = 0;  // selected before it
   // Where the figure at the chosen future date starts: the stop of the last period that counts.
   std::string BeginManualDate;
 };
@@ -124,7 +124,7 @@ class SinWorkspace : public Form {
   const SinRow& Sin() const { return sin_; }
   int Position() const { return position_; }
   CostClass Class() const { return sin_.costClass; }
-  std::int16_t SideIndex(Side side) const { return SideIndexOf(position_, side); }
+  vicetoll::SideIndex SideIndex(Side side) const { return SideIndexOf(position_, side); }
   PeriodRecord& Record(Side side, int period) const { return Store().At(period, SideIndex(side)); }
 
   SideControls& Of(Side side) { return sides_[static_cast<int>(side)]; }

@@ -16,7 +16,7 @@ void WriteZeroIfEmpty(TextBox& box) {
   if (box.Text().empty()) box.SetText("0");
 }
 
-void ShowDates(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+void ShowDates(SinWorkspace& ws, Side side, SideIndex sideIndex) {
   SideControls& c = ws.Of(side);
   for (int p = 1; p <= kPeriodCount; ++p) {
     const PeriodRecord& record = ws.Store().At(p, sideIndex);
@@ -74,7 +74,7 @@ void FillFutureDates(SinWorkspace& ws, const std::string& anchor, std::int16_t y
 
 }  // namespace
 
-void RefreshResults(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+void RefreshResults(SinWorkspace& ws, Side side, SideIndex sideIndex) {
   SideControls& c = ws.Of(side);
   for (int p = 1; p <= kPeriodCount; ++p) {
     PeriodRecord& record = ws.Store().At(p, sideIndex);
@@ -87,7 +87,7 @@ void RefreshResults(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
   }
 }
 
-void PopulateResults(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+void PopulateResults(SinWorkspace& ws, Side side, SideIndex sideIndex) {
   SideControls& c = ws.Of(side);
   const SideResults results = EvaluateSide(SideTermsOf(ws, side, sideIndex), WarningOf(ws));
   for (int p = 1; p <= kPeriodCount; ++p) {
@@ -97,11 +97,11 @@ void PopulateResults(SinWorkspace& ws, Side side, std::int16_t sideIndex) {
   c.txtResultsTotal->SetText(results.total);
 }
 
-std::string CumulativeChainFuture(SinWorkspace& ws, std::int16_t sideIndex, const std::string& opening) {
+std::string CumulativeChainFuture(SinWorkspace& ws, SideIndex sideIndex, const std::string& opening) {
   return CumulativeChain(SideTermsOf(ws, Side::Future, sideIndex), opening, WarningOf(ws));
 }
 
-CountedPeriods CountedOf(const SinWorkspace& ws, Side side, std::int16_t sideIndex) {
+CountedPeriods CountedOf(const SinWorkspace& ws, Side side, SideIndex sideIndex) {
   CountedPeriods counted;
   for (int p = kPeriodCount; p >= 1; --p) {
     const PeriodRecord& record = ws.Store().At(p, sideIndex);
@@ -114,13 +114,12 @@ CountedPeriods CountedOf(const SinWorkspace& ws, Side side, std::int16_t sideInd
   return counted;
 }
 
-std::string PastCarriedIntoFuture(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide) {
+std::string PastCarriedIntoFuture(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
   const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
   const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
   const double opening = CumulativeCostBetweenPeriod(
-      ws, Side::Past, ws.Of(Side::Past).txtCumulativeResultsPeriod(past.last).Text(),
-      static_cast<std::int16_t>(past.last), ws.Store().At(past.last, pastSide).StopLabel,
-      ws.Store().At(future.first, futureSide).StartLabel);
+      ws, Side::Past, ws.Of(Side::Past).txtCumulativeResultsPeriod(past.last).Text(), past.last,
+      ws.Store().At(past.last, pastSide).StopLabel, ws.Store().At(future.first, futureSide).StartLabel);
   return CumulativeChainFuture(ws, futureSide, NumberToText(opening));
 }
 
@@ -128,8 +127,8 @@ namespace {
 
 // The balance of all that counts at its last stop, as text; empty where nothing counts.
 std::string BalanceOfBothSides(SinWorkspace& ws, const CountedPeriods& past, const CountedPeriods& future,
-                               std::int16_t futureSide, std::int16_t pastSide) {
-  if (past.worthCounting && future.worthCounting) return PastCarriedIntoFuture(ws, futureSide, pastSide);
+                               SideIndex pastSide, SideIndex futureSide) {
+  if (past.worthCounting && future.worthCounting) return PastCarriedIntoFuture(ws, pastSide, futureSide);
   if (future.worthCounting) return ws.Of(Side::Future).txtCumulativeResultsPeriod(future.last).Text();
   if (past.worthCounting) return ws.Of(Side::Past).txtCumulativeResultsPeriod(past.last).Text();
   return {};
@@ -137,16 +136,16 @@ std::string BalanceOfBothSides(SinWorkspace& ws, const CountedPeriods& past, con
 
 }  // namespace
 
-void UpdateCombinedCumulative(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide) {
+void UpdateCombinedCumulative(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
   for (Side side : kSides) WriteZeroIfEmpty(*ws.Of(side).txtResultsTotal);
   const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
   const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
   const bool anything = past.worthCounting || future.worthCounting;
   ws.txtCumulativeResultsTotalSummaryTot->SetText(
-      anything ? BalanceOfBothSides(ws, past, future, futureSide, pastSide) : "0");
+      anything ? BalanceOfBothSides(ws, past, future, pastSide, futureSide) : "0");
 }
 
-void UpdateTotalTab(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide) {
+void UpdateTotalTab(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
   ShowDates(ws, Side::Past, pastSide);
   ShowDates(ws, Side::Future, futureSide);
   ws.cmdCumulativeFutureDateTot->SetEnabled(false);
@@ -176,7 +175,7 @@ void UpdateTotalTab(SinWorkspace& ws, std::int16_t futureSide, std::int16_t past
   }
 
   ws.txtCumulativeResultsTotalSummaryTot->SetText(
-      BalanceOfBothSides(ws, pastCounted, futureCounted, futureSide, pastSide));
+      BalanceOfBothSides(ws, pastCounted, futureCounted, pastSide, futureSide));
   const std::string anchor = futureCounted.worthCounting
                                  ? ws.Store().At(futureCounted.last, futureSide).StopLabel
                                  : ws.Store().At(pastCounted.last, pastSide).StopLabel;
@@ -184,7 +183,7 @@ void UpdateTotalTab(SinWorkspace& ws, std::int16_t futureSide, std::int16_t past
   EvaluateFutureDate(ws, anchor);
 }
 
-void UpdateFutureDateTotal(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide) {
+void UpdateFutureDateTotal(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
   const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
   const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
   std::string& pastDate = ws.State(Side::Past).BeginManualDate;

@@ -11,19 +11,19 @@ namespace vicetoll {
 
 // Brings the result boxes of the set periods in line with their radios and evaluates the side, once per
 // set period, with the flags as they then stand.
-void RefreshResults(SinWorkspace& ws, Side side, std::int16_t sideIndex);
+void RefreshResults(SinWorkspace& ws, Side side, SideIndex sideIndex);
 
 // Evaluates a side into its boxes.
-void PopulateResults(SinWorkspace& ws, Side side, std::int16_t sideIndex);
+void PopulateResults(SinWorkspace& ws, Side side, SideIndex sideIndex);
 
 // The future side's final balance from an opening balance; empty if no period counts.
-std::string CumulativeChainFuture(SinWorkspace& ws, std::int16_t sideIndex, const std::string& opening);
+std::string CumulativeChainFuture(SinWorkspace& ws, SideIndex sideIndex, const std::string& opening);
 
 // Fills the TOTAL tab; runs each time it is opened.
-void UpdateTotalTab(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide);
+void UpdateTotalTab(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide);
 
 // Evaluates the figure at the chosen future date, leaving the list of dates as it is.
-void UpdateFutureDateTotal(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide);
+void UpdateFutureDateTotal(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide);
 
 // Appends "0%" to "100%" to the two rate lists of the TOTAL tab. They are not emptied, so they grow by
 // 101 entries at every change of tab.
@@ -34,15 +34,15 @@ struct CountedPeriods {
   int first = 0, last = 0;     // period numbers, 0 where nothing counts
   bool worthCounting = false;  // something counts, and the side's total is not zero
 };
-CountedPeriods CountedOf(const SinWorkspace& ws, Side side, std::int16_t sideIndex);
+CountedPeriods CountedOf(const SinWorkspace& ws, Side side, SideIndex sideIndex);
 
 // The balance of both sides at the last stop, as text: the future chain opened with the past's balance
 // grown over the gap between them. Both sides must be worth counting.
-std::string PastCarriedIntoFuture(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide);
+std::string PastCarriedIntoFuture(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide);
 
 // A short form of UpdateTotalTab for the table over all sins: brings txtCumulativeResultsTotalSummaryTot up
 // to date and leaves the rest of the tab alone. Where there is nothing it writes "0", not "n/a".
-void UpdateCombinedCumulative(SinWorkspace& ws, std::int16_t futureSide, std::int16_t pastSide);
+void UpdateCombinedCumulative(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide);
 
 // Smoking's euro button goes for good, and the window, which was higher to make room for it, is lowered.
 void RetireEuroButton(SinWorkspace& ws);

@@ -206,7 +206,7 @@ TEST_F(DocTextTest, IndexIsResetInEveryRunTheTotalsOnDemand) {
   Write(ws, Side::Future, 1, {"Jan - 2000", "Jan - 2000"});
   ws.CurrentIndexSub = 50;
   ws.CurrentCumulativeCost = 1000;
-  DocText(ws, Side::Future, false, false, ws.CurrentIndexSub, 2);
+  DocText(ws, Side::Future, false, false, ws.CurrentIndexSub, SideIndex(2));
   EXPECT_EQ(ws.CurrentIndexSub, 1);
   EXPECT_NEAR(ws.CurrentCumulativeCost, 1060.84, 1e-9);
 }

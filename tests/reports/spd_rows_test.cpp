@@ -338,9 +338,9 @@ TEST_F(SpdRowsTest, CountedPeriodsAreReadUnderTheGivenNumber) {
   SinWorkspace& ws = world.At("Smoking");
   Write(ws, Side::Past, 1, {"Jan - 2000", "Feb - 2000"});
   Write(ws, Side::Past, 2, {"Mar - 2000", "Mar - 2000"});
-  world.session.store.At(1, 3).PeriodEnabled = false;
-  world.session.store.At(2, 3).PeriodEnabled = true;
-  BuildSpdRows(ws, Side::Past, Rows(), true, true, ws.CurrentIndexSub, 3);
+  world.session.store.At(1, SideIndex(3)).PeriodEnabled = false;
+  world.session.store.At(2, SideIndex(3)).PeriodEnabled = true;
+  BuildSpdRows(ws, Side::Past, Rows(), true, true, ws.CurrentIndexSub, SideIndex(3));
   EXPECT_EQ(Column(2), (Cells{"Mar - 2000"}));
 }
 
@@ -349,10 +349,10 @@ TEST_F(SpdRowsTest, GapsAreReadUnderTheGivenNumber) {
   SinWorkspace& ws = world.At("Smoking");
   Write(ws, Side::Past, 1, {"Jan - 2000", "Feb - 2000"});
   Write(ws, Side::Past, 2, {"Mar - 2000", "Mar - 2000"});
-  for (int p : {1, 2}) world.session.store.At(p, 3).PeriodEnabled = true;
-  world.session.store.At(1, 3).StopLabel = "Jan - 1990";
-  world.session.store.At(2, 3).StartLabel = "Mar - 1990";
-  BuildSpdRows(ws, Side::Past, Rows(), true, true, ws.CurrentIndexSub, 3);
+  for (int p : {1, 2}) world.session.store.At(p, SideIndex(3)).PeriodEnabled = true;
+  world.session.store.At(1, SideIndex(3)).StopLabel = "Jan - 1990";
+  world.session.store.At(2, SideIndex(3)).StartLabel = "Mar - 1990";
+  BuildSpdRows(ws, Side::Past, Rows(), true, true, ws.CurrentIndexSub, SideIndex(3));
   EXPECT_EQ(Column(2), (Cells{"Jan - 2000", "Feb - 2000", "Feb - 1990", "Mar - 2000"}));
 }
 
@@ -361,7 +361,7 @@ TEST_F(SpdRowsTest, WithoutClearingTheRowsGoOn) {
   Write(ws, Side::Future, 1, {"Jan - 2000", "Feb - 2000"});
   Build(ws, Side::Future);
   world.Spd().Show();
-  BuildSpdRows(ws, Side::Future, Rows(), false, false, ws.CurrentIndexSub, 2);
+  BuildSpdRows(ws, Side::Future, Rows(), false, false, ws.CurrentIndexSub, SideIndex(2));
   EXPECT_EQ(Column(0), (Cells{"1", "2", "3", "4"}));
   EXPECT_EQ(Column(7), (Cells{"$61", "$122", "$183", "$243"}));  // 243.36
   EXPECT_TRUE(world.Spd().Shown());

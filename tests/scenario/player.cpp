@@ -352,7 +352,7 @@ void Player::ShowEntries(DropDownList& list) {
 }
 
 void Player::ShowRecord(int period, int side) {
-  const PeriodRecord& r = program_->GetSession().store.At(period, side);
+  const PeriodRecord& r = program_->GetSession().store.At(period, SideIndex(side));
   std::string line = "record " + std::to_string(period) + " " + std::to_string(side);
   const auto add = [&line](const char* name, const std::string& value) {
     line += std::string(" ") + name + "=" + value;
@@ -417,7 +417,7 @@ void Player::ShowGlobals() {
   for (const bool flag : session.SinVisited) visited += flag ? '1' : '0';
   print_("globals CurrencyIsDollar=" + Flag(session.CurrencyIsDollar()) +
          " CurrentSinKey=" + Quoted(session.CurrentSinKey) +
-         " CurrentSinNumber=" + std::to_string(session.CurrentSinNumber) + " SinVisited=" + visited);
+         " CurrentSinNumber=" + std::to_string(session.CurrentSinNumber.Number()) + " SinVisited=" + visited);
 }
 
 void Player::CallOperationLine(Line& line) {

@@ -151,8 +151,11 @@ TEST_F(Combined, ExitHidesTheWindowAndKeepsItsTicks) {
 }
 
 TEST_F(Combined, ARowOutsideTheTableIsAFault) {
+  const SideIndex past = run.Smoking().SideIndex(Side::Past);
+  const SideIndex future = run.Smoking().SideIndex(Side::Future);
   for (const int row : {-1, kSinCount})
-    EXPECT_EQ(FaultOf([&] { Table().GetIndividualSinValues(run.Smoking(), row, 1, 2); }), FaultKind::Index);
+    EXPECT_EQ(FaultOf([&] { Table().GetIndividualSinValues(run.Smoking(), row, past, future); }),
+              FaultKind::Index);
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ TEST_F(Switching, AtTheStartSmokingAloneIsThere) {
   EXPECT_EQ(program.Windows().size(), 1u);
   EXPECT_EQ(Shown(), std::vector<std::string>{"Smoking"});
   EXPECT_EQ(session.CurrentSinKey, "Smoking");
-  EXPECT_EQ(session.CurrentSinNumber, 1);
+  EXPECT_EQ(session.CurrentSinNumber.Number(), 1);
   EXPECT_TRUE(session.CurrencyIsDollar());
   EXPECT_TRUE(session.SinVisited[0]);
   EXPECT_EQ(Visited(), 1);
@@ -57,7 +57,7 @@ TEST_F(Switching, LeavingTheChooserChangesNothingButTheVisit) {
   ASSERT_EQ(ExitOfChooser().UserClicks(), UserOutcome::Done);
   EXPECT_EQ(Shown(), std::vector<std::string>{"Gambling"});
   EXPECT_EQ(session.CurrentSinKey, "Gambling");
-  EXPECT_EQ(session.CurrentSinNumber, 6);
+  EXPECT_EQ(session.CurrentSinNumber.Number(), 6);
   for (int i = 0; i < kSinCount; ++i) EXPECT_TRUE(program.At(i).cmdSwitchSins->Enabled());
 }
 
@@ -67,7 +67,7 @@ TEST_F(Switching, ASwitchShowsTheTargetAlone) {
     EXPECT_EQ(&ws, &program.At(i));
     EXPECT_EQ(Shown(), std::vector<std::string>{std::string(Catalogue()[i].key)});
     EXPECT_EQ(session.CurrentSinKey, Catalogue()[i].key);
-    EXPECT_EQ(session.CurrentSinNumber, 2 * i + 1);
+    EXPECT_EQ(session.CurrentSinNumber.Number(), 2 * i + 1);
     EXPECT_TRUE(program.Chooser().Get<Frame>("frameSwitchSins").Visible());
     EXPECT_TRUE(ExitOfChooser().Enabled());
     for (int k = 0; k < kSinCount; ++k) EXPECT_TRUE(program.At(k).cmdSwitchSins->Enabled());
@@ -87,10 +87,10 @@ TEST_F(Switching, TheFirstSwitchCreatesAllWorkspacesAndLoadsTheOneChosen) {
 
 TEST_F(Switching, ASwitchReturnsToThePastTabAndItsNumber) {
   run.Enter("Gambling", Side::Future);
-  EXPECT_EQ(session.CurrentSinNumber, 6);
+  EXPECT_EQ(session.CurrentSinNumber.Number(), 6);
   run.Enter("Jailing", Side::Future);
   run.Enter("Gambling");
-  EXPECT_EQ(session.CurrentSinNumber, 5);
+  EXPECT_EQ(session.CurrentSinNumber.Number(), 5);
   EXPECT_EQ(run.Front().SSTab_PastFutureSwitch->Tab(), kPastTab);
 }
 
@@ -137,7 +137,7 @@ TEST_F(Switching, ASinMayBeChosenForItself) {
   run.Front().cmdSwitchSins->UserClicks();
   program.Chooser().Get<Option>("OptSwitchSins", 2).UserClicks();
   EXPECT_EQ(Shown(), std::vector<std::string>{"Gambling"});
-  EXPECT_EQ(session.CurrentSinNumber, 5);
+  EXPECT_EQ(session.CurrentSinNumber.Number(), 5);
   EXPECT_EQ(run.Front().SSTab_PastFutureSwitch->Tab(), kPastTab);
 }
 

@@ -71,10 +71,10 @@ TEST(Catalogue, FindsNoPositionForOtherWords) {
 }
 
 TEST(Catalogue, NumbersTheSidesOddAndEven) {
-  EXPECT_EQ(SideIndexOf(0, Side::Past), 1);
-  EXPECT_EQ(SideIndexOf(0, Side::Future), 2);
-  EXPECT_EQ(SideIndexOf(SinPosition("Soliciting"), Side::Past), 17);
-  EXPECT_EQ(SideIndexOf(SinPosition("Shopping"), Side::Future), 24);
+  EXPECT_EQ(SideIndexOf(0, Side::Past).Number(), 1);
+  EXPECT_EQ(SideIndexOf(0, Side::Future).Number(), 2);
+  EXPECT_EQ(SideIndexOf(SinPosition("Soliciting"), Side::Past).Number(), 17);
+  EXPECT_EQ(SideIndexOf(SinPosition("Shopping"), Side::Future).Number(), 24);
 }
 
 TEST(Catalogue, ChooserAndCheckBoxDifferByOneLetterInSolicitingOnly) {

@@ -94,7 +94,7 @@ void Invariants::Before(const UserAction& action) {
 // of the other date. All of these stay behind the period before, except that in a December the whole
 // present year counts as near on the future side and moves the lower end back to its January.
 void Invariants::NoteDates(SinWorkspace& ws, Side side, const UserAction& action) {
-  SideHistory& history = histories_[ws.SideIndex(side)];
+  SideHistory& history = histories_[ws.SideIndex(side).Number()];
   SideControls& c = ws.Of(side);
   const bool fine = c.optFineDateStart->Value() || c.optFineDateStop->Value();
   if (side == Side::Future && action.kind == ActionKind::Tab && action.numbers[0] == kFutureTab &&
@@ -134,7 +134,7 @@ std::optional<Violation> Invariants::After(const UserAction& action) {
 }
 
 void Invariants::NoteEvaluation(SinWorkspace& ws, Side side, const UserAction& action) {
-  SideHistory& history = histories_[ws.SideIndex(side)];
+  SideHistory& history = histories_[ws.SideIndex(side).Number()];
   if (Presses(action, side) && ws.Record(side, 1).PeriodSet) history.evaluated = Evaluated::ByPress;
   if (!ClicksRadio(action, side) || !ws.Record(side, 1).PeriodSet) return;
   for (int p = 1; p <= kPeriodCount; ++p)
@@ -206,7 +206,7 @@ void Invariants::CheckPeriods(SinWorkspace& ws, Side side) {
 }
 
 void Invariants::CheckDates(SinWorkspace& ws, Side side) {
-  const SideHistory& history = histories_[ws.SideIndex(side)];
+  const SideHistory& history = histories_[ws.SideIndex(side).Number()];
   const bool december = side == Side::Future && Present(ws.GetSession()).M == 12;
   for (int p = 1; p <= kPeriodCount && ws.Record(side, p).PeriodSet; ++p) {
     const PeriodRecord& record = ws.Record(side, p);
@@ -224,7 +224,7 @@ void Invariants::CheckDates(SinWorkspace& ws, Side side) {
 
 // A press adds all four boxes, disabled periods too; a radio adds what it leaves to be seen.
 void Invariants::CheckTotal(SinWorkspace& ws, Side side) {
-  const Evaluated evaluated = histories_[ws.SideIndex(side)].evaluated;
+  const Evaluated evaluated = histories_[ws.SideIndex(side).Number()].evaluated;
   if (evaluated == Evaluated::Never) return;
   const SideControls& c = ws.Of(side);
   double sum = 0;

@@ -274,13 +274,13 @@ TEST(LoadingDates, TheFutureBeginsInTheNextMonth) {
 TEST(LoadingDates, TheFirstListsAreShort) {
   RunningProgram run;
   SinWorkspace& ws = run.Smoking();
-  InitializeDates(ws, Side::Past, 1);
+  InitializeDates(ws, Side::Past, SideIndex(1));
   const SideControls& past = ws.Of(Side::Past);
   EXPECT_EQ(past.comStart->Entry(0), "Jan - 1936");
   EXPECT_EQ(past.comStart->Entry(past.comStart->Count() - 1), "Jun - 2016");
   EXPECT_EQ(past.comStart->Text(), "Jun - 2016");
   EXPECT_EQ(past.comStop->Entries(), std::vector<std::string>{"Jun - 2026"});
-  InitializeDates(ws, Side::Future, 2);
+  InitializeDates(ws, Side::Future, SideIndex(2));
   const SideControls& future = ws.Of(Side::Future);
   EXPECT_EQ(future.comStart->Entries(), std::vector<std::string>{"Jul - 2026"});
   EXPECT_EQ(future.comStop->Entry(0), "Jul - 2036");

@@ -152,7 +152,7 @@ TEST_F(TotalTab, ACountedPeriodThatCostsNothingIsNotAvailable) {
   ASSERT_EQ(past.txtResultsTotal->Text(), "$0");
   Open();
   ExpectNothing();
-  UpdateFutureDateTotal(ws, ws.SideIndex(Side::Future), ws.SideIndex(Side::Past));
+  UpdateFutureDateTotal(ws, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future));
   EXPECT_EQ(ws.State(Side::Past).BeginManualDate, "Jun - 2026");
   EXPECT_EQ(ws.State(Side::Future).BeginManualDate, "");
 }
@@ -367,7 +367,7 @@ TEST_F(TotalTab, OnlyTheThirdPeriodOpensWithNothing) {
 
 TEST_F(TotalTab, AFutureChainFromAnOpening) {
   Commit(Side::Future, 1, "Aug - 2026", "Aug - 2026");
-  const std::int16_t side = ws.SideIndex(Side::Future);
+  const SideIndex side = ws.SideIndex(Side::Future);
   EXPECT_EQ(CumulativeChainFuture(ws, side, "1000.4"), "$1,300");
   run.Click(future.rbnDisabledPeriod(1));
   EXPECT_EQ(CumulativeChainFuture(ws, side, "1000.4"), "");
