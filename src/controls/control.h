@@ -209,6 +209,10 @@ class TabControl : public Control {
   int Tab() const { return tab_; }
   void SetTab(int tab);
 
+  // One for each tab.
+  const std::vector<std::string>& PageCaptions() const { return pageCaptions_; }
+  void SetPageCaptions(std::vector<std::string> captions) { pageCaptions_ = std::move(captions); }
+
   UserOutcome UserSelects(int tab);
   std::function<void()> onChange;
 
@@ -217,6 +221,7 @@ class TabControl : public Control {
 
  private:
   int tab_ = 0;
+  std::vector<std::string> pageCaptions_;
 };
 
 }  // namespace vicetoll

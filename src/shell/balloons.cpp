@@ -1,16 +1,33 @@
 #include "shell/balloons.h"
 
+#include <map>
+
 #include "base/fault.h"
-#include "shell/balloon_texts.h"
+#include "workspace/control_rows.h"
 
 namespace vicetoll {
+namespace {
+
+// By their turns, and by the order of the design where these are equal.
+std::multimap<int, Balloon> BalloonsOf(const SinRow& sin) {
+  std::multimap<int, Balloon> balloons;
+  ForEachRow(sin, [&](const ControlRow& row, const DesignSection& section) {
+    const Side side = section.side.value_or(Side::Past);
+    for (const auto& [turn, text] : row.balloons)
+      if (!text[side].empty())
+        balloons.insert(
+            {turn[side], {row.name.Fill({sin, section.side, section.page}), std::string(text[side])}});
+  });
+  return balloons;
+}
+
+}  // namespace
 
 void Balloons::AttachToolTips(int position, SinWorkspace& workspace) {
   At(position).balloons.clear();
   At(position).active = true;
-  for (const BalloonRow& row : BalloonRows())
-    if (!workspace.FindAll(row.control).empty()) AddBalloon(position, row.control, row.text);
-  if (workspace.cmdEuro != nullptr) AddBalloon(position, EuroBalloon().control, EuroBalloon().text);
+  for (const auto& [turn, balloon] : BalloonsOf(workspace.Sin()))
+    AddBalloon(position, balloon.control, balloon.text);
 }
 
 void Balloons::AddBalloon(int position, std::string_view control, std::string_view text) {

@@ -1,63 +1,29 @@
 #include "shell/identification.h"
 
+#include <map>
+#include <string>
+
+#include "workspace/control_rows.h"
+
 namespace vicetoll {
 namespace {
 
 constexpr int kDelay = 100;  // milliseconds, between controls and between letters
 
-// The controls that fade, in this order. An array's name means all its elements.
-constexpr std::string_view kHead[] = {"SSTab_PastFutureSwitch", "SSPanel_BackColor"};
-constexpr std::string_view kFading[] = {
-    "frmSummaryPast",
-    "lblResultsPeriodPast",
-    "lblResultsTotalSummaryPast",
-    "txtResultsPeriodPast",
-    "txtResultsTotalSummaryPast",
-    "Label2",
-    "Label1",
-    "lblSummaryButtonsPast",
-    "cmdAdvResultsDocSummaryPast",
-    "cmdAdvResultsSpdSummaryPast",
-    "txtCumulativeResultsPeriodPast",
-    "lblFirstDatePast",
-    "lblTo",
-    "lblLastDatePast",
-    "frmSummaryfut",
-    "lblResultsPeriodFut",
-    "lblResultsTotalSummaryFut",
-    "txtResultsPeriodFut",
-    "txtResultsTotalSummaryFut",
-    "Label6",
-    "Label4",
-    "lblSummaryButtonsFut",
-    "cmdAdvResultsDocSummaryFut",
-    "cmdAdvResultsSpdSummaryFut",
-    "txtCumulativeResultsPeriodFut",
-    "lblFirstDateFut",
-    "lblTo",
-    "lblLastDateFut",
-    "frmCumulativeResultsTotalFutureDateTot",
-    "frmSummarytot",
-    "lblResultsTotalSummaryTot",
-    "lblCumulativeResultsTotalSummaryTot",
-    "txtResultsTotalSummaryTot",
-    "txtCumulativeResultsTotalSummaryTot",
-    "lblSummaryButtonsTot",
-    "cmdAdvResultsDocSummaryTot",
-    "cmdAdvResultsSpdSummaryTot",
-    "lblInterestRateFutureDateTot",
-    "lblInflationRateFutureDateTot",
-    "comInterestRateFutureDateTot",
-    "comInflationRateFutureDateTot",
-    "lblCumulativeFutureDateTot",
-    "comCumulativeFutureDateTot",
-    "txtCumulativeFutureDateTot",
-    "cmdCumulativeFutureDateTot",
-    "frmCumulativeResultsTotalFutureDateTot",
-    "frmSummarytot",
-    "SSPanel_BackColor",
-    "SSTab_PastFutureSwitch",
-};
+// The tab control and its panels go first and come last.
+constexpr int kLastOfHead = 10;
+
+// The names of the controls that fade, by their turns. An array's name means all its elements.
+std::multimap<int, std::string> FadingOf(const SinRow& sin) {
+  std::multimap<int, std::string> names;
+  ForEachRow(sin, [&](const ControlRow& row, const DesignSection& section) {
+    for (const int turn : row.fades)
+      if (turn != 0)
+        names.insert({turn + (section.side == Side::Future ? kFutureFades : 0),
+                      row.name.Fill({sin, section.side, section.page})});
+  });
+  return names;
+}
 
 struct RevealLine {
   std::string_view text;
@@ -75,10 +41,6 @@ constexpr RevealLine kRevealLines[] = {
     {"Who lived in Fernholt", 2900, 2},
     {"In the Lower Wendle District", 900, 2},
 };
-
-void SetVisible(SinWorkspace& ws, std::string_view name, bool visible) {
-  for (Control* control : ws.FindAll(name)) control->SetVisible(visible);
-}
 
 void AskAndReveal(SinWorkspace& ws) {
   const Answer answer = ws.GetPlatform().ShowMessage(
@@ -109,14 +71,10 @@ void RevealDeveloper(SinWorkspace& ws) {
 
 void SetSummaryVisibility(SinWorkspace& ws, bool visible, int delay) {
   ws.SSTab_PastFutureSwitch->SetTab(kTotalTab);
-  for (std::string_view name : kHead) {
-    SetVisible(ws, name, visible);
-    // On the way out tab and panel go without a pause.
-    if (visible) ws.GetPlatform().Pause(delay);
-  }
-  for (std::string_view name : kFading) {
-    SetVisible(ws, name, visible);
-    ws.GetPlatform().Pause(delay);
+  for (const auto& [turn, name] : FadingOf(ws.Sin())) {
+    for (Control* control : ws.FindAll(name)) control->SetVisible(visible);
+    // On the way out the head goes without a pause.
+    if (visible || turn > kLastOfHead) ws.GetPlatform().Pause(delay);
   }
 }
 

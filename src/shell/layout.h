@@ -1,4 +1,5 @@
-// The fixed layout of a workspace, in twips (1440 to the inch).
+// The layout of a workspace beyond its design: the window's size and what follows it, in twips (1440 to the
+// inch).
 #pragma once
 
 #include "workspace/sin_workspace.h"
@@ -8,9 +9,6 @@ namespace vicetoll {
 // The size of every workspace; Smoking is higher by kEuroRow while its euro button is shown.
 inline constexpr int kWindowWidth = 12000;
 inline constexpr int kWindowHeight = 10500;
-
-// Puts all controls in their design places. Called once, when the workspace is made.
-void PlaceDesign(SinWorkspace& ws);
 
 // Brings the window to its fixed size, lays out the bottom row and the panels, and returns to the first
 // tab. Called at the start and at each switch of sins.

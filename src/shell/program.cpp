@@ -34,7 +34,7 @@ SinWorkspace& Program::At(int position) {
   if (slot) return *slot;
   SinWorkspace& ws = Created(slot, std::make_unique<SinWorkspace>(session_, position));
   MakeStrip(ws);
-  PlaceDesign(ws);
+  vicetoll::ApplyFormLayout(ws);
   Connect(ws);
   // The start does this and more for the window that the program starts with.
   if (!ws.Sin().startsTheProgram) {

@@ -22,12 +22,14 @@ namespace vicetoll {
 inline constexpr int kEuroRow = 750;
 
 enum Tab { kPastTab = 0, kFutureTab = 1, kTotalTab = 2 };
+inline constexpr int kTabCount = 3;
 
 // An array of controls indexed 1..N, as the periods are. Throws Fault(Index) outside.
 template <class T, int N>
 class ControlArray {
  public:
   T& operator()(int index) const { return *elements_[Place(index)]; }
+  bool Has(int index) const { return elements_[Place(index)] != nullptr; }
   void Set(int index, T& control) { elements_[Place(index)] = &control; }
 
  private:

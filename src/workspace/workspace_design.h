@@ -1,7 +1,7 @@
-// The design of a workspace's window: its controls, in the order of reading.
+// Makes a workspace's window from the rows of its design.
 #pragma once
 
-#include "workspace/sin_workspace.h"
+#include "workspace/control_rows.h"
 
 namespace vicetoll {
 
@@ -9,8 +9,10 @@ namespace vicetoll {
 inline constexpr std::string_view kWebAddress = "www.orvane.example";
 inline constexpr std::string_view kWebUrl = "http://www.orvane.example/";
 
-// Makes all controls of the workspace in their design state and enters them in its fields.
-void DesignWorkspace(SinWorkspace& workspace);
+// Makes the controls of the workspace in their design state and places, enters them in its fields and names
+// them. Throws std::logic_error, which says which row and why, where a row does not fit: a container, a
+// label or a word of the catalogue that is not there, a name or a field that is taken, a wrong kind.
+void DesignWorkspace(SinWorkspace& workspace, std::span<const DesignSection> design = WorkspaceDesign());
 
 // Fits the three background panels to the tab control: they leave its head free.
 void FitPanels(SinWorkspace& workspace);

@@ -19,6 +19,16 @@ class WatchedPlatform : public ScriptedPlatform {
   }
 };
 
+// Writes down what disappears or comes back, each name once where its elements go together.
+class Watcher : public FormListener {
+ public:
+  void ControlChanged(Control& control) override {
+    if (names.empty() || names.back() != control.Name()) names.push_back(control.Name());
+  }
+  void FormChanged(Form&) override {}
+  std::vector<std::string> names;
+};
+
 class Identification : public testing::Test {
  protected:
   WatchedPlatform platform;
@@ -116,6 +126,70 @@ TEST_F(Identification, ALineIsTypedBetweenItsLineEnds) {
   EXPECT_EQ(lines, (std::vector<std::string>{"", "", "ab", "", ""}));
   EXPECT_EQ(ws.Canvas()[2].left, 500);
   EXPECT_EQ(platform.paused, 60);
+}
+
+// Each thing once, when it first goes.
+const std::vector<std::string> kOrder = {
+    "SSTab_PastFutureSwitch",
+    "SSPanel_BackColor",
+    "frmSummaryPast",
+    "lblResultsPeriodPast",
+    "lblResultsTotalSummaryPast",
+    "txtResultsPeriodPast",
+    "txtResultsTotalSummaryPast",
+    "Label2",
+    "Label1",
+    "lblSummaryButtonsPast",
+    "cmdAdvResultsDocSummaryPast",
+    "cmdAdvResultsSpdSummaryPast",
+    "txtCumulativeResultsPeriodPast",
+    "lblFirstDatePast",
+    "lblTo",
+    "lblLastDatePast",
+    "frmSummaryfut",
+    "lblResultsPeriodFut",
+    "lblResultsTotalSummaryFut",
+    "txtResultsPeriodFut",
+    "txtResultsTotalSummaryFut",
+    "Label6",
+    "Label4",
+    "lblSummaryButtonsFut",
+    "cmdAdvResultsDocSummaryFut",
+    "cmdAdvResultsSpdSummaryFut",
+    "txtCumulativeResultsPeriodFut",
+    "lblFirstDateFut",
+    "lblLastDateFut",
+    "frmCumulativeResultsTotalFutureDateTot",
+    "frmSummarytot",
+    "lblResultsTotalSummaryTot",
+    "lblCumulativeResultsTotalSummaryTot",
+    "txtResultsTotalSummaryTot",
+    "txtCumulativeResultsTotalSummaryTot",
+    "lblSummaryButtonsTot",
+    "cmdAdvResultsDocSummaryTot",
+    "cmdAdvResultsSpdSummaryTot",
+    "lblInterestRateFutureDateTot",
+    "lblInflationRateFutureDateTot",
+    "comInterestRateFutureDateTot",
+    "comInflationRateFutureDateTot",
+    "lblCumulativeFutureDateTot",
+    "comCumulativeFutureDateTot",
+    "txtCumulativeFutureDateTot",
+    "cmdCumulativeFutureDateTot",
+};
+
+// lblTo, the frames of the totals, panels and tab stand in the list twice; the second time nothing happens.
+TEST_F(Identification, FadesAndComesBackInOneOrder) {
+  Open();
+  SetSummaryVisibility(ws, true, 0);  // also what a period hides that is not set
+  Watcher watcher;
+  ws.SetListener(&watcher);
+  SetSummaryVisibility(ws, false, 0);
+  EXPECT_EQ(watcher.names, kOrder);
+  watcher.names.clear();
+  SetSummaryVisibility(ws, true, 0);
+  EXPECT_EQ(watcher.names, kOrder);
+  ws.SetListener(nullptr);
 }
 
 }  // namespace
