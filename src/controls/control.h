@@ -209,7 +209,7 @@ class TabControl : public Control {
   int Tab() const { return tab_; }
   void SetTab(int tab);
 
-  // One for each tab.
+  // One for each tab; an ampersand stands before the letter of its access key.
   const std::vector<std::string>& PageCaptions() const { return pageCaptions_; }
   void SetPageCaptions(std::vector<std::string> captions) { pageCaptions_ = std::move(captions); }
 

@@ -125,7 +125,8 @@ class PanelView : public ViewOf<Panel, PanelWidget> {
 
 class TabView : public ViewOf<TabControl, TabPages> {
  public:
-  TabView(TabControl& tabs, QWidget* parent, Desktop& desktop) : ViewOf(tabs, new TabPages(parent)) {
+  TabView(TabControl& tabs, QWidget* parent, Desktop& desktop)
+      : ViewOf(tabs, new TabPages(tabs.PageCaptions(), parent)) {
     QObject::connect(widget_->Bar(), &QTabBar::currentChanged,
                      [&tabs, &desktop](int tab) { desktop.Enter([&] { tabs.UserSelects(tab); }); });
   }

@@ -289,7 +289,8 @@ class TallTabBar : public QTabBar {
 
 }  // namespace
 
-TabPages::TabPages(QWidget* parent) : QWidget(parent), bar_(new TallTabBar(this)) {
+TabPages::TabPages(const std::vector<std::string>& captions, QWidget* parent)
+    : QWidget(parent), bar_(new TallTabBar(this)) {
   QFont bold = bar_->font();
   bold.setBold(true);
   bar_->setFont(bold);
@@ -298,9 +299,8 @@ TabPages::TabPages(QWidget* parent) : QWidget(parent), bar_(new TallTabBar(this)
   bar_->setUsesScrollButtons(false);
   bar_->setElideMode(Qt::ElideNone);
   bar_->setFocusPolicy(Qt::StrongFocus);
-  // The access keys are letters that no button of a workspace needs.
-  for (const char* caption : {"&PAST", "FUT&URE", "&TOTAL"}) {
-    bar_->addTab(QString::fromLatin1(caption));
+  for (const std::string& caption : captions) {
+    bar_->addTab(ToQt(caption));
     pages_.push_back(new QWidget(this));
   }
   bar_->move(kTabLeft, kTabTop);

@@ -130,7 +130,8 @@ class PanelWidget : public QWidget {
 // stands on them may stand beside the bar too.
 class TabPages : public QWidget {
  public:
-  explicit TabPages(QWidget* parent);
+  // An ampersand in a caption stands before the letter of its access key.
+  TabPages(const std::vector<std::string>& captions, QWidget* parent);
 
   QTabBar* Bar() const { return bar_; }
   QWidget* Page(int page) const { return pages_.at(page); }

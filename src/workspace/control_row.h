@@ -141,7 +141,7 @@ struct ControlRow {
   constexpr ControlRow Aligned(Label::Align side) const {
     return With([=](ControlRow& row) { row.align = side; });
   }
-  // The captions of a tab control's pages.
+  // The captions of a tab control's pages, an ampersand before the letter of the access key.
   constexpr ControlRow Pages(std::array<std::string_view, kTabCount> captions) const {
     return With([=](ControlRow& row) { row.pages = captions; });
   }

@@ -212,9 +212,10 @@ constexpr auto kRight = vicetoll::Label::Align::Right, kCentre = vicetoll::Label
 // frame the caption has the topmost 300. Panels follow the tabs, the bottom row the window's height.
 
 constexpr Row kTabRows[] = {
+    // The access keys of the tabs are letters that no button needs.
     //  kind    name                                container             left   top  width height  caption
     Row(Tabs,   kTabs,                              kWindow,            {    0,    0, 11990, 8950})
-        .Pages({"PAST", "FUTURE", "TOTAL"}).Is<&W::SSTab_PastFutureSwitch>().Fades(1, 402),
+        .Pages({"&PAST", "FUT&URE", "&TOTAL"}).Is<&W::SSTab_PastFutureSwitch>().Fades(1, 402),
     Row(Panel,  "SSPanel_BackColor",                kTabs,              {  150,  900, 11680, 8050})
         .Array(0, kTabCount, 0, 0).Fades(2, 401),
 };

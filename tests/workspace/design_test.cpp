@@ -338,6 +338,8 @@ TEST_P(Design, StartsWithItsOptionsSetAndItsResultsShut) {
   EXPECT_EQ(ws.comInflationRateFutureDateTot->Text(), "3%");
   EXPECT_TRUE(ws.Get<Option>("optToolTipEnable").Value());
   EXPECT_EQ(ws.SSTab_PastFutureSwitch->Tab(), kPastTab);
+  EXPECT_EQ(ws.SSTab_PastFutureSwitch->PageCaptions(),
+            (std::vector<std::string>{"&PAST", "FUT&URE", "&TOTAL"}));
 }
 
 // All that is shut or hidden at the start; everything else is open.
