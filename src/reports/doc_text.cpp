@@ -37,7 +37,6 @@ class BlockWriter : public MonthSink {
 
   void Add(const ReportMonth& month) override {
     const DocumentMonthWords& words = sin_.month;
-    const auto cell = [&](ColumnKey key) -> string_view { return cells_.Text(key, month); };
     text_ += " Month Number ";
     AppendNumber(text_, month.index);
     text_ += ":";
@@ -52,13 +51,12 @@ class BlockWriter : public MonthSink {
     AppendNumber(text_, month.period);
     AppendLine(text_, {": ", stretch_.from, " to ", stretch_.to});
     WriteUnitCosts(month);
-    AppendLine(text_, {words.outOfPocket, cell(ColumnKey::MonthCost)});
-    AppendLine(text_, {" Monthly Cost of ", words.plural,
-                       " Including Interest for Month: ", cell(ColumnKey::MonthWithInterest)});
-    AppendLine(text_,
-               {" Cumulative Cost of ", words.plural, " Thru Month: ", cell(ColumnKey::CumulativeCost)});
-    AppendLine(text_, {" Cumulative Cost of ", words.plural,
-                       " Thru Month with Interest: ", cell(ColumnKey::CumulativeCostWithInterest)});
+    WriteFigure({words.outOfPocket}, ColumnKey::MonthCost, month);
+    WriteFigure({" Monthly Cost of ", words.plural, " Including Interest for Month: "},
+                ColumnKey::MonthWithInterest, month);
+    WriteFigure({" Cumulative Cost of ", words.plural, " Thru Month: "}, ColumnKey::CumulativeCost, month);
+    WriteFigure({" Cumulative Cost of ", words.plural, " Thru Month with Interest: "},
+                ColumnKey::CumulativeCostWithInterest, month);
     text_ += kRuleLine;
   }
 
@@ -71,12 +69,16 @@ class BlockWriter : public MonthSink {
     return twin ? sin_.month.headingTwin : sin_.month.heading;
   }
 
+  void WriteFigure(std::initializer_list<string_view> before, ColumnKey key, const ReportMonth& month) {
+    for (string_view part : before) text_ += part;
+    cells_.Append(text_, key, month);
+    text_ += kLineEnd;
+  }
+
   // The flat-rate class has a line for the unit cost, though its rows have no cell.
   void WriteUnitCosts(const ReportMonth& month) {
     const DocumentMonthWords& words = sin_.month;
-    const auto line = [&](string_view before, ColumnKey key) {
-      AppendLine(text_, {before, cells_.Text(key, month)});
-    };
+    const auto line = [&](string_view before, ColumnKey key) { WriteFigure({before}, key, month); };
     const bool net = sin_.costClass == CostClass::NetUnitsClass;
     // In the months of future periods coffee and water have no quantity, but the gross cost a second time.
     const bool grossAgain = net && FutureActive();

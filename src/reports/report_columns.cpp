@@ -1,7 +1,6 @@
 #include "reports/report_columns.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "calendar/number_text.h"
 #include "controls/grid.h"
@@ -50,6 +49,18 @@ bool HasColumn(CostClass costClass, ColumnClasses classes) {
 }
 
 bool IsFree(const ReportMonth& month) { return month.kind != MonthKind::Active; }
+
+// One of the first three columns.
+void AppendLabel(std::string& out, ColumnKey key, const ReportMonth& month) {
+  if (key == ColumnKey::Index)
+    AppendNumber(out, month.index);
+  else if (key == ColumnKey::Month)
+    out += month.label;
+  else if (month.kind == MonthKind::Gap)
+    out += kNotApplicable;
+  else
+    AppendNumber(out, month.period);
+}
 
 std::string_view HeadingCell(std::string_view heading, int position) {
   for (; position > 0; --position) TakeCell(heading, '|');
@@ -101,25 +112,34 @@ ReportCells::ReportCells(ReportLayout layout, Currency currency) : layout_(layou
   }
 }
 
-const std::string& ReportCells::Text(const ReportColumn& column, const ReportMonth& month) {
+void ReportCells::Append(std::string& out, const ReportColumn& column, const ReportMonth& month) {
+  if (column.figure == nullptr) return AppendLabel(out, column.key, month);
   Shown& shown = shown_[static_cast<std::size_t>(column.key)];
-  if (column.figure == nullptr) return Label(shown, column.key, month);
-  if (IsFree(month) && !shown.free.empty()) return shown.free;
+  if (IsFree(month) && !shown.free.empty()) {
+    out += shown.free;
+    return;
+  }
+  const CellStyle& style = StyleOf(column);
   const double figure = month.*column.figure;
   if (figure != shown.figure) {
-    const CellStyle& style = StyleOf(column);
+    // Most figures change from month to month: only one that comes again is worth keeping.
     shown.figure = figure;
     shown.text.clear();
-    AppendPadded(shown.text, Format(figure, style.format), style.width);
+    AppendPadded(out, Format(figure, style.format), style.width);
+    return;
   }
-  return shown.text;
+  if (shown.text.empty()) shown.text = Format(figure, style.format);
+  AppendPadded(out, shown.text, style.width);
 }
 
 void ReportCells::AppendLine(std::string& out, const std::vector<const ReportColumn*>& columns,
                              const ReportMonth& month) {
   for (const ReportColumn* column : columns) {
-    if (column != columns.front()) out += " \t";
-    out += Text(*column, month);
+    if (column != columns.front()) {
+      out += ' ';
+      out += '\t';
+    }
+    Append(out, *column, month);
   }
 }
 
@@ -127,28 +147,6 @@ std::string ReportCells::Format(double figure, std::string_view format) const {
   if (!format.starts_with('$')) return FormatNumber(figure, format);
   return layout_ == ReportLayout::Grid ? FormatMoney(currency_, figure, format)
                                        : FormatMoneyLetter(currency_, figure, format);
-}
-
-const std::string& ReportCells::Label(Shown& shown, ColumnKey key, const ReportMonth& month) const {
-  if (key == ColumnKey::Month) return month.label;
-  shown.text.clear();
-  if (key == ColumnKey::Index)
-    AppendNumber(shown.text, month.index);
-  else if (month.kind == MonthKind::Gap)
-    shown.text = kNotApplicable;
-  else
-    AppendNumber(shown.text, month.period);
-  return shown.text;
-}
-
-void AppendPadded(std::string& out, std::string_view text, std::size_t width) {
-  out += text;
-  if (text.size() < width) out.append(width - text.size(), ' ');
-}
-
-void AppendNumber(std::string& out, int number) {
-  char digits[12];
-  out.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
 }
 
 }  // namespace vicetoll

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <charconv>
 #include <limits>
 #include <optional>
 #include <string>
@@ -70,14 +71,16 @@ std::string_view HeadingOf(const SinRow& sin, const ReportColumn& column);
 // The document's amounts have cents where the grid's have none, and the letter "e" for the euro sign.
 enum class ReportLayout { Grid, Document };
 
-// The cells of a layout as texts. A figure that repeats from month to month is formatted once.
+// The cells of a layout as texts. A figure that repeats from month to month is not formatted each time.
 class ReportCells {
  public:
   ReportCells(ReportLayout layout, Currency currency);
 
-  // The cell padded with blanks to the column's width. Valid until the next of its column.
-  const std::string& Text(const ReportColumn& column, const ReportMonth& month);
-  const std::string& Text(ColumnKey key, const ReportMonth& month) { return Text(ColumnOf(key), month); }
+  // Appends the cell, padded with blanks to the column's width.
+  void Append(std::string& out, const ReportColumn& column, const ReportMonth& month);
+  void Append(std::string& out, ColumnKey key, const ReportMonth& month) {
+    Append(out, ColumnOf(key), month);
+  }
 
   // Appends a line of cells: each but the last is followed by a blank and a tab, behind its own padding.
   void AppendLine(std::string& out, const std::vector<const ReportColumn*>& columns,
@@ -85,16 +88,15 @@ class ReportCells {
 
  private:
   struct Shown {
-    double figure = std::numeric_limits<double>::quiet_NaN();  // that `text` shows
-    std::string text;
-    std::string free;  // of a month without cost
+    double figure = std::numeric_limits<double>::quiet_NaN();  // of the last month
+    std::string text;                                          // it as text, once it has come again
+    std::string free;                                          // of a month without cost, padded
   };
 
   const CellStyle& StyleOf(const ReportColumn& column) const {
     return layout_ == ReportLayout::Grid ? column.grid : column.document;
   }
   std::string Format(double figure, std::string_view format) const;
-  const std::string& Label(Shown& shown, ColumnKey key, const ReportMonth& month) const;
 
   ReportLayout layout_;
   Currency currency_;
@@ -102,9 +104,15 @@ class ReportCells {
 };
 
 // Appends the text and blanks up to `width` characters; a longer text as it is.
-void AppendPadded(std::string& out, std::string_view text, std::size_t width);
+inline void AppendPadded(std::string& out, std::string_view text, std::size_t width) {
+  out += text;
+  if (text.size() < width) out.append(width - text.size(), ' ');
+}
 
 // Appends the number's digits.
-void AppendNumber(std::string& out, int number);
+inline void AppendNumber(std::string& out, int number) {
+  char digits[12];
+  out.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+}
 
 }  // namespace vicetoll

@@ -5,10 +5,6 @@ namespace vicetoll {
 SpdRowWriter::SpdRowWriter(const SinWorkspace& ws)
     : columns_(ColumnsOf(ws.Class())), cells_(ReportLayout::Grid, ws.GetSession().currency) {}
 
-void SpdRowWriter::Begin(const ReportStretch& stretch) {
-  rows_.reserve(rows_.size() + static_cast<std::size_t>(stretch.months));
-}
-
 void SpdRowWriter::Add(const ReportMonth& month) {
   line_.clear();
   cells_.AppendLine(line_, columns_, month);

@@ -14,7 +14,7 @@ class SpdRowWriter : public MonthSink {
  public:
   explicit SpdRowWriter(const SinWorkspace& ws);
 
-  void Begin(const ReportStretch& stretch) override;
+  void Begin(const ReportStretch&) override {}
   void Add(const ReportMonth& month) override;
 
   // The rows so far; the writer starts anew.

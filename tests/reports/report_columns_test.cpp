@@ -23,6 +23,12 @@ ReportMonth Month(MonthKind kind) {
   return {.index = 12, .kind = kind, .side = Side::Past, .period = 2, .label = "Jan - 2000"};
 }
 
+std::string Cell(ReportCells& cells, ColumnKey key, const ReportMonth& month) {
+  std::string text;
+  cells.Append(text, key, month);
+  return text;
+}
+
 TEST(ReportColumns, AClassHasItsColumns) {
   using enum ColumnKey;
   EXPECT_EQ(KeysOf(CostClass::FlatRateClass),
@@ -85,15 +91,15 @@ TEST(ReportColumns, LayoutsDifferInCentsWidthsAndTheEuro) {
   month.monthWithInterest = 61.4484;
   ReportCells grid(ReportLayout::Grid, Currency::Euro);
   ReportCells document(ReportLayout::Document, Currency::Euro);
-  EXPECT_EQ(grid.Text(ColumnKey::MonthWithInterest, month),
+  EXPECT_EQ(Cell(grid, ColumnKey::MonthWithInterest, month),
             "\x80"
             "61        ");
-  EXPECT_EQ(document.Text(ColumnKey::MonthWithInterest, month), "e61.45        ");
+  EXPECT_EQ(Cell(document, ColumnKey::MonthWithInterest, month), "e61.45        ");
   const ReportMonth gap = Month(MonthKind::Gap);
-  EXPECT_EQ(grid.Text(ColumnKey::MonthCost, gap),
+  EXPECT_EQ(Cell(grid, ColumnKey::MonthCost, gap),
             "\x80"
             "0");
-  EXPECT_EQ(document.Text(ColumnKey::MonthCost, gap), "e0.00           ");
+  EXPECT_EQ(Cell(document, ColumnKey::MonthCost, gap), "e0.00           ");
 }
 
 // A text that is kept for the next month gives way when the figure changes.
@@ -102,12 +108,12 @@ TEST(ReportColumns, AFigureThatChangesShowsAnew) {
   ReportMonth month = Month(MonthKind::Active);
   const auto shown = [&](double cost) {
     month.monthCost = cost;
-    return cells.Text(ColumnKey::MonthCost, month);
+    return Cell(cells, ColumnKey::MonthCost, month);
   };
   EXPECT_EQ(shown(1), "$1.00       ");
   EXPECT_EQ(shown(1), "$1.00       ");
   EXPECT_EQ(shown(2), "$2.00       ");
-  EXPECT_EQ(cells.Text(ColumnKey::MonthCost, Month(MonthKind::Gap)), "$0");
+  EXPECT_EQ(Cell(cells, ColumnKey::MonthCost, Month(MonthKind::Gap)), "$0");
   EXPECT_EQ(shown(2), "$2.00       ");
 }
 
