@@ -31,7 +31,7 @@ class ControlRows : public testing::Test {
 
 constexpr Place kPlace{120, 300, 1500, 420};
 
-TEST_F(ControlRows, OneRowIsAButtonWithItsBalloonAndAllElse) {
+TEST_F(ControlRows, OneRowIsAButtonAndAllThatBelongsToIt) {
   const Row row =
       Row(ControlKind::Button, "cmdCheer{Fut}", "frmRates{Fut}", kPlace, {"{sin}, {Future}!", &SinRow::key})
           .Tip("Cheers")
