@@ -41,7 +41,17 @@ class Platform {
   // platform that cannot hold a page back prints it at once.
   virtual void PrintKeepingPageOpen(std::string_view text, bool selection) { Print(text, selection); }
 
+  // Asks how to print and prints a picture in SVG on one page. A cancelled dialog prints nothing. A platform
+  // that cannot draw prints the text that says the same.
+  virtual void PrintPicture(std::string_view svg, std::string_view text) {
+    static_cast<void>(svg), Print(text, false);
+  }
+
   virtual void SetClipboard(std::string_view text) = 0;
+  // A picture in PNG, and beside it the text for those who take no picture.
+  virtual void SetClipboardPicture(std::string_view png, std::string_view text) {
+    static_cast<void>(png), SetClipboard(text);
+  }
   virtual std::string Clipboard() = 0;
 
   // The folder that the program lies in, in the encoding of the file system.

@@ -36,6 +36,7 @@ enum class ControlKind {
   Panel,
   Grid,
   DocumentText,
+  Chart,
 };
 
 // A rectangle in twips (1440 to the inch), relative to the control's container.

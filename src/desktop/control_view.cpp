@@ -6,6 +6,7 @@
 #include "controls/document_text.h"
 #include "controls/drop_down_list.h"
 #include "controls/grid.h"
+#include "desktop/chart_module.h"
 #include "desktop/desktop.h"
 #include "desktop/document_view.h"
 #include "desktop/grid_view.h"
@@ -177,6 +178,8 @@ std::unique_ptr<ControlView> MakeView(Control& control, QWidget* parent, Desktop
       return MakeGridView(dynamic_cast<Grid&>(control), parent, desktop);
     case ControlKind::DocumentText:
       return MakeDocumentView(dynamic_cast<DocumentText&>(control), parent, desktop);
+    case ControlKind::Chart:
+      return MakeChartView(dynamic_cast<Chart&>(control), parent, desktop);
     case ControlKind::MenuEntry:
       break;
   }

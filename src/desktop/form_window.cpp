@@ -37,6 +37,7 @@ bool IsModifier(int key) {
 
 // A control that fills its window is named as the window is.
 bool FillsWindow(const Control& control) {
+  if (control.Kind() == ControlKind::Chart) return control.LabelledBy().empty();
   return control.Kind() == ControlKind::Grid || control.Kind() == ControlKind::DocumentText ||
          control.Kind() == ControlKind::TabControl;
 }

@@ -4,6 +4,7 @@
 #include <QTextDocument>
 #include <QTextOption>
 
+#include "desktop/chart_module.h"
 #include "desktop/text.h"
 
 namespace vicetoll {
@@ -33,12 +34,22 @@ void LayOut(QTextDocument& document, QPrinter& printer, std::string_view text, b
 
 }  // namespace
 
-bool PrintJob::Print(std::string_view text) {
-  // Without a printer Qt falls back to PDF, and without a file name that goes nowhere.
+// Without a printer Qt falls back to PDF, and without a file name that goes nowhere.
+bool PrintJob::Begin() {
   if (printer_.outputFormat() == QPrinter::PdfFormat && printer_.outputFileName().isEmpty()) return false;
+  return painter_.begin(&printer_);
+}
+
+bool PrintJob::PrintPicture(std::string_view svg) {
+  if (!Begin()) return false;
+  const QRectF page(QPointF(), printer_.pageRect(QPrinter::DevicePixel).size());
+  return PaintPicture(painter_, page, svg) && printer_.printerState() != QPrinter::Error;
+}
+
+bool PrintJob::Print(std::string_view text) {
   const bool columns = text.find('\t') != std::string_view::npos;
   if (columns) printer_.setPageOrientation(QPageLayout::Landscape);
-  if (!painter_.begin(&printer_)) return false;
+  if (!Begin()) return false;
   QTextDocument document;
   LayOut(document, printer_, text, columns);
   const QSizeF page = document.pageSize();

@@ -16,10 +16,15 @@ class PrintJob {
   // False if the printer takes nothing, as one without paper or file name.
   bool Print(std::string_view text);
 
+  // Prints a picture in SVG as large as the page allows. False as above.
+  bool PrintPicture(std::string_view svg);
+
   // Lets the last page out. False if it could not be written.
   bool Close();
 
  private:
+  bool Begin();
+
   QPrinter printer_;
   QPainter painter_;  // gone before the printer it paints on
 };

@@ -8,6 +8,8 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileDialog>
+#include <QImage>
+#include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTimer>
@@ -92,11 +94,35 @@ std::unique_ptr<PrintJob> QtPlatform::AskAndPrint(std::string_view text, bool se
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   dialog.exec();  // a cancelled dialog prints all the same
   if (print->Print(text)) return print;
+  TellNothingPrinted(printer);
+  return nullptr;
+}
+
+void QtPlatform::TellNothingPrinted(const QPrinter& printer) {
   if (printer.outputFileName().isEmpty())
     Tell(QStringLiteral("Nothing was printed: there is no printer, and no file was named to print to."));
   else
     Tell(QStringLiteral("Nothing was printed: %1 could not be written.").arg(printer.outputFileName()));
-  return nullptr;
+}
+
+void QtPlatform::PrintPicture(std::string_view svg, std::string_view) {
+  ShowChanges();
+  openPrint_.reset();  // the next print lets the open page out
+  PrintJob print;
+  QPrinter& printer = print.Printer();
+  printer.setPageOrientation(QPageLayout::Landscape);
+  QPrintDialog dialog(&printer, QApplication::activeWindow());
+  dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+  if (dialog.exec() != QDialog::Accepted) return;
+  if (!print.PrintPicture(svg) || !print.Close()) TellNothingPrinted(printer);
+}
+
+void QtPlatform::SetClipboardPicture(std::string_view png, std::string_view text) {
+  auto* both = new QMimeData;
+  both->setText(ToQt(text));
+  both->setImageData(
+      QImage::fromData(reinterpret_cast<const uchar*>(png.data()), static_cast<int>(png.size())));
+  QApplication::clipboard()->setMimeData(both);
 }
 
 void QtPlatform::SetClipboard(std::string_view text) { QApplication::clipboard()->setText(ToQt(text)); }

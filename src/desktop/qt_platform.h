@@ -7,6 +7,8 @@
 
 #include "base/platform.h"
 
+class QPrinter;
+
 namespace vicetoll {
 
 // The program's name, as windows and boxes without a title of their own bear it.
@@ -32,7 +34,9 @@ class QtPlatform : public Platform {
   void WriteFile(const std::string& path, std::string_view bytes) override;
   void Print(std::string_view text, bool selection) override;
   void PrintKeepingPageOpen(std::string_view text, bool selection) override;
+  void PrintPicture(std::string_view svg, std::string_view text) override;
   void SetClipboard(std::string_view text) override;
+  void SetClipboardPicture(std::string_view png, std::string_view text) override;
   std::string Clipboard() override;
   std::string ProgramFolder() override;
   void Browse(std::string_view url) override;
@@ -41,6 +45,7 @@ class QtPlatform : public Platform {
  private:
   std::unique_ptr<PrintJob> AskAndPrint(std::string_view text, bool selection);
   void Tell(const QString& text);
+  void TellNothingPrinted(const QPrinter& printer);
   void ShowChanges() const;
 
   // A print whose last page waits for the next print or the end of the run.

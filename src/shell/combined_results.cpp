@@ -109,6 +109,7 @@ void CombinedResults::MakeBottom() {
   cmdExit_ = &Add<Button>({"cmdExit"}, "Exit");
   cmdExit_->SetPlace({kCombinedWidth - kMargin - 2200, kBottom + 250, 2200, 600});
   cmdExit_->onClick = [this] { Hide(); };
+  Add<Button>({"cmdChart"}, "Chart").SetPlace({8000, kBottom + 250, 2200, 600});
 }
 
 void CombinedResults::PopulateCombResultsText() {
@@ -189,6 +190,23 @@ void CombinedResults::PopulateTotals() {
         total = NumberToText(TextToNumber(total) + AmountIn(column.cells[i]->Text()));
     column.total->SetText(total == "0" ? noData : Money(TextToNumber(total)));
   }
+}
+
+SinFigures CombinedResults::Figures() const {
+  // A cell whose text is no amount counts as nothing.
+  const auto bar = [this](std::string caption, const auto& cellOf) {
+    const auto amount = [&](Column column) { return AmountIn(cellOf(columns_[column]).Text()); };
+    return ChartBar{std::move(caption),     amount(kPastCost), amount(kPastBalance), amount(kFutureCost),
+                    amount(kFutureBalance), amount(kCost),     amount(kBalance)};
+  };
+  SinFigures figures;
+  for (int i = 0; i < kSinCount; ++i) {
+    if (!chkWhichSins_[i]->Value()) continue;
+    const auto cell = [i](const ColumnControls& column) -> const TextBox& { return *column.cells[i]; };
+    figures.sins.push_back(bar(chkWhichSins_[i]->Caption(), cell));
+  }
+  figures.total = bar("Total", [](const ColumnControls& column) -> const TextBox& { return *column.total; });
+  return figures;
 }
 
 void CombinedResults::ShowRow(int index) {

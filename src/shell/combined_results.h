@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string>
 
+#include "charts/sins_points.h"
 #include "controls/drop_down_list.h"
 #include "controls/form.h"
 #include "workspace/workspaces.h"
@@ -29,6 +30,9 @@ class CombinedResults : public Form {
 
   // Fills the totals from the rows that are ticked.
   void PopulateTotals();
+
+  // The amounts that the table shows: of each sin that is ticked and has one, and the totals.
+  SinFigures Figures() const;
 
  private:
   enum Column { kPastCost, kPastBalance, kFutureCost, kFutureBalance, kCost, kBalance, kColumns };

@@ -73,13 +73,23 @@ void Program::Connect(SinWorkspace& ws) {
   };
   ws.Get<Button>("cmdHelp").onClick = [this] { Info().ShowHelpFile(); };
   ws.Get<Button>("cmdFaq").onClick = [this] { Info().ShowInfoFile(); };
+  ws.Get<Button>("cmdGrowthChart").onClick = [this] { Growth().Show(); };
   ConnectReports(ws, *this, *this);
   balloons_.ConnectOptions(ws);
   ConnectIdentification(ws);
   if (ws.Sin().startsTheProgram) ConnectSmokingExtras(ws);
 }
 
-void Program::FollowUser() { UpdateStrip(Current()); }
+void Program::FollowUser() {
+  if (ended_) return;
+  UpdateStrip(Current());
+  FollowCharts();
+}
+
+void Program::FollowCharts() {
+  if (growth_ && growth_->Shown()) growth_->Follow(Current());
+  if (sinsChart_ && sinsChart_->Shown()) sinsChart_->Follow(Combined().Figures(), session_.currency);
+}
 
 void Program::ApplyFormLayout(SinWorkspace& workspace) { vicetoll::ApplyFormLayout(workspace); }
 
@@ -96,11 +106,22 @@ SpdWindow& Program::Spd() { return spd_ ? *spd_ : Created(spd_, std::make_unique
 DocWindow& Program::Doc() { return doc_ ? *doc_ : Created(doc_, std::make_unique<DocWindow>(*this)); }
 
 CombinedResults& Program::Combined() {
-  return combined_ ? *combined_ : Created(combined_, std::make_unique<CombinedResults>(*this));
+  if (combined_) return *combined_;
+  CombinedResults& made = Created(combined_, std::make_unique<CombinedResults>(*this));
+  made.Get<Button>("cmdChart").onClick = [this] { SinsChart().Show(); };
+  return made;
 }
 
 InfoWindow& Program::Info() {
   return info_ ? *info_ : Created(info_, std::make_unique<InfoWindow>(session_.platform));
+}
+
+GrowthWindow& Program::Growth() {
+  return growth_ ? *growth_ : Created(growth_, std::make_unique<GrowthWindow>(session_.platform));
+}
+
+SinsChartWindow& Program::SinsChart() {
+  return sinsChart_ ? *sinsChart_ : Created(sinsChart_, std::make_unique<SinsChartWindow>(session_.platform));
 }
 
 Form* Program::Window(std::string_view name) {
@@ -110,6 +131,8 @@ Form* Program::Window(std::string_view name) {
   if (name == "frmAdvResultsSpd") return &Spd();
   if (name == "frmCombRes") return &Combined();
   if (name == "frmInfo") return &Info();
+  if (name == "frmGrowth") return &Growth();
+  if (name == "frmSinsChart") return &SinsChart();
   return nullptr;
 }
 
@@ -120,6 +143,8 @@ void Program::UnloadAllWindows() {
   Spd().Hide();
   Combined().Hide();
   Info().Hide();
+  if (growth_) growth_->Hide();
+  if (sinsChart_) sinsChart_->Hide();
   ended_ = true;
 }
 

@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "charts/growth_window.h"
+#include "charts/sins_chart_window.h"
 #include "reports/report_windows.h"
 #include "shell/balloons.h"
 #include "shell/chooser.h"
@@ -40,6 +42,8 @@ class Program final : public Workspaces, public SinSwitching, public ReportWindo
   SinChooser& Chooser();
   CombinedResults& Combined();
   InfoWindow& Info();
+  GrowthWindow& Growth();
+  SinsChartWindow& SinsChart();
   SpdWindow& Spd() override;
   DocWindow& Doc() override;
   Balloons& GetBalloons() { return balloons_; }
@@ -58,6 +62,7 @@ class Program final : public Workspaces, public SinSwitching, public ReportWindo
   void StartSmoking();
   // Brings what stands beside the windows' own rules in step with what a user has just done.
   void FollowUser();
+  void FollowCharts();
 
   Session session_;
   Balloons balloons_;
@@ -68,6 +73,8 @@ class Program final : public Workspaces, public SinSwitching, public ReportWindo
   std::unique_ptr<SpdWindow> spd_;
   std::unique_ptr<CombinedResults> combined_;
   std::unique_ptr<InfoWindow> info_;
+  std::unique_ptr<GrowthWindow> growth_;
+  std::unique_ptr<SinsChartWindow> sinsChart_;
   bool ended_ = false;
 };
 

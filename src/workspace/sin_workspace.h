@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "base/fault.h"
@@ -105,6 +106,12 @@ struct SideState {
   std::string BeginManualDate;
 };
 
+// What the figure at a future date is reckoned with, as the three lists of the TOTAL tab show it.
+struct FutureDateTerms {
+  std::string date, interest, inflation;  // a label, and percent a year: "5%"
+  bool operator==(const FutureDateTerms&) const = default;
+};
+
 // For the result buttons: which were enabled when a results window opened, in the order
 // Past, Fut, SummaryPast, SummaryFut, SummaryTot.
 struct ResultButtonFlags {
@@ -159,6 +166,8 @@ class SinWorkspace : public Form {
   double CurrentCumulativeCostWithInterest = 0;
   // The identification sequence was shown and undone: its button stays hidden.
   bool identificationOver = false;
+  // What the figure at a future date was last reckoned with; none while it never was.
+  std::optional<FutureDateTerms> evaluatedAt;
   ResultButtonFlags cmdAdvResultsSpd_Flag;
   ResultButtonFlags cmdAdvResultsDoc_Flag;
 

@@ -59,6 +59,8 @@ void EvaluateFutureDate(SinWorkspace& ws, const std::string& anchor) {
   const std::string balance = NumberToText(MoneyToNumber(ws.txtCumulativeResultsTotalSummaryTot->Text()));
   const double value = CostAfterLastPeriod(balance, rate, anchor, ws.comCumulativeFutureDateTot->Text());
   ws.txtCumulativeFutureDateTot->SetText(ws.Money(value, kTotalFormat));
+  ws.evaluatedAt = {ws.comCumulativeFutureDateTot->Text(), ws.comInterestRateFutureDateTot->Text(),
+                    ws.comInflationRateFutureDateTot->Text()};
 }
 
 // Monthly from the anchor for about five years, then half-yearly to `years` years behind it.
@@ -114,27 +116,59 @@ CountedPeriods CountedOf(const SinWorkspace& ws, Side side, SideIndex sideIndex)
   return counted;
 }
 
-std::string PastCarriedIntoFuture(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
+namespace {
+
+std::string PastCarriedIntoFuture(const SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide,
+                                  const DateWarning& warn) {
   const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
   const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
   const double opening = CumulativeCostBetweenPeriod(
       ws, Side::Past, ws.Of(Side::Past).txtCumulativeResultsPeriod(past.last).Text(), past.last,
       ws.Store().At(past.last, pastSide).StopLabel, ws.Store().At(future.first, futureSide).StartLabel);
-  return CumulativeChainFuture(ws, futureSide, NumberToText(opening));
+  return CumulativeChain(SideTermsOf(ws, Side::Future, futureSide), NumberToText(opening), warn);
 }
 
-namespace {
-
 // The balance of all that counts at its last stop, as text; empty where nothing counts.
-std::string BalanceOfBothSides(SinWorkspace& ws, const CountedPeriods& past, const CountedPeriods& future,
-                               SideIndex pastSide, SideIndex futureSide) {
-  if (past.worthCounting && future.worthCounting) return PastCarriedIntoFuture(ws, pastSide, futureSide);
+std::string BalanceOfBothSides(const SinWorkspace& ws, const CountedPeriods& past,
+                               const CountedPeriods& future, SideIndex pastSide, SideIndex futureSide,
+                               const DateWarning& warn) {
+  if (past.worthCounting && future.worthCounting)
+    return PastCarriedIntoFuture(ws, pastSide, futureSide, warn);
   if (future.worthCounting) return ws.Of(Side::Future).txtCumulativeResultsPeriod(future.last).Text();
   if (past.worthCounting) return ws.Of(Side::Past).txtCumulativeResultsPeriod(past.last).Text();
   return {};
 }
 
+// Where the figure at a future date starts: the stop of the last period that counts.
+const std::string& LastStop(const SinWorkspace& ws, const CountedPeriods& past, const CountedPeriods& future,
+                            SideIndex pastSide, SideIndex futureSide) {
+  return future.worthCounting ? ws.Store().At(future.last, futureSide).StopLabel
+                              : ws.Store().At(past.last, pastSide).StopLabel;
+}
+
 }  // namespace
+
+std::string PastCarriedIntoFuture(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
+  return PastCarriedIntoFuture(ws, pastSide, futureSide, WarningOf(ws));
+}
+
+std::optional<FutureDateFigure> FutureDateFigureOf(const SinWorkspace& ws) {
+  const SideIndex futureSide = ws.SideIndex(Side::Future);
+  const SideIndex pastSide = ws.SideIndex(Side::Past);
+  const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
+  const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
+  const std::string& shown = ws.txtCumulativeFutureDateTot->Text();
+  if (!ws.evaluatedAt || shown == kNotAvailable || (!past.worthCounting && !future.worthCounting))
+    return std::nullopt;
+  const double rate = LeadingNumber(ws.evaluatedAt->interest) - LeadingNumber(ws.evaluatedAt->inflation);
+  const double balance =
+      MoneyToNumber(BalanceOfBothSides(ws, past, future, pastSide, futureSide, [](DateFault) {}));
+  FutureDateFigure figure{LastStop(ws, past, future, pastSide, futureSide), ws.evaluatedAt->date, balance,
+                          rate, MoneyToNumber(shown)};
+  const double now = CostAfterLastPeriod(NumberToText(balance), rate, figure.from, figure.date);
+  if (ws.Money(now, kTotalFormat) != shown) return std::nullopt;
+  return figure;
+}
 
 void UpdateCombinedCumulative(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
   for (Side side : kSides) WriteZeroIfEmpty(*ws.Of(side).txtResultsTotal);
@@ -142,7 +176,7 @@ void UpdateCombinedCumulative(SinWorkspace& ws, SideIndex pastSide, SideIndex fu
   const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
   const bool anything = past.worthCounting || future.worthCounting;
   ws.txtCumulativeResultsTotalSummaryTot->SetText(
-      anything ? BalanceOfBothSides(ws, past, future, pastSide, futureSide) : "0");
+      anything ? BalanceOfBothSides(ws, past, future, pastSide, futureSide, WarningOf(ws)) : "0");
 }
 
 void UpdateTotalTab(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
@@ -175,10 +209,8 @@ void UpdateTotalTab(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) 
   }
 
   ws.txtCumulativeResultsTotalSummaryTot->SetText(
-      BalanceOfBothSides(ws, pastCounted, futureCounted, pastSide, futureSide));
-  const std::string anchor = futureCounted.worthCounting
-                                 ? ws.Store().At(futureCounted.last, futureSide).StopLabel
-                                 : ws.Store().At(pastCounted.last, pastSide).StopLabel;
+      BalanceOfBothSides(ws, pastCounted, futureCounted, pastSide, futureSide, WarningOf(ws)));
+  const std::string anchor = LastStop(ws, pastCounted, futureCounted, pastSide, futureSide);
   FillFutureDates(ws, anchor, futureCounted.worthCounting ? 105 : 155);
   EvaluateFutureDate(ws, anchor);
 }

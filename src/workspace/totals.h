@@ -40,6 +40,17 @@ CountedPeriods CountedOf(const SinWorkspace& ws, Side side, SideIndex sideIndex)
 // grown over the gap between them. Both sides must be worth counting.
 std::string PastCarriedIntoFuture(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide);
 
+// The figure in txtCumulativeFutureDateTot with what it came from.
+struct FutureDateFigure {
+  std::string from, date;  // labels: the stop of the last period that counts, and the chosen date
+  double balance = 0;      // at that stop
+  double netRate = 0;      // percent a year
+  double value = 0;        // what the box shows, whole units
+};
+// None while the TOTAL tab was never opened or shows no figure, and none where the figure is out of date: the
+// periods have changed and the tab was not opened since. Shows no message.
+std::optional<FutureDateFigure> FutureDateFigureOf(const SinWorkspace& ws);
+
 // A short form of UpdateTotalTab for the table over all sins: brings txtCumulativeResultsTotalSummaryTot up
 // to date and leaves the rest of the tab alone. Where there is nothing it writes "0", not "n/a".
 void UpdateCombinedCumulative(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide);

@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <iostream>
 
+#include "desktop/chart_widget.h"
 #include "desktop/document_view.h"
 #include "desktop/form_window.h"
 #include "desktop/grid_model.h"
@@ -229,8 +230,14 @@ ControlState WidgetStage::Read(Control& control) {
   }
   if (const auto* tabs = dynamic_cast<const TabPages*>(&widget)) state.tab = tabs->Bar()->currentIndex();
   if (auto* grid = dynamic_cast<Grid*>(&control)) state.rows = static_cast<int>(Rows(*grid).size());
+  if (auto* chart = dynamic_cast<Chart*>(&control)) {
+    const ChartContents plotted = Plotted(*chart);
+    state.points = static_cast<int>(plotted.bars.empty() ? plotted.months.size() : plotted.bars.size());
+  }
   return state;
 }
+
+ChartContents WidgetStage::Plotted(Chart& chart) { return Widget<ChartWidget>(chart).Plotted(); }
 
 FormState WidgetStage::Read(Form& form) {
   const FormWindow& window = Window(form);

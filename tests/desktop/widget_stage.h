@@ -35,6 +35,7 @@ class WidgetStage : public Stage {
   std::string Text(Control& control) override;
   std::vector<std::vector<std::string>> Rows(Grid& grid) override;
   CellSpan Selection(Grid& grid) override;
+  ChartContents Plotted(Chart& chart) override;
 
  private:
   // The window of a form, in step with the core and able to take the focus.

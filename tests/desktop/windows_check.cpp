@@ -139,7 +139,7 @@ class Windows : public testing::Test {
 
 TEST_F(Windows, HaveAWidgetForEveryControlUnderItsName) {
   for (const char* name : {"Smoking", "Drinking", "Gambling", "Coffeeing", "frmSwitchSins", "frmCombRes",
-                           "frmInfo", "frmAdvResultsSpd", "frmAdvResultsDoc"}) {
+                           "frmInfo", "frmAdvResultsSpd", "frmAdvResultsDoc", "frmGrowth", "frmSinsChart"}) {
     Form& form = *program.Window(name);
     for (const auto& control : form.Controls()) {
       const QString full = ToQt(control->FullName());

@@ -58,6 +58,8 @@ ControlState ControlStage::Read(Control& control) {
   } else if (auto* document = dynamic_cast<DocumentText*>(&control)) {
     state.text = document->Text();
     state.length = document->Length();
+  } else if (auto* chart = dynamic_cast<Chart*>(&control)) {
+    state.points = chart->Count();
   }
   return state;
 }
@@ -78,6 +80,8 @@ std::vector<std::vector<std::string>> ControlStage::Rows(Grid& grid) {
 CellSpan ControlStage::Selection(Grid& grid) {
   return {grid.Row(), grid.Col(), grid.RowSel(), grid.ColSel()};
 }
+
+ChartContents ControlStage::Plotted(Chart& chart) { return chart.Contents(); }
 
 std::string ControlStage::Text(Control& control) { return Read(control).text; }
 

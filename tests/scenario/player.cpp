@@ -9,6 +9,7 @@
 
 #include "base/code_page.h"
 #include "base/fault.h"
+#include "charts/chart_text.h"
 #include "scenario/script.h"
 #include "vocabulary/operations.h"
 
@@ -21,6 +22,12 @@ std::string Bit(bool flag) { return flag ? "1" : "0"; }
 std::string Twelve(double value) {
   char text[40];
   std::snprintf(text, sizeof text, "%.12g", value);
+  return text;
+}
+
+std::string TwoDecimals(double value) {
+  char text[400];
+  std::snprintf(text, sizeof text, "%.2f", value);
   return text;
 }
 
@@ -37,7 +44,7 @@ constexpr Command kCommands[] = {
     {"show", 1, 1},   {"dump", 0, 0},    {"results", 0, 0}, {"entries", 1, 1},   {"record", 2, 2},
     {"fields", 0, 0}, {"globals", 0, 0}, {"call", 1, kAny}, {"rows", 0, 0},      {"selection", 0, 0},
     {"text", 1, 1},   {"file", 1, 1},    {"tips", 0, 0},    {"clipboard", 0, 0}, {"balloons", 0, 0},
-    {"place", 1, 1},  {"canvas", 0, 0},
+    {"place", 1, 1},  {"canvas", 0, 0},  {"chart", 1, 1},
 };
 
 // A line is understood or refused as a whole, before anything is done.
@@ -205,6 +212,8 @@ void Player::RunQuestion(Line& line) {
     ShowPlace(line.TakeBare());
   } else if (command == "canvas") {
     ShowCanvas();
+  } else if (command == "chart") {
+    ShowChart(FindOf<Chart>(line.TakeBare(), "chart"));
   }
 }
 
@@ -316,6 +325,8 @@ std::string Player::StateLine(Control& control) {
       return name + " rows=" + std::to_string(state.rows) + visible;
     case ControlKind::DocumentText:
       return name + " length=" + std::to_string(state.length) + visible;
+    case ControlKind::Chart:
+      return name + " points=" + std::to_string(state.points) + visible;
   }
   return name;
 }
@@ -477,6 +488,29 @@ void Player::ShowCanvas() {
     if (!line.text.empty()) lines.push_back(line.text);
   print_("canvas lines=" + std::to_string(lines.size()));
   for (const std::string& line : lines) print_("  " + Quoted(line));
+}
+
+void Player::ShowChart(Chart& chart) {
+  const ChartContents plotted = stage_->Plotted(chart);
+  const std::string visible = " visible=" + Bit(stage_->Read(chart).visible);
+  const auto amounts = [](std::initializer_list<double> values) {
+    std::string text;
+    for (const double value : values) text += " " + TwoDecimals(value);
+    return text;
+  };
+  if (chart.Name() == "chtSins") {
+    print_("chart " + chart.FullName() + " bars=" + std::to_string(plotted.bars.size()) + visible);
+    const auto figures = [&](const ChartBar& b) {
+      return amounts({b.pastOut, b.pastWith, b.futureOut, b.futureWith, b.combinedOut, b.combinedWith});
+    };
+    for (const ChartBar& bar : plotted.bars) print_("  " + Quoted(bar.caption) + figures(bar));
+    return print_("  total" + figures(plotted.total));
+  }
+  print_("chart " + chart.FullName() + " points=" + std::to_string(plotted.months.size()) + visible);
+  for (const ChartMonth& month : plotted.months)
+    print_("  " + Quoted(month.label) + " " + std::string(KindWord(month.kind)) + " " +
+           std::string(SideWord(month.side)) + " " + std::to_string(month.period) +
+           amounts({month.outOfPocket, month.withInterest}));
 }
 
 void Player::ShowRows() {

@@ -55,6 +55,7 @@ class Player {
   void ShowCanvas();
   void ShowText(Control& control);
   void ShowRows();
+  void ShowChart(Chart& chart);
   void ShowSelection();
 
   Control& Find(const std::string& name);

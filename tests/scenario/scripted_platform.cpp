@@ -38,6 +38,12 @@ void ScriptedPlatform::Print(Printed page) {
   printed.push_back(std::move(page));
 }
 
+void ScriptedPlatform::PrintPicture(std::string_view, std::string_view text) {
+  if (QueuedAnswers::Take(answers.prints, Answer::Ok) != Answer::Ok) return;
+  Tell("printed " + Quoted(text));
+  printed.push_back({std::string(text), false, false});
+}
+
 void ScriptedPlatform::Browse(std::string_view url) {
   browsed.emplace_back(url);
   Tell("browse " + std::string(url));

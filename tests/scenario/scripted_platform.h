@@ -67,6 +67,7 @@ class ScriptedPlatform : public Platform {
   void PrintKeepingPageOpen(std::string_view text, bool selection) override {
     Print({std::string(text), selection, true});
   }
+  void PrintPicture(std::string_view svg, std::string_view text) override;
   void SetClipboard(std::string_view text) override { clipboard = text; }
   std::string Clipboard() override { return clipboard; }
   std::string ProgramFolder() override { return programFolder; }

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "controls/chart.h"
 #include "controls/document_text.h"
 #include "controls/drop_down_list.h"
 #include "controls/form.h"
@@ -26,6 +27,7 @@ struct ControlState {
   int tab = 0;          // tab control
   int rows = 0;         // grid
   int length = 0;       // document text
+  int points = 0;       // chart: its months or bars
   bool enabled = true;
   bool visible = true;
 };
@@ -62,6 +64,7 @@ class Stage {
   virtual std::string Text(Control& control) = 0;  // of a text box, a list or a document text
   virtual std::vector<std::vector<std::string>> Rows(Grid& grid) = 0;  // heading first, eleven cells each
   virtual CellSpan Selection(Grid& grid) = 0;
+  virtual ChartContents Plotted(Chart& chart) = 0;
 };
 
 // The bare controls.
@@ -82,6 +85,7 @@ class ControlStage : public Stage {
   std::string Text(Control& control) override;
   std::vector<std::vector<std::string>> Rows(Grid& grid) override;
   CellSpan Selection(Grid& grid) override;
+  ChartContents Plotted(Chart& chart) override;
 };
 
 }  // namespace vicetoll

@@ -1,0 +1,94 @@
+#include "charts/chart_window.h"
+
+#include <algorithm>
+
+#include "base/fault.h"
+#include "charts/chart_text.h"
+
+namespace vicetoll {
+namespace {
+
+// Twips.
+constexpr int kWidth = 13500, kHeight = 9000;
+constexpr int kSmallestWidth = 9000, kSmallestHeight = 5500;
+constexpr int kMargin = 150;
+constexpr int kReadoutHeight = 375;
+constexpr int kButtonWidth = 2000, kButtonHeight = 500, kGap = 100;
+
+}  // namespace
+
+ChartWindow::ChartWindow(std::string_view name, std::string_view caption, std::string_view chartName,
+                         std::string_view readoutName, Platform& platform)
+    : Form(name, caption), platform_(platform) {
+  chart_ = &Add<Chart>({std::string(chartName)});
+  if (!readoutName.empty()) readout_ = &Add<Label>({std::string(readoutName)}, "");
+  AddButton("cmdCopy", "Copy Picture", &ChartWindow::Copy);
+  AddButton("cmdSaveAs", "Save Picture\x85", &ChartWindow::SaveAs);
+  AddButton("cmdPrint", "Print", &ChartWindow::Print);
+  AddButton("cmdExit", "Close", &ChartWindow::Exit);
+  onResize = [this] {
+    if (GetWindowState() == WindowState::Minimised) return;
+    PlaceControls();
+    Resize(std::max(Width(), kSmallestWidth), std::max(Height(), kSmallestHeight));
+  };
+  Resize(kWidth, kHeight);
+}
+
+void ChartWindow::AddButton(std::string_view name, std::string_view caption, void (ChartWindow::*action)()) {
+  Button& button = Add<Button>({std::string(name)}, caption);
+  button.onClick = [this, action] { (this->*action)(); };
+  buttons_.push_back(&button);
+}
+
+// The buttons stand in a row at the foot, the last one at its right end.
+void ChartWindow::PlaceControls() {
+  const int width = Width() - 2 * kMargin;
+  const int row = Height() - kMargin - kButtonHeight;
+  int bottom = row - kGap;
+  if (readout_ != nullptr) {
+    bottom -= kReadoutHeight;
+    readout_->SetPlace({kMargin, bottom, width, kReadoutHeight});
+    bottom -= kGap;
+  }
+  chart_->SetPlace({kMargin, kMargin, width, bottom - kMargin});
+  int left = kMargin;
+  for (Button* button : buttons_) {
+    if (button == buttons_.back()) left = kMargin + width - kButtonWidth;
+    button->SetPlace({left, row, kButtonWidth, kButtonHeight});
+    left += kButtonWidth + kGap;
+  }
+}
+
+void ChartWindow::Copy() {
+  platform_.SetClipboardPicture(chart_->Picture(PictureFormat::Png), TabSeparated(chart_->Contents()));
+}
+
+void ChartWindow::SaveAs() {
+  const auto chosen = platform_.AskSavePath(filePath_);
+  if (!chosen || chosen->empty()) return;
+  filePath_ = *chosen;
+  try {
+    platform_.WriteFile(filePath_, chart_->Picture(PictureFormatOf(filePath_)));
+  } catch (const Fault& fault) {
+    // A picture is not worth a run: the user is told why and goes on.
+    platform_.ShowMessage("Save Picture", fault.what(), MessageButtons::Ok);
+  }
+}
+
+void ChartWindow::Print() {
+  platform_.PrintPicture(chart_->Picture(PictureFormat::Svg), TabSeparated(chart_->Contents()));
+}
+
+PictureFormat PictureFormatOf(std::string_view path) {
+  const auto endsWith = [path](std::string_view suffix) {
+    return path.size() >= suffix.size() &&
+           std::ranges::equal(path.substr(path.size() - suffix.size()), suffix, {}, [](char c) {
+             return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+           });
+  };
+  if (endsWith(".svg")) return PictureFormat::Svg;
+  if (endsWith(".pdf")) return PictureFormat::Pdf;
+  return PictureFormat::Png;
+}
+
+}  // namespace vicetoll

@@ -1,0 +1,43 @@
+// A window around a chart: the chart, and the buttons that take its picture along.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/platform.h"
+#include "controls/chart.h"
+#include "controls/form.h"
+
+namespace vicetoll {
+
+class ChartWindow : public Form {
+ public:
+  Chart& GetChart() { return *chart_; }
+  Button* CloseButton() const override { return buttons_.back(); }
+
+ protected:
+  // `readoutName` is that of a label below the chart, empty if there is none.
+  ChartWindow(std::string_view name, std::string_view caption, std::string_view chartName,
+              std::string_view readoutName, Platform& platform);
+
+  Label* readout_ = nullptr;
+
+ private:
+  void AddButton(std::string_view name, std::string_view caption, void (ChartWindow::*action)());
+  void PlaceControls();
+  void Copy();
+  void SaveAs();
+  void Print();
+  void Exit() { Hide(); }
+
+  Platform& platform_;
+  Chart* chart_ = nullptr;
+  std::vector<Button*> buttons_;
+  std::string filePath_;  // chosen last
+};
+
+// The format that a file's suffix asks for: ".svg", ".pdf", in any case, and else PNG.
+PictureFormat PictureFormatOf(std::string_view path);
+
+}  // namespace vicetoll

@@ -1,0 +1,94 @@
+#include "charts/growth_points.h"
+
+#include "calendar/date_label.h"
+#include "reports/month_report.h"
+#include "workspace/totals.h"
+
+namespace vicetoll {
+namespace {
+
+bool Counts(const SinWorkspace& ws, Side side) { return CountedOf(ws, side, ws.SideIndex(side)).last != 0; }
+bool IsWorthCounting(const SinWorkspace& ws, Side side) {
+  return CountedOf(ws, side, ws.SideIndex(side)).worthCounting;
+}
+
+// The Total report leaves out a side that comes to nothing. Where both do, one of them is shown all the same:
+// a sin that costs nothing is a line along the axis.
+ReportScope ScopeOf(const SinWorkspace& ws) {
+  for (Side side : kSides)
+    if (IsWorthCounting(ws, side)) return ReportScope::Total;
+  return Counts(ws, Side::Past) ? ReportScope::Past : ReportScope::Future;
+}
+
+ChartMonthKind KindOf(MonthKind kind) {
+  switch (kind) {
+    case MonthKind::Disabled:
+      return ChartMonthKind::Disabled;
+    case MonthKind::Gap:
+      return ChartMonthKind::Gap;
+    case MonthKind::Active:
+      break;
+  }
+  return ChartMonthKind::Active;
+}
+
+// A month behind the last period has what CostAfterLastPeriod gives for it: its own month earns nothing.
+void AddMonthsAhead(const FutureDateFigure& figure, std::vector<ChartMonth>& months) {
+  const int count = MonthsBetween(figure.from, figure.date);
+  const double factor = Rates{.interestPercent = figure.netRate}.MonthlyFactor();
+  ChartMonth month = months.back();
+  month.kind = ChartMonthKind::Ahead;
+  month.label = figure.from;
+  month.withInterest = figure.balance;
+  for (int n = 1; n <= count; ++n) {
+    month.label = MonthAfter(month.label);
+    if (n > 1) month.withInterest *= factor;
+    months.push_back(month);
+  }
+  if (count > 0) months.back().withInterest = figure.value;
+}
+
+std::string BandName(const ChartMonth& month) {
+  if (month.kind == ChartMonthKind::Gap) return {};
+  if (month.kind == ChartMonthKind::Ahead) return "Afterwards";
+  return std::string(PeriodPrefix(month.side)) + std::to_string(month.period);
+}
+
+std::vector<ChartBand> BandsOf(const std::vector<ChartMonth>& months) {
+  std::vector<ChartBand> bands;
+  for (int i = 0; i < static_cast<int>(months.size()); ++i) {
+    const ChartMonth& month = months[i];
+    const bool goesOn = !bands.empty() && bands.back().kind == month.kind &&
+                        bands.back().side == month.side && bands.back().period == month.period;
+    if (!goesOn) bands.push_back({i, i, month.kind, month.side, month.period, BandName(month)});
+    bands.back().last = i;
+  }
+  return bands;
+}
+
+}  // namespace
+
+ChartContents GrowthOf(const SinWorkspace& ws, const MonthAndYear& present) {
+  const std::string sin(ws.Sin().checkCaption);
+  ChartContents contents;
+  contents.currency = ws.GetSession().currency;
+  contents.emptyText = "Nothing is set and enabled for " + sin +
+                       ". Set a period, or enable one, and its growth is drawn here.";
+  if (!Counts(ws, Side::Past) && !Counts(ws, Side::Future)) return contents;
+  const MonthReport report = ReportOf(ws, ScopeOf(ws));
+  for (const ReportMonth& month : report.months)
+    contents.months.push_back({month.label, KindOf(month.kind), month.side, month.period,
+                               month.cumulativeCost, month.cumulativeCostWithInterest});
+  if (contents.months.empty()) return contents;
+  if (const auto figure = FutureDateFigureOf(ws)) AddMonthsAhead(*figure, contents.months);
+  contents.bands = BandsOf(contents.months);
+  const std::string now =
+      MakeDateLabel(static_cast<std::int16_t>(present.month), static_cast<std::int16_t>(present.year));
+  for (int i = 0; i < static_cast<int>(contents.months.size()) && contents.present == -1; ++i)
+    if (contents.months[i].label == now) contents.present = i;
+  contents.title = sin + ": cost out of pocket and with interest, " + contents.months.front().label + " to " +
+                   contents.months.back().label;
+  return contents;
+}
+
+}  // namespace vicetoll

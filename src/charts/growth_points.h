@@ -1,0 +1,16 @@
+// What the growth chart of a sin shows: month by month over past, gap and future, the running cost out of
+// pocket and what it would have grown to.
+#pragma once
+
+#include "base/platform.h"
+#include "controls/chart.h"
+#include "workspace/sin_workspace.h"
+
+namespace vicetoll {
+
+// The months and running totals of the Total report, unrounded; of the side that counts alone, where the
+// other does not. A figure at a future date adds the months that lead there, the last of which is the number
+// in its box. Changes nothing in the workspace.
+ChartContents GrowthOf(const SinWorkspace& ws, const MonthAndYear& present);
+
+}  // namespace vicetoll

@@ -1,0 +1,23 @@
+#include "charts/growth_window.h"
+
+#include "charts/chart_text.h"
+#include "charts/growth_points.h"
+
+namespace vicetoll {
+
+GrowthWindow::GrowthWindow(Platform& platform)
+    : ChartWindow("frmGrowth", "Growth Chart", "chtGrowth", "lblReadout", platform), platform_(platform) {
+  GetChart().onCursor = [this] {
+    const ChartContents& contents = GetChart().Contents();
+    readout_->SetCaption(contents.Empty() ? contents.emptyText : Readout(contents, GetChart().Cursor()));
+  };
+  // So whoever listens to the chart hears each month that the cursor comes to.
+  GetChart().SetLabelledBy({readout_});
+}
+
+void GrowthWindow::Follow(const SinWorkspace& ws) {
+  SetCaption("Growth Chart: " + std::string(ws.Sin().checkCaption));
+  GetChart().SetContents(GrowthOf(ws, platform_.Now()));
+}
+
+}  // namespace vicetoll

@@ -1,0 +1,84 @@
+#include "desktop/chart_module.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QLibrary>
+
+#include "desktop/desktop.h"
+#include "desktop/themes.h"
+
+namespace vicetoll {
+namespace {
+
+ChartStyle StyleIn(Theme theme) {
+  return {.ground = Colour(Tone::BoxGround, theme),
+          .text = Colour(Tone::Text, theme),
+          .hint = Colour(Tone::Hint, theme),
+          .grid = Colour(Tone::ChartGrid, theme),
+          .outOfPocket = Colour(Tone::ChartLine1, theme),
+          .withInterest = Colour(Tone::ChartLine2, theme),
+          .focus = Colour(Tone::Focus, theme)};
+}
+
+// A function of the module; nullptr and a reason where there is none.
+template <class Function>
+Function FromModule(const char* name, QString& error) {
+  QLibrary module(QCoreApplication::applicationDirPath() + QStringLiteral("/libvicetoll_charts.so"));
+  const auto function = reinterpret_cast<Function>(module.resolve(name));
+  if (function == nullptr) error = module.errorString();
+  return function;
+}
+
+class ChartView : public ControlView {
+ public:
+  ChartView(Chart& chart, ChartWidget* widget, Desktop& desktop)
+      : ControlView(chart, widget), chart_(chart), widget_(widget) {
+    // A picture is for paper and for the papers of others, whatever the theme here.
+    chart.draw = [widget](PictureFormat format) { return widget->Picture(format, StyleIn(Theme::Light)); };
+    widget->onPoint = [&chart, &desktop](int month) { desktop.Enter([&] { chart.UserPoints(month); }); };
+    widget->onMove = [&chart, &desktop](int months) { desktop.Enter([&] { chart.UserMoves(months); }); };
+  }
+  ~ChartView() override { chart_.draw = nullptr; }
+
+  void TakeTheme() override { Update(); }
+
+ protected:
+  void UpdateContents() override {
+    widget_->SetStyle(StyleIn(CurrentTheme()));
+    widget_->SetContents(chart_.Contents());
+    widget_->SetCursorMonth(chart_.Cursor());
+  }
+
+ private:
+  Chart& chart_;
+  ChartWidget* widget_;
+};
+
+// What stands in the place of a chart that cannot be drawn.
+class NoChartView : public ControlView {
+ public:
+  NoChartView(Chart& chart, QWidget* parent, const QString& error)
+      : ControlView(chart, new QLabel(QStringLiteral("The chart cannot be drawn: %1").arg(error), parent)) {
+    static_cast<QLabel*>(Widget())->setWordWrap(true);
+  }
+
+ protected:
+  void UpdateContents() override {}
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeChartView(Chart& chart, QWidget* parent, Desktop& desktop) {
+  QString error;
+  const auto make = FromModule<MakeChartWidgetFunction>(kMakeChartWidget, error);
+  if (make == nullptr) return std::make_unique<NoChartView>(chart, parent, error);
+  return std::make_unique<ChartView>(chart, make(parent), desktop);
+}
+
+bool PaintPicture(QPainter& painter, const QRectF& room, std::string_view svg) {
+  QString error;
+  const auto paint = FromModule<PaintSvgFunction>(kPaintSvg, error);
+  return paint != nullptr && paint(painter, room, QByteArray(svg.data(), static_cast<qsizetype>(svg.size())));
+}
+
+}  // namespace vicetoll
