@@ -1,4 +1,5 @@
 // The Vicetoll Financial Calculator.
+#include <QFile>
 #include <QIcon>
 #include <cstdio>
 
@@ -13,5 +14,11 @@ int main(int argc, char** argv) {
   }
   vicetoll::GuardedApplication application(argc, argv);
   vicetoll::GuardedApplication::setWindowIcon(QIcon(QStringLiteral(":/vicetoll.png")));
-  return vicetoll::RunProgram(application);
+  // What Qt understands is taken out of the arguments; what remains may be a file of entries.
+  const QStringList arguments = QCoreApplication::arguments();
+  if (arguments.size() > 2) {
+    std::fputs("usage: vicetoll [FILE]\n", stderr);
+    return 2;
+  }
+  return vicetoll::RunProgram(application, QFile::encodeName(arguments.value(1)).toStdString());
 }

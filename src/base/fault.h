@@ -21,7 +21,8 @@ constexpr std::string_view FaultName(FaultKind kind) {
 }
 
 // Thrown by whatever cannot go on; caught where the events of users enter the core (and by the date
-// lists, which recover). `what()` says in plain words what happened.
+// lists, which recover). `what()` says in plain words what happened, in UTF-8: it may
+// name a file.
 class Fault : public std::runtime_error {
  public:
   Fault(FaultKind kind, const std::string& what) : std::runtime_error(what), kind_(kind) {}

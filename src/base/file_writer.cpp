@@ -1,28 +1,176 @@
 #include "base/file_writer.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <cerrno>
-#include <cstdio>
-#include <system_error>
+#include <climits>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <optional>
 
 #include "base/fault.h"
 
 namespace vicetoll {
+namespace {
+
+// Beyond the shell's limit for files a write fails, and does not kill the program.
+class NoKillByFileSize {
+ public:
+  NoKillByFileSize() : before_(std::signal(SIGXFSZ, SIG_IGN)) {}
+  ~NoKillByFileSize() { std::signal(SIGXFSZ, before_); }
+  NoKillByFileSize(const NoKillByFileSize&) = delete;
+  NoKillByFileSize& operator=(const NoKillByFileSize&) = delete;
+
+ private:
+  void (*before_)(int);
+};
+
+// The operations return 0 or the error number.
+class OpenFile {
+ public:
+  explicit OpenFile(int descriptor) : descriptor_(descriptor) {}
+  ~OpenFile() { Close(); }
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+
+  bool Good() const { return descriptor_ != -1; }
+  int Descriptor() const { return descriptor_; }
+
+  int Write(std::string_view bytes) const {
+    while (!bytes.empty()) {
+      const ssize_t written = write(descriptor_, bytes.data(), bytes.size());
+      if (written == -1 && errno == EINTR) continue;
+      if (written == -1) return errno;
+      bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return 0;
+  }
+
+  // Some disks tell only now that they are full.
+  int Flush() const { return fsync(descriptor_) == 0 || errno == EINVAL ? 0 : errno; }
+
+  int Close() {
+    if (descriptor_ == -1) return 0;
+    const int result = close(descriptor_);
+    descriptor_ = -1;
+    return result == 0 ? 0 : errno;
+  }
+
+ private:
+  int descriptor_;
+};
+
+std::string Followed(const std::string& path) {
+  char* resolved = realpath(path.c_str(), nullptr);
+  if (resolved == nullptr) return path;
+  const std::string followed(resolved);
+  std::free(resolved);
+  return followed;
+}
+
+std::string FolderOf(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  if (slash == std::string::npos) return "./";
+  return path.substr(0, slash + 1);
+}
+
+int WriteAsItIs(const std::string& path, std::string_view bytes) {
+  OpenFile file(open(path.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
+  if (!file.Good()) return errno;
+  if (const int error = file.Write(bytes)) return error;
+  return file.Close();
+}
+
+std::optional<std::string> BytesOf(const std::string& path) {
+  OpenFile file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  if (!file.Good()) return std::nullopt;
+  std::string bytes;
+  char block[1 << 16];
+  ssize_t got;
+  while ((got = read(file.Descriptor(), block, sizeof block)) > 0)
+    bytes.append(block, static_cast<std::size_t>(got));
+  if (got != 0) return std::nullopt;
+  return bytes;
+}
+
+int Overwrite(const std::string& path, std::string_view bytes) {
+  OpenFile file(open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC));
+  if (!file.Good()) return errno;
+  if (const int error = file.Write(bytes)) return error;
+  if (const int error = file.Flush()) return error;
+  return file.Close();
+}
+
+int WriteInPlace(const std::string& path, std::string_view bytes, int folderError) {
+  if (access(path.c_str(), W_OK) != 0) return folderError;
+  const std::optional<std::string> before = BytesOf(path);
+  if (!before) return folderError;
+  const int error = Overwrite(path, bytes);
+  if (error != 0) Overwrite(path, *before);
+  return error;
+}
+
+// A new file gets the rights that any program gives one, an old one keeps its own.
+mode_t RightsFor(const struct stat* old) {
+  if (old != nullptr) return old->st_mode & 07777;
+  const mode_t mask = umask(0);
+  umask(mask);
+  return 0666 & ~mask;
+}
+
+int FillAndRename(OpenFile& file, const std::string& beside, const std::string& path, std::string_view bytes,
+                  mode_t rights) {
+  if (const int error = file.Write(bytes)) return error;
+  if (fchmod(file.Descriptor(), rights) != 0) return errno;
+  if (const int error = file.Flush()) return error;
+  if (const int error = file.Close()) return error;
+  return std::rename(beside.c_str(), path.c_str()) == 0 ? 0 : errno;
+}
+
+}  // namespace
+
+int ReplaceFile(const std::string& name, std::string_view bytes) {
+  const NoKillByFileSize noKill;
+  const std::string path = Followed(name);
+  struct stat old;
+  const bool exists = stat(path.c_str(), &old) == 0;
+  if (exists && S_ISDIR(old.st_mode)) return EISDIR;
+  if (exists && !S_ISREG(old.st_mode)) return WriteAsItIs(path, bytes);
+  if (exists && access(path.c_str(), W_OK) != 0) return errno;  // a file that is not to be changed
+  if (path.empty()) return ENOENT;
+
+  std::string beside = FolderOf(path) + ".vicetoll-XXXXXX";
+  OpenFile file(mkostemp(beside.data(), O_CLOEXEC));
+  if (!file.Good()) {
+    const int error = errno;
+    return exists && (error == EACCES || error == EPERM) ? WriteInPlace(path, bytes, error) : error;
+  }
+  const int error = FillAndRename(file, beside, path, bytes, RightsFor(exists ? &old : nullptr));
+  if (error != 0) {
+    unlink(beside.c_str());
+    return error;
+  }
+  // The new name lasts through a loss of power once the folder is on the disk too.
+  const OpenFile folder(open(FolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (folder.Good()) folder.Flush();
+  return 0;
+}
+
+std::string ReasonOf(int error) {
+  const char* reason = strerrordesc_np(error);
+  return reason != nullptr ? reason : "error " + std::to_string(error);
+}
+
+std::string NotWritten(const std::string& path, int error) {
+  const std::string name = path.empty() ? std::string("A file without a name") : "The file \"" + path + "\"";
+  return name + " could not be written: " + ReasonOf(error) + ".";
+}
 
 void WriteWholeFile(const std::string& path, std::string_view bytes) {
-  const auto fail = [&path](int error) {
-    const std::string name = path.empty() ? std::string("a file without a name") : "\"" + path + "\"";
-    throw Fault(FaultKind::File, "The report could not be written to " + name + ": " +
-                                     std::generic_category().message(error) + ".");
-  };
-  errno = 0;
-  std::FILE* file = std::fopen(path.c_str(), "wb");
-  if (file == nullptr) fail(errno);
-  const std::size_t written = std::fwrite(bytes.data(), 1, bytes.size(), file);
-  const int writeError = errno;
-  // A full disk may show only when the last bytes leave the buffer.
-  const bool closed = std::fclose(file) == 0;
-  if (written != bytes.size()) fail(writeError);
-  if (!closed) fail(errno);
+  if (const int error = ReplaceFile(path, bytes)) throw Fault(FaultKind::File, NotWritten(path, error));
 }
 
 }  // namespace vicetoll

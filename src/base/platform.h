@@ -12,8 +12,11 @@ struct MonthAndYear {
   int year;
 };
 
-enum class MessageButtons { Ok, OkCancel };
-enum class Answer { Ok, Cancel };
+enum class MessageButtons { Ok, OkCancel, SaveDiscardCancel };
+enum class Answer { Ok, Cancel, No };  // Save, Cancel, Discard of the three buttons
+
+// What a dialog asks a file for.
+enum class FilePurpose { OpenEntries, SaveEntries };
 
 // All texts are in the program's eight-bit code page.
 class Platform {
@@ -25,6 +28,15 @@ class Platform {
 
   // Shows a message and waits for the answer. An empty title leaves the box the program's own.
   virtual Answer ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) = 0;
+
+  // The same for a text in UTF-8, which names a file or gives a reason of the system.
+  virtual Answer ShowFileMessage(std::string_view utf8, MessageButtons buttons) = 0;
+
+  // Asks for a file of entries, starting from the one in use; a cancelled dialog returns none.
+  virtual std::optional<std::string> AskEntriesPath(FilePurpose purpose, std::string_view lastPath) = 0;
+
+  // The folder for what a run leaves behind that cannot go on, empty where there is none.
+  virtual std::string DataFolder() = 0;
 
   // Asks where to save, starting from the name chosen last; a cancelled dialog returns no name. Paths are in
   // the encoding of the file system.

@@ -8,6 +8,13 @@ void Choice::SetColour(int colour) {
   Changed();
 }
 
+void Choice::TakeStateOf(const Control& other) {
+  const auto& choice = dynamic_cast<const Choice&>(other);
+  value_ = choice.value_;
+  colour_ = choice.colour_;
+  CaptionedControl::TakeStateOf(other);
+}
+
 void Choice::JoinGroup(ChoiceGroup& group) {
   group_ = &group;
   group.Add(*this);

@@ -32,6 +32,8 @@ class Choice : public CaptionedControl {
   // group without one that is on. Runs the change events of radios whose value changed.
   void SetValue(bool value);
 
+  void TakeStateOf(const Control& other) override;
+
   void JoinGroup(ChoiceGroup& group);
   const ChoiceGroup* Group() const { return group_; }
 

@@ -56,6 +56,14 @@ bool Control::Reachable() const {
   return true;
 }
 
+void Control::TakeStateOf(const Control& other) {
+  enabled_ = other.enabled_;
+  visible_ = other.visible_;
+  toolTip_ = other.toolTip_;
+  place_ = other.place_;
+  Changed();
+}
+
 UserOutcome Control::UserFocuses() {
   if (!Reachable()) return UserOutcome::Refused;
   if (onFocus) onFocus();
@@ -66,6 +74,11 @@ void CaptionedControl::SetCaption(std::string_view caption) {
   if (caption_ == caption) return;
   caption_ = caption;
   Changed();
+}
+
+void CaptionedControl::TakeStateOf(const Control& other) {
+  caption_ = dynamic_cast<const CaptionedControl&>(other).caption_;
+  Control::TakeStateOf(other);
 }
 
 UserOutcome Button::UserClicks() {
@@ -84,6 +97,16 @@ void TextBox::SetText(std::string_view text) {
   if (text_ == text) return;
   text_ = text;
   Changed();
+}
+
+void TextBox::TakeStateOf(const Control& other) {
+  text_ = dynamic_cast<const TextBox&>(other).text_;
+  Control::TakeStateOf(other);
+}
+
+void TabControl::TakeStateOf(const Control& other) {
+  tab_ = dynamic_cast<const TabControl&>(other).tab_;
+  Control::TakeStateOf(other);
 }
 
 void TabControl::SetTab(int tab) {

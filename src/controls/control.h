@@ -101,6 +101,9 @@ class Control {
   // and enabled, and it stands on the tab in front.
   bool Reachable() const;
 
+  // Takes over what the control of the same name in another window of the same design shows. Raises no event.
+  virtual void TakeStateOf(const Control& other);
+
   // The input focus arrives.
   UserOutcome UserFocuses();
   std::function<void()> onFocus;
@@ -130,6 +133,7 @@ class CaptionedControl : public Control {
 
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string_view caption);
+  void TakeStateOf(const Control& other) override;
 
  private:
   std::string caption_;
@@ -196,6 +200,7 @@ class TextBox : public Control {
 
   const std::string& Text() const { return text_; }
   void SetText(std::string_view text);
+  void TakeStateOf(const Control& other) override;
 
  private:
   std::string text_;
@@ -209,6 +214,7 @@ class TabControl : public Control {
 
   int Tab() const { return tab_; }
   void SetTab(int tab);
+  void TakeStateOf(const Control& other) override;
 
   // One for each tab; an ampersand stands before the letter of its access key.
   const std::vector<std::string>& PageCaptions() const { return pageCaptions_; }

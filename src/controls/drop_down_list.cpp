@@ -47,6 +47,15 @@ void DropDownList::Clear() {
   Changed();
 }
 
+void DropDownList::TakeStateOf(const Control& other) {
+  const auto& list = dynamic_cast<const DropDownList&>(other);
+  entries_ = list.entries_;
+  text_ = list.text_;
+  position_ = list.position_;
+  takesTyping_ = list.takesTyping_;
+  Control::TakeStateOf(other);
+}
+
 UserOutcome DropDownList::UserPicks(int position) {
   if (!Reachable()) return UserOutcome::Refused;
   if (position < 0 || position >= Count()) return UserOutcome::NoEntry;

@@ -39,6 +39,7 @@ class DropDownList : public Control {
   void Append(std::string_view entry) { Insert(Count(), entry); }
   // Takes away entries, text and position.
   void Clear();
+  void TakeStateOf(const Control& other) override;
 
   // A list that takes typing besides picking.
   bool TakesTyping() const { return takesTyping_; }

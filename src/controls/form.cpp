@@ -16,6 +16,26 @@ void Form::SetCaption(std::string_view caption) {
   Changed();
 }
 
+void Form::SetStatus(std::string_view status) {
+  if (status_ == status) return;
+  status_ = status;
+  Changed();
+}
+
+void Form::TakeStateOf(const Form& other) {
+  caption_ = other.caption_;
+  canvas_ = other.canvas_;
+  for (const auto& control : controls_)
+    control->TakeStateOf(*other.Require(control->Name(), control->Index()));
+  if (state_ == WindowState::Normal) {
+    width_ = other.width_;
+    height_ = other.height_;
+  }
+  if (onResize) onResize();
+  SetShown(other.shown_);
+  Changed();
+}
+
 void Form::Show() {
   ++timesShown_;
   shown_ = true;

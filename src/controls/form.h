@@ -91,6 +91,14 @@ class Form {
   void TypeOnCanvas(char letter);
   void ClearCanvas();
 
+  // Takes over what another window of the same design shows: caption, controls, whether it is shown, and,
+  // unless the user has this one maximised or minimised, its size. Runs the resize event and no other.
+  void TakeStateOf(const Form& other);
+
+  // Stands at the foot of the window in place of the hint, in UTF-8, as it may name a file; empty if nothing.
+  const std::string& Status() const { return status_; }
+  void SetStatus(std::string_view status);
+
   // Makes a control of this window: Add<Button>({"cmdExit"}, "Exit").
   template <class T, class... Args>
   T& Add(Control::Identity identity, Args&&... args) {
@@ -139,6 +147,7 @@ class Form {
 
   std::string name_;
   std::string caption_;
+  std::string status_;
   bool shown_ = false;
   int timesShown_ = 0;
   int width_ = 0;

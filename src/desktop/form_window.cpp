@@ -378,10 +378,11 @@ QRect FormWindow::RoomOfHint() const {
 }
 
 void FormWindow::paintEvent(QPaintEvent*) {
-  if (!form_.Hint().empty() && form_.Canvas().empty()) {
+  const QString foot = form_.Status().empty() ? ToQt(form_.Hint()) : QString::fromStdString(form_.Status());
+  if (!foot.isEmpty() && form_.Canvas().empty()) {
     QPainter painter(this);
     painter.setPen(Colour(Tone::Hint));
-    DrawFitted(painter, RoomOfHint(), Qt::AlignLeft | Qt::AlignVCenter, ToQt(form_.Hint()), font());
+    DrawFitted(painter, RoomOfHint(), Qt::AlignLeft | Qt::AlignVCenter, foot, font());
   }
   PaintCanvas();
 }

@@ -8,10 +8,13 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QImage>
 #include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
+#include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
 
@@ -23,17 +26,43 @@ namespace vicetoll {
 
 QString ProgramName() { return QStringLiteral("The Vicetoll Financial Calculator"); }
 
-std::unique_ptr<QMessageBox> MakeMessageBox(std::string_view title, std::string_view text,
+std::unique_ptr<QMessageBox> MakeMessageBox(const QString& title, const QString& text,
                                             MessageButtons buttons) {
   auto box = std::make_unique<QMessageBox>(QApplication::activeWindow());
-  box->setWindowTitle(title.empty() ? ProgramName() : ToQt(title));
+  box->setWindowTitle(title.isEmpty() ? ProgramName() : title);
   box->setTextFormat(Qt::PlainText);
-  box->setText(ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+  box->setText(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
   box->setIcon(buttons == MessageButtons::Ok ? QMessageBox::Information : QMessageBox::Question);
-  box->setStandardButtons(buttons == MessageButtons::Ok ? QMessageBox::Ok
-                                                        : QMessageBox::Ok | QMessageBox::Cancel);
-  box->setDefaultButton(QMessageBox::Ok);
+  switch (buttons) {
+    case MessageButtons::Ok:
+      box->setStandardButtons(QMessageBox::Ok);
+      break;
+    case MessageButtons::OkCancel:
+      box->setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+      break;
+    case MessageButtons::SaveDiscardCancel:
+      box->setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+      box->button(QMessageBox::Discard)->setText(QStringLiteral("&Discard"));
+      break;
+  }
+  box->setDefaultButton(ButtonFor(Answer::Ok, buttons));
   return box;
+}
+
+std::unique_ptr<QMessageBox> MakeMessageBox(std::string_view title, std::string_view text,
+                                            MessageButtons buttons) {
+  return MakeMessageBox(ToQt(title), ToQt(text), buttons);
+}
+
+QMessageBox::StandardButton ButtonFor(Answer answer, MessageButtons buttons) {
+  if (answer == Answer::Cancel) return QMessageBox::Cancel;
+  if (buttons != MessageButtons::SaveDiscardCancel) return QMessageBox::Ok;
+  return answer == Answer::Ok ? QMessageBox::Save : QMessageBox::Discard;
+}
+
+Answer AnswerOf(int button) {
+  if (button == QMessageBox::Ok || button == QMessageBox::Save) return Answer::Ok;
+  return button == QMessageBox::Discard ? Answer::No : Answer::Cancel;
 }
 
 QtPlatform::QtPlatform() = default;
@@ -50,27 +79,60 @@ MonthAndYear QtPlatform::Now() {
 
 Answer QtPlatform::ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) {
   ShowChanges();
-  return MakeMessageBox(title, text, buttons)->exec() == QMessageBox::Ok ? Answer::Ok : Answer::Cancel;
+  return AnswerOf(MakeMessageBox(title, text, buttons)->exec());
+}
+
+Answer QtPlatform::ShowFileMessage(std::string_view utf8, MessageButtons buttons) {
+  ShowChanges();
+  return AnswerOf(MakeMessageBox({}, QString::fromUtf8(utf8), buttons)->exec());
 }
 
 void QtPlatform::Tell(const QString& text) {
-  const std::unique_ptr<QMessageBox> box = MakeMessageBox({}, {}, MessageButtons::Ok);
+  const std::unique_ptr<QMessageBox> box = MakeMessageBox(QString(), QString(), MessageButtons::Ok);
   box->setText(text);
   box->exec();
 }
 
-std::optional<std::string> QtPlatform::AskSavePath(std::string_view lastPath) {
-  ShowChanges();
-  // Without a name of this run the dialog begins in the folder that the program was started in; left to
-  // itself it would remember one from an earlier run.
-  const QString start =
-      lastPath.empty()
-          ? QDir::currentPath()
-          : QFile::decodeName(QByteArray(lastPath.data(), static_cast<qsizetype>(lastPath.size())));
-  const QString path =
-      QFileDialog::getSaveFileName(QApplication::activeWindow(), QStringLiteral("Save As"), start);
+namespace {
+
+// Where a dialog begins. Without a name of this run that is the folder that the program was started in; left
+// to itself a dialog would remember one from an earlier run.
+QString StartOf(std::string_view lastPath) {
+  if (lastPath.empty()) return QDir::currentPath();
+  return QFile::decodeName(QByteArray(lastPath.data(), static_cast<qsizetype>(lastPath.size())));
+}
+
+std::optional<std::string> Chosen(const QString& path) {
   if (path.isEmpty()) return std::nullopt;
   return QFile::encodeName(path).toStdString();
+}
+
+}  // namespace
+
+std::optional<std::string> QtPlatform::AskSavePath(std::string_view lastPath) {
+  ShowChanges();
+  return Chosen(QFileDialog::getSaveFileName(QApplication::activeWindow(), QStringLiteral("Save As"),
+                                             StartOf(lastPath)));
+}
+
+std::optional<std::string> QtPlatform::AskEntriesPath(FilePurpose purpose, std::string_view lastPath) {
+  ShowChanges();
+  const bool open = purpose == FilePurpose::OpenEntries;
+  QFileDialog dialog(QApplication::activeWindow(),
+                     open ? QStringLiteral("Open Entries") : QStringLiteral("Save Entries As"));
+  dialog.setNameFilters({QStringLiteral("Vicetoll entries (*.vicetoll)"), QStringLiteral("All files (*)")});
+  dialog.setDefaultSuffix(QStringLiteral("vicetoll"));
+  dialog.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+  dialog.setFileMode(open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  const QFileInfo start(StartOf(lastPath));
+  dialog.setDirectory(start.isDir() ? start.filePath() : start.path());
+  if (!start.isDir() && !open) dialog.selectFile(start.fileName());
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return Chosen(dialog.selectedFiles().value(0));
+}
+
+std::string QtPlatform::DataFolder() {
+  return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).toStdString();
 }
 
 void QtPlatform::WriteFile(const std::string& path, std::string_view bytes) { WriteWholeFile(path, bytes); }

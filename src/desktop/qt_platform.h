@@ -15,8 +15,14 @@ namespace vicetoll {
 QString ProgramName();
 
 // The modal box for a message. An empty title becomes the program's name.
+std::unique_ptr<QMessageBox> MakeMessageBox(const QString& title, const QString& text,
+                                            MessageButtons buttons);
 std::unique_ptr<QMessageBox> MakeMessageBox(std::string_view title, std::string_view text,
                                             MessageButtons buttons);
+
+// The box's button that stands for the answer, and the answer that a box was left with.
+QMessageBox::StandardButton ButtonFor(Answer answer, MessageButtons buttons);
+Answer AnswerOf(int button);
 
 class PrintJob;
 
@@ -30,6 +36,9 @@ class QtPlatform : public Platform {
 
   MonthAndYear Now() override;
   Answer ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) override;
+  Answer ShowFileMessage(std::string_view utf8, MessageButtons buttons) override;
+  std::optional<std::string> AskEntriesPath(FilePurpose purpose, std::string_view lastPath) override;
+  std::string DataFolder() override;
   std::optional<std::string> AskSavePath(std::string_view lastPath) override;
   void WriteFile(const std::string& path, std::string_view bytes) override;
   void Print(std::string_view text, bool selection) override;

@@ -10,15 +10,22 @@
 namespace vicetoll {
 namespace {
 
-void Tell(const std::exception& cause) {
+// `rescued` is the file that the entries were written to, empty if there is none.
+void Tell(const std::exception& cause, const std::string& rescued) {
   std::string text = cause.what();
   // A fault speaks plainly; what a library says of itself is for whoever mends it.
   if (dynamic_cast<const std::bad_alloc*>(&cause) != nullptr)
     text = "There is not enough memory.";
   else if (dynamic_cast<const Fault*>(&cause) == nullptr)
     text = "Something went wrong inside the program (" + text + ").";
-  text += "\r\n\r\nThe program cannot go on and ends now. Results that were not saved are gone.";
-  const std::unique_ptr<QMessageBox> box = MakeMessageBox({}, text, MessageButtons::Ok);
+  text += "\n\nThe program cannot go on and ends now. ";
+  if (rescued.empty())
+    text += "Results that were not saved are gone.";
+  else
+    text += "What you entered is in the file \"" + rescued +
+            "\": open it with the button Open, or start with it.";
+  const std::unique_ptr<QMessageBox> box =
+      MakeMessageBox({}, QString::fromStdString(text), MessageButtons::Ok);
   box->setIcon(QMessageBox::Critical);
   box->exec();
 }
@@ -35,7 +42,7 @@ bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
   }
 }
 
-int RunProgram(GuardedApplication& application) {
+int RunProgram(GuardedApplication& application, const std::string& file) {
   ApplyLook(application);
   // Windows hide and come back; the program ends when the core says so.
   application.setQuitOnLastWindowClosed(false);
@@ -46,14 +53,15 @@ int RunProgram(GuardedApplication& application) {
     Desktop desktop(program);
     platform.beforeWaiting = [&desktop] { desktop.Flush(); };
     desktop.onEnded = [] { QCoreApplication::exit(0); };
-    desktop.onFault = [](const std::exception& cause) {
-      Tell(cause);
+    desktop.onFault = [&](const std::exception& cause) {
+      Tell(cause, program.Keeper().Rescue(platform.DataFolder()));
       QCoreApplication::exit(1);
     };
     application.onException = [&desktop](const std::exception& cause) { desktop.Fail(cause); };
+    if (!file.empty()) desktop.Enter([&] { program.Keeper().OpenFile(file); });
     status = QCoreApplication::exec();
   } catch (const std::exception& cause) {  // before the first window is up
-    Tell(cause);
+    Tell(cause, {});
   }
   application.onException = nullptr;
   return status;

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <exception>
 #include <functional>
+#include <string>
 
 namespace vicetoll {
 
@@ -17,7 +18,8 @@ class GuardedApplication : public QApplication {
   std::function<void(const std::exception&)> onException;
 };
 
-// Runs the program; returns its exit status: 0, or 1 after a failure, which the user is told.
-int RunProgram(GuardedApplication& application);
+// Runs the program, beginning with the entries of the file if one is named; its path is in the encoding of
+// the file system. Returns the exit status: 0, or 1 after a failure, which the user is told.
+int RunProgram(GuardedApplication& application, const std::string& file = {});
 
 }  // namespace vicetoll

@@ -31,6 +31,9 @@ class Balloons {
   // other ten only their own balloons.
   void ConnectOptions(SinWorkspace& workspace);
 
+  // Takes over what hangs at the windows of another run.
+  void TakeStateOf(const Balloons& other) { sins_ = other.sins_; }
+
   const std::vector<Balloon>& Of(int position) const { return sins_.at(position).balloons; }
   bool Active(int position) const { return sins_.at(position).active; }
   // The text for a control while the sin's balloons are active, empty otherwise.

@@ -66,11 +66,14 @@ void Program::Connect(SinWorkspace& ws) {
   ws.helpOn = [this, &ws](const Control& control) { return balloons_.TextFor(ws.Position(), control); };
   ws.onResize = [&ws] { PlaceWorkspaceControls(ws); };
   ws.cmdSwitchSins->onClick = [this, &ws] { Chooser().Open(ws); };
-  ws.cmdExit->onClick = [this] { UnloadAllWindows(); };
+  ws.cmdExit->onClick = [this] { Exit(); };
   ws.Get<Button>("cmdCombinedResults").onClick = [this] {
     Combined().Show();
     Combined().PopulateCombResultsText();
   };
+  ws.Get<Button>("cmdOpenEntries").onClick = [this] { keeper_.Open(); };
+  ws.Get<Button>("cmdSaveEntries").onClick = [this] { keeper_.Save(); };
+  ws.Get<Button>("cmdSaveEntriesAs").onClick = [this] { keeper_.SaveAs(); };
   ws.Get<Button>("cmdHelp").onClick = [this] { Info().ShowHelpFile(); };
   ws.Get<Button>("cmdFaq").onClick = [this] { Info().ShowInfoFile(); };
   ws.Get<Button>("cmdGrowthChart").onClick = [this] { Growth().Show(); };
@@ -83,6 +86,7 @@ void Program::Connect(SinWorkspace& ws) {
 void Program::FollowUser() {
   if (ended_) return;
   UpdateStrip(Current());
+  Current().SetStatus(keeper_.Status());
   FollowCharts();
 }
 
@@ -134,6 +138,30 @@ Form* Program::Window(std::string_view name) {
   if (name == "frmGrowth") return &Growth();
   if (name == "frmSinsChart") return &SinsChart();
   return nullptr;
+}
+
+SinWorkspace& Program::Enter(int position) {
+  if (session_.CurrentSinKey != Catalogue().at(position).key) {
+    Chooser().Open(Current());
+    Chooser().Get<Option>("OptSwitchSins", position).UserClicks();
+  }
+  return At(position);
+}
+
+void Program::TurnToEuro() { ReplaceDollarWithEuro(At(0)); }
+
+void Program::TakeStateOf(Program& other) {
+  session_.TakeStateOf(other.session_);
+  balloons_.TakeStateOf(other.balloons_);
+  for (int i = 0; i < kSinCount; ++i)
+    if (workspaces_[i] || other.workspaces_[i]) At(i).TakeStateOf(other.At(i));
+  for (Form* window : windows_)
+    if (dynamic_cast<SinWorkspace*>(window) == nullptr) window->Hide();
+  Current().Show();
+}
+
+void Program::Exit() {
+  if (keeper_.MayEnd()) UnloadAllWindows();
 }
 
 void Program::UnloadAllWindows() {

@@ -1,7 +1,7 @@
 // The program: all windows of a run and what they share.
 //
 // There is no main routine beyond this: making a Program creates the Smoking workspace, and that creation
-// does all that a start needs. Nothing is kept from one run to the next.
+// does all that a start needs. Nothing is kept from one run to the next but what the user saves.
 #pragma once
 
 #include <array>
@@ -12,16 +12,17 @@
 
 #include "charts/growth_window.h"
 #include "charts/sins_chart_window.h"
+#include "entries/capture.h"
 #include "reports/report_windows.h"
 #include "shell/balloons.h"
 #include "shell/chooser.h"
 #include "shell/combined_results.h"
+#include "shell/entries_keeper.h"
 #include "shell/info_window.h"
-#include "workspace/workspaces.h"
 
 namespace vicetoll {
 
-class Program final : public Workspaces, public SinSwitching, public ReportWindows {
+class Program final : public FreshProgram, public SinSwitching, public ReportWindows {
  public:
   // Starts the program: the Smoking workspace is loaded and shown.
   explicit Program(Platform& platform);
@@ -47,7 +48,17 @@ class Program final : public Workspaces, public SinSwitching, public ReportWindo
   SpdWindow& Spd() override;
   DocWindow& Doc() override;
   Balloons& GetBalloons() { return balloons_; }
+  EntriesKeeper& Keeper() { return keeper_; }
 
+  SinWorkspace& Enter(int position) override;
+  void TurnToEuro() override;
+
+  // Makes this program, with its windows, look and go on as the other one would: the workspaces take over
+  // what the other's show, all other windows are closed. The other must run on the same clock.
+  void TakeStateOf(Program& other);
+
+  // The way out: asks where a file of entries is in use and something was set since, and ends the run.
+  void Exit();
   // Ends the run: every window is closed, nothing is asked, nothing saved.
   void UnloadAllWindows();
   bool Ended() const { return ended_; }
@@ -66,6 +77,7 @@ class Program final : public Workspaces, public SinSwitching, public ReportWindo
 
   Session session_;
   Balloons balloons_;
+  EntriesKeeper keeper_{*this};
   std::vector<Form*> windows_;
   std::array<std::unique_ptr<SinWorkspace>, kSinCount> workspaces_;
   std::unique_ptr<SinChooser> chooser_;

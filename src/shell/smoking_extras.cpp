@@ -20,6 +20,7 @@ void HideAdvertising(SinWorkspace& smoking, Side clicked) {
 void ReplaceDollarWithEuro(SinWorkspace& smoking) {
   RetireEuroButton(smoking);
   smoking.GetSession().currency = Currency::Euro;
+  ++smoking.GetSession().timesSet;
   const SinRow& sin = smoking.Sin();
   for (Side side : {Side::Future, Side::Past}) {
     SideControls& c = smoking.Of(side);

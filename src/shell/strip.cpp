@@ -13,7 +13,10 @@ struct StripButton {
 // From left to right.
 // clang-format off
 constexpr StripButton kStrip[] = {
-    {"cmdGrowthChart", "Chart",    "Ctrl+G",       1095},
+    {"cmdOpenEntries",   "Open\x85",    "Ctrl+O",       1095},
+    {"cmdSaveEntries",   "Save",        "Ctrl+S",       1095},
+    {"cmdSaveEntriesAs", "Save As\x85", "Ctrl+Shift+S", 1245},
+    {"cmdGrowthChart",   "Chart",       "Ctrl+G",       1095},
 };
 // clang-format on
 

@@ -60,6 +60,7 @@ void PressSetButton(SinWorkspace& ws, Side side) {
 
 void CommitPeriod(SinWorkspace& ws, Side side, int count, SideIndex sideIndex) {
   const Present now(ws.GetSession());
+  ++ws.GetSession().timesSet;
   SideControls& c = ws.Of(side);
   PeriodStore& store = ws.Store();
   const std::int16_t stopMonth = MonthNumberFromLabel(c.comStop->Text());

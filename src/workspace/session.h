@@ -28,6 +28,19 @@ struct Session {
   SideIndex CurrentSinNumber = SideIndexOf(0, Side::Past);
   // By position: the sin's workspace was left through the chooser.
   std::array<bool, kSinCount> SinVisited{};
+
+  // How often something was set: a period, a radio, the future date, the currency.
+  std::uint64_t timesSet = 0;
+
+  // Takes over what the windows of another run share.
+  void TakeStateOf(const Session& other) {
+    store = other.store;
+    currency = other.currency;
+    CurrentSinKey = other.CurrentSinKey;
+    CurrentSinNumber = other.CurrentSinNumber;
+    SinVisited = other.SinVisited;
+    ++timesSet;
+  }
 };
 
 // The present month, read anew by whoever asks.

@@ -14,6 +14,19 @@ SinWorkspace::SinWorkspace(Session& session, int position)
   ConnectEvents(*this);
 }
 
+void SinWorkspace::TakeStateOf(const SinWorkspace& other) {
+  states_ = other.states_;
+  FuturePast_Flag = other.FuturePast_Flag;
+  CurrentIndexSub = other.CurrentIndexSub;
+  CurrentCumulativeCost = other.CurrentCumulativeCost;
+  CurrentCumulativeCostWithInterest = other.CurrentCumulativeCostWithInterest;
+  identificationOver = other.identificationOver;
+  evaluatedAt = other.evaluatedAt;
+  cmdAdvResultsSpd_Flag = other.cmdAdvResultsSpd_Flag;
+  cmdAdvResultsDoc_Flag = other.cmdAdvResultsDoc_Flag;
+  Form::TakeStateOf(other);
+}
+
 std::string SinWorkspace::Money(double value, std::string_view format) const {
   return FormatMoney(session_.currency, value, format);
 }

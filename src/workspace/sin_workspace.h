@@ -140,6 +140,9 @@ class SinWorkspace : public Form {
   const SideControls& Of(Side side) const { return sides_[static_cast<int>(side)]; }
   SideState& State(Side side) { return states_[static_cast<int>(side)]; }
 
+  // Takes over all that another workspace of the same sin shows and remembers.
+  void TakeStateOf(const SinWorkspace& other);
+
   // Money in the currency of the run.
   std::string Money(double value, std::string_view format) const;
 

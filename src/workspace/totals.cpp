@@ -77,6 +77,7 @@ void FillFutureDates(SinWorkspace& ws, const std::string& anchor, std::int16_t y
 }  // namespace
 
 void RefreshResults(SinWorkspace& ws, Side side, SideIndex sideIndex) {
+  ++ws.GetSession().timesSet;
   SideControls& c = ws.Of(side);
   for (int p = 1; p <= kPeriodCount; ++p) {
     PeriodRecord& record = ws.Store().At(p, sideIndex);
@@ -216,6 +217,7 @@ void UpdateTotalTab(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) 
 }
 
 void UpdateFutureDateTotal(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
+  ++ws.GetSession().timesSet;
   const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
   const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
   std::string& pastDate = ws.State(Side::Past).BeginManualDate;

@@ -284,14 +284,12 @@ Answer WidgetPlatform::ShowMessage(std::string_view title, std::string_view text
   if (desktop != nullptr) desktop->Flush();
   const std::unique_ptr<QMessageBox> box = MakeMessageBox(title, text, buttons);
   QTimer::singleShot(0, box.get(), [&] {
-    const auto which = answer == Answer::Ok ? QMessageBox::Ok : QMessageBox::Cancel;
-    if (QAbstractButton* button = box->button(which))
+    if (QAbstractButton* button = box->button(ButtonFor(answer, buttons)))
       QTest::mouseClick(button, Qt::LeftButton);
     else
       box->reject();
   });
-  const bool ok = box->exec() == QMessageBox::Ok;
-  return ok ? Answer::Ok : Answer::Cancel;
+  return AnswerOf(box->exec());
 }
 
 }  // namespace vicetoll

@@ -39,12 +39,12 @@ struct Command {
 
 constexpr std::size_t kAny = 100;
 constexpr Command kCommands[] = {
-    {"clock", 2, 2},  {"in", 1, 1},      {"focus", 1, 1},   {"choose", 2, 2},    {"click", 1, 1},
-    {"tab", 1, 1},    {"type", 2, 2},    {"select", 3, 5},  {"resize", 2, 2},    {"answer", 2, 2},
-    {"show", 1, 1},   {"dump", 0, 0},    {"results", 0, 0}, {"entries", 1, 1},   {"record", 2, 2},
-    {"fields", 0, 0}, {"globals", 0, 0}, {"call", 1, kAny}, {"rows", 0, 0},      {"selection", 0, 0},
-    {"text", 1, 1},   {"file", 1, 1},    {"tips", 0, 0},    {"clipboard", 0, 0}, {"balloons", 0, 0},
-    {"place", 1, 1},  {"canvas", 0, 0},  {"chart", 1, 1},
+    {"clock", 2, 2},  {"in", 1, 1},      {"focus", 1, 1},   {"choose", 2, 2},       {"click", 1, 1},
+    {"tab", 1, 1},    {"type", 2, 2},    {"select", 3, 5},  {"resize", 2, 2},       {"answer", 2, 2},
+    {"show", 1, 1},   {"dump", 0, 0},    {"results", 0, 0}, {"entries", 1, 1},      {"record", 2, 2},
+    {"fields", 0, 0}, {"globals", 0, 0}, {"call", 1, kAny}, {"rows", 0, 0},         {"selection", 0, 0},
+    {"text", 1, 1},   {"file", 1, 1},    {"tips", 0, 0},    {"clipboard", 0, 0},    {"balloons", 0, 0},
+    {"place", 1, 1},  {"canvas", 0, 0},  {"chart", 1, 1},   {"entries-file", 0, 0},
 };
 
 // A line is understood or refused as a whole, before anything is done.
@@ -214,6 +214,8 @@ void Player::RunQuestion(Line& line) {
     ShowCanvas();
   } else if (command == "chart") {
     ShowChart(FindOf<Chart>(line.TakeBare(), "chart"));
+  } else if (command == "entries-file") {
+    ShowEntriesFile();
   }
 }
 
@@ -267,8 +269,11 @@ void Player::Answer(Line& line) {
     return;
   }
   const std::string word = line.TakeBare();
-  if (word != "ok" && word != "cancel") throw BadLine("ok or cancel is wanted");
-  const vicetoll::Answer answer = word == "ok" ? vicetoll::Answer::Ok : vicetoll::Answer::Cancel;
+  const bool no = what == "message" && word == "no";  // the second of three buttons
+  if (word != "ok" && word != "cancel" && !no) throw BadLine("ok or cancel is wanted");
+  const vicetoll::Answer answer = no             ? vicetoll::Answer::No
+                                  : word == "ok" ? vicetoll::Answer::Ok
+                                                 : vicetoll::Answer::Cancel;
   if (what == "message")
     answers.messages.push_back(answer);
   else if (what == "print")
@@ -480,6 +485,12 @@ void Player::ShowPlace(const std::string& name) {
   print_("place " + control.FullName() + " left=" + std::to_string(place.left) +
          " top=" + std::to_string(place.top) + " width=" + std::to_string(place.width) +
          " height=" + std::to_string(place.height));
+}
+
+void Player::ShowEntriesFile() {
+  const EntriesKeeper& keeper = program_->Keeper();
+  if (keeper.Path().empty()) return print_("entries-file none");
+  print_("entries-file " + Quoted(FromUtf8(keeper.Path())) + " changed=" + Bit(keeper.Changed()));
 }
 
 void Player::ShowCanvas() {

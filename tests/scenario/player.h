@@ -53,6 +53,7 @@ class Player {
   void ShowBalloons();
   void ShowPlace(const std::string& name);
   void ShowCanvas();
+  void ShowEntriesFile();
   void ShowText(Control& control);
   void ShowRows();
   void ShowChart(Chart& chart);

@@ -13,9 +13,9 @@ ScriptedPlatform::ScriptedPlatform(PrintLine print)
       print_(std::move(print)) {}
 
 Answer ScriptedPlatform::ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) {
+  constexpr const char* kButtons[] = {"OK", "OK,Cancel", "Save,Discard,Cancel"};
   messages.push_back({std::string(title), std::string(text), buttons});
-  Tell("message " + Quoted(title) + " " + Quoted(text) + " " +
-       (buttons == MessageButtons::Ok ? "OK" : "OK,Cancel"));
+  Tell("message " + Quoted(title) + " " + Quoted(text) + " " + kButtons[static_cast<int>(buttons)]);
   return QueuedAnswers::Take(answers.messages, Answer::Ok);
 }
 

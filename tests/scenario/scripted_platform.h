@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "base/code_page.h"
 #include "base/platform.h"
 
 namespace vicetoll {
@@ -61,6 +62,13 @@ class ScriptedPlatform : public Platform {
 
   MonthAndYear Now() override { return now; }
   Answer ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) override;
+  Answer ShowFileMessage(std::string_view utf8, MessageButtons buttons) override {
+    return ShowMessage({}, FromUtf8(utf8), buttons);
+  }
+  std::optional<std::string> AskEntriesPath(FilePurpose, std::string_view) override {
+    return QueuedAnswers::Take(answers.files, std::optional<std::string>());
+  }
+  std::string DataFolder() override { return {}; }
   std::optional<std::string> AskSavePath(std::string_view lastPath) override;
   void WriteFile(const std::string& path, std::string_view bytes) override;
   void Print(std::string_view text, bool selection) override { Print({std::string(text), selection, false}); }

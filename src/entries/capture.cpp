@@ -1,0 +1,133 @@
+#include "entries/capture.h"
+
+#include "calendar/number_text.h"
+#include "entries/value_lists.h"
+#include "workspace/period_operations.h"
+
+namespace vicetoll {
+namespace {
+
+// "$5.00" as "5.00". Lists of whole units have no decimals.
+std::string AmountOf(const std::string& money, std::string_view listFormat) {
+  if (listFormat.starts_with('$')) listFormat.remove_prefix(1);
+  return FormatNumber(MoneyToNumber(money), listFormat);
+}
+
+int PercentOf(const std::string& rate) { return static_cast<int>(LeadingNumber(rate)); }
+
+// The text at a place of the quantity list in a unit: of smoking in the list as it stands, of all others in
+// the list as it is filled whenever the period is shown.
+std::string QuantityAt(const SinWorkspace& ws, Side side, Unit unit, int place) {
+  if (!HasListPerUnit(ws.Class())) return AmountAt(QuantityAmounts(ws.Position(), unit), place);
+  const SideControls& c = ws.Of(side);
+  return (unit == Unit::PerDay ? c.quantity : c.comCigsPerDay)->EntryOrLast(place);
+}
+
+PeriodEntries CapturePeriod(const SinWorkspace& ws, Side side, int p) {
+  const PeriodRecord& record = ws.Record(side, p);
+  const SinRow& sin = ws.Sin();
+  PeriodEntries period;
+  period.start = record.StartLabel;
+  period.stop = record.StopLabel;
+  period.startList = {record.StartListFirst, record.StartListLast};
+  period.stopList = {record.StopListFirst, record.StopListLast};
+  period.unit = record.QuantityUnitFlag ? Unit::PerDay : Unit::PerMonth;
+  const Unit other = OtherUnit(period.unit);
+  period.quantity = QuantityAt(ws, side, period.unit, record.QuantityListIndex);
+  const std::string elsewhere = QuantityAt(ws, side, other, record.QuantityListIndex);
+  const int usual = PlaceOf(QuantityAmounts(ws.Position(), period.unit), period.quantity);
+  if (elsewhere != AmountAt(QuantityAmounts(ws.Position(), other), usual)) period.otherUnit = elsewhere;
+  if (ws.Class() != CostClass::FlatRateClass)
+    period.cost = AmountOf(record.InitialCostText, sin.costList.format);
+  if (HasCostModes(ws.Class())) {
+    period.finalCost = AmountOf(record.FinalCostText, sin.secondCostList.format);
+    period.percentMode = record.CostModeFlag;
+  }
+  if (ws.Class() == CostClass::NetUnitsClass)
+    period.reasonableCost = AmountOf(record.ReasonableCostText, sin.secondCostList.format);
+  period.increase = PercentOf(record.PercentIncreaseText);
+  period.interest = PercentOf(record.InterestRateText);
+  period.inflation = PercentOf(record.InflationRateText);
+  period.enabled = ws.Of(side).rbnEnabledPeriod(p).Value();
+  return period;
+}
+
+bool OutOfOrder(const std::vector<PeriodEntries>& periods) {
+  for (std::size_t i = 0; i < periods.size(); ++i) {
+    if (MonthsBetween(periods[i].start, periods[i].stop) < 0) return true;
+    if (i > 0 && MonthsBetween(periods[i - 1].stop, periods[i].start) <= 0) return true;
+  }
+  return false;
+}
+
+// How the results came about. A switch hides what is off, and leaves it out of the total; a press counts all
+// that is set, and writes "0" into the boxes of the rest.
+CountedIn ResultsBy(const SinWorkspace& ws, Side side, const SideEntries& entries) {
+  const SideControls& c = ws.Of(side);
+  const int count = static_cast<int>(entries.periods.size());
+  double all = 0, on = 0;
+  for (int p = 1; p <= count; ++p) {
+    const double cost = MoneyToNumber(c.txtResultsPeriod(p).Text());
+    all += cost;
+    if (entries.periods[p - 1].enabled) on += cost;
+  }
+  const double total = MoneyToNumber(c.txtResultsTotal->Text());
+  const bool restIsZero = count == kPeriodCount || c.txtResultsPeriod(count + 1).Text() == "0";
+  const bool byPress = all == on ? restIsZero : total == all;
+  if (!byPress) return CountedIn::Switch;
+  return c.txtResultsPeriod(1).Enabled() ? CountedIn::Press : CountedIn::PressHidingFirst;
+}
+
+// Whether the cost boxes of the side hold what its periods cost in this unit.
+bool ShowsResultsIn(const SinWorkspace& ws, Side side, int count, Unit unit) {
+  for (int p = 1; p <= count; ++p) {
+    const PeriodRecord& record = ws.Record(side, p);
+    const PeriodTerms terms = TermsOf(
+        record, ws.Class(), QuantityAt(ws, side, unit, record.QuantityListIndex), unit == Unit::PerDay);
+    if (ws.Money(CostInPeriod(terms), kResultFormat) != ws.Of(side).txtResultsPeriod(p).Text()) return false;
+  }
+  return true;
+}
+
+SideEntries CaptureSide(SinWorkspace& ws, Side side) {
+  SideEntries entries;
+  for (int p = 1; p <= kPeriodCount && ws.Record(side, p).PeriodSet; ++p)
+    entries.periods.push_back(CapturePeriod(ws, side, p));
+  if (entries.periods.empty()) return entries;
+  entries.outOfOrder = OutOfOrder(entries.periods);
+  entries.shownPeriod = ws.State(side).CurrentPeriod;
+  entries.shownUnit = ws.Of(side).firstUnit->Value() ? Unit::PerDay : Unit::PerMonth;
+  entries.resultsBy = ResultsBy(ws, side, entries);
+  const int count = static_cast<int>(entries.periods.size());
+  const Unit usual = UsualResultsUnit(entries);
+  const bool otherwise =
+      !ShowsResultsIn(ws, side, count, usual) && ShowsResultsIn(ws, side, count, OtherUnit(usual));
+  entries.resultsUnit = otherwise ? OtherUnit(usual) : usual;
+  return entries;
+}
+
+SinEntries CaptureSin(SinWorkspace& ws) {
+  SinEntries sin;
+  sin.position = ws.Position();
+  for (Side side : kSides) sin.Of(side) = CaptureSide(ws, side);
+  sin.total = ws.evaluatedAt;
+  const FutureDateTerms chosen{ws.comCumulativeFutureDateTot->Text(), ws.comInterestRateFutureDateTot->Text(),
+                               ws.comInflationRateFutureDateTot->Text()};
+  if (sin.total && chosen != *sin.total) sin.totalWaiting = chosen;
+  return sin;
+}
+
+}  // namespace
+
+Entries Capture(Workspaces& program) {
+  const Session& session = program.GetSession();
+  Entries entries;
+  entries.currency = session.currency;
+  entries.front = SinPosition(session.CurrentSinKey);
+  entries.tab = static_cast<Tab>(program.At(entries.front).SSTab_PastFutureSwitch->Tab());
+  for (int i = 0; i < kSinCount; ++i)
+    if (i == entries.front || session.SinVisited[i]) entries.sins.push_back(CaptureSin(program.At(i)));
+  return entries;
+}
+
+}  // namespace vicetoll

@@ -1,0 +1,25 @@
+// The words of the entries' file that reading and writing share.
+#pragma once
+
+#include <string_view>
+
+#include "base/side.h"
+
+namespace vicetoll {
+
+inline constexpr std::string_view kFormatName = "vicetoll entries";
+inline constexpr int kFormatVersion = 1;
+
+// Years have four digits.
+inline constexpr int kFirstYear = 1000, kLastYear = 9999;
+
+inline constexpr std::string_view kRangeWord = " to ";
+inline constexpr std::string_view kCurrencyWords[] = {"dollar", "euro"};
+inline constexpr std::string_view kTabWords[] = {"past", "future", "total"};
+inline constexpr std::string_view kCostModeWords[] = {"percent", "final cost"};
+inline constexpr std::string_view kCountedInWords[] = {"all", "enabled", "all, period 1 hidden"};
+inline constexpr std::string_view kOutOfOrder = "out of order";
+
+constexpr std::string_view SideWord(Side side) { return kTabWords[side == Side::Past ? 0 : 1]; }
+
+}  // namespace vicetoll

@@ -1,0 +1,355 @@
+// vicetoll-report: the reports of files of entries, without a window.
+#include <array>
+#include <cstdio>
+#include <ctime>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+#include <nlohmann/json.hpp>
+
+#include "base/code_page.h"
+#include "base/fault.h"
+#include "base/file_writer.h"
+#include "base/quiet_platform.h"
+#include "calendar/number_text.h"
+#include "entries/capture.h"
+#include "entries/entries_file.h"
+#include "reports/month_report.h"
+#include "reports/report_columns.h"
+#include "workspace/loading.h"
+#include "workspace/totals.h"
+
+namespace vicetoll {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr const char* kUsage =
+    "usage: vicetoll-report [OPTION]... FILE...\n"
+    "Prints the month-by-month reports of what was entered.\n\n"
+    "  --sin KEY                     of one sin (Smoking, Drinking, ...); otherwise of all in the file\n"
+    "  --side past|future|total      which report; total if not given\n"
+    "  --format table|csv|json       table if not given\n"
+    "  --clock YYYY-MM               the present month; no result depends on it\n"
+    "  --output PATH                 to a file, or for several files into a folder\n"
+    "  --help, --version\n\n"
+    "Exit status: 0, 1 if a file cannot be used, 2 for wrong use.\n";
+
+constexpr std::string_view kSides3[] = {"past", "future", "total"};
+constexpr std::string_view kFormats[] = {"table", "csv", "json"};
+constexpr std::string_view kSuffixes[] = {".txt", ".csv", ".json"};
+enum Format { kTable, kCsv, kJson };
+
+struct Options {
+  int sin = -1;
+  ReportScope scope = ReportScope::Total;
+  Format format = kTable;
+  MonthAndYear now{};
+  std::string output;
+  std::vector<std::string> files;
+};
+
+// The workspaces without the windows around them.
+class BareProgram final : public FreshProgram {
+ public:
+  explicit BareProgram(Platform& platform) : session_(platform) {}
+
+  SinWorkspace& At(int position) override {
+    auto& slot = workspaces_.at(static_cast<std::size_t>(position));
+    if (!slot) slot = std::make_unique<SinWorkspace>(session_, position);
+    return *slot;
+  }
+  Session& GetSession() override { return session_; }
+
+  SinWorkspace& Enter(int position) override {
+    SinWorkspace& ws = At(position);
+    session_.CurrentSinKey = ws.Sin().key;
+    session_.CurrentSinNumber = ws.SideIndex(Side::Past);
+    ws.SSTab_PastFutureSwitch->SetTab(kPastTab);
+    if (ws.State(Side::Past).CurrentPeriod == 0) LoadParameters(ws, Side::Past);
+    return ws;
+  }
+  void TurnToEuro() override { session_.currency = Currency::Euro; }
+
+ private:
+  Session session_;
+  std::array<std::unique_ptr<SinWorkspace>, kSinCount> workspaces_;
+};
+
+std::string_view KindWord(MonthKind kind) {
+  constexpr std::string_view kWords[] = {"active", "disabled", "gap"};
+  return kWords[static_cast<int>(kind)];
+}
+
+// "Jun - 2031" as "2031-06". The labels of a report behind a disabled period may lack a month.
+std::string PlainMonth(const std::string& label) {
+  const int month = MonthNumberFromLabel(label);
+  return label.substr(label.size() - std::min<std::size_t>(4, label.size())) + (month < 10 ? "-0" : "-") +
+         std::to_string(month);
+}
+
+// ---- The grid, as a table ----
+
+void AddTable(const SinWorkspace& ws, ReportScope scope, const MonthReport& report, std::string& out) {
+  out += std::string(ws.Sin().key) + ", " + std::string(kSides3[static_cast<int>(scope)]) + "\n";
+  const auto columns = ColumnsOf(ws.Class());
+  std::vector<std::vector<std::string>> rows(1);
+  for (const ReportColumn* column : columns) rows[0].emplace_back(HeadingOf(ws.Sin(), *column));
+  ReportCells cells(ReportLayout::Grid, ws.GetSession().currency);
+  for (const ReportMonth& month : report.months) {
+    rows.emplace_back();
+    for (const ReportColumn* column : columns) {
+      std::string cell;
+      cells.Append(cell, *column, month);
+      rows.back().push_back(cell.substr(0, cell.find_last_not_of(' ') + 1));
+    }
+  }
+  for (std::size_t c = 0; c < columns.size(); ++c) {
+    std::size_t width = 0;
+    for (const auto& row : rows) width = std::max(width, row[c].size());
+    for (auto& row : rows) row[c].insert(0, width - row[c].size(), ' ');
+  }
+  for (const auto& row : rows) {
+    for (std::size_t c = 0; c < row.size(); ++c) out += (c == 0 ? "" : "  ") + row[c];
+    out += '\n';
+  }
+}
+
+// ---- Comma-separated values: only words, months and numbers, so nothing needs quoting ----
+
+constexpr std::string_view kCsvHeading =
+    "sin,report,index,kind,side,period,month,quantity,unit_cost,reasonable_cost,adjusted_cost,month_cost,"
+    "month_with_interest,cumulative_cost,cumulative_with_interest\r\n";
+
+void AddCsv(const SinWorkspace& ws, ReportScope scope, const MonthReport& report, std::string& out) {
+  const std::string start =
+      std::string(ws.Sin().key) + "," + std::string(kSides3[static_cast<int>(scope)]) + ",";
+  for (const ReportMonth& month : report.months) {
+    out += start + std::to_string(month.index) + "," + std::string(KindWord(month.kind)) + "," +
+           std::string(kSides3[month.side == Side::Past ? 0 : 1]) + "," + std::to_string(month.period) + "," +
+           PlainMonth(month.label);
+    for (const double figure :
+         {month.quantity, month.unitCost, month.reasonableCost, month.adjustedCost, month.monthCost,
+          month.monthWithInterest, month.cumulativeCost, month.cumulativeCostWithInterest})
+      out += "," + NumberToText(figure);
+    out += "\r\n";
+  }
+}
+
+// ---- JSON ----
+
+// As lists and boxes have numbers: of 15 digits at most.
+double Digits15(double value) { return TextToNumber(NumberToText(value)); }
+
+Json MonthsOf(const MonthReport& report) {
+  Json months = Json::array();
+  for (const ReportMonth& month : report.months) {
+    Json json;
+    json["index"] = month.index;
+    json["kind"] = KindWord(month.kind);
+    json["side"] = kSides3[month.side == Side::Past ? 0 : 1];
+    json["period"] = month.period;
+    json["month"] = PlainMonth(month.label);
+    if (month.kind == MonthKind::Active) {
+      json["quantity"] = Digits15(month.quantity);
+      json["unitCost"] = Digits15(month.unitCost);
+      json["reasonableCost"] = Digits15(month.reasonableCost);
+      json["adjustedCost"] = Digits15(month.adjustedCost);
+      json["monthCost"] = Digits15(month.monthCost);
+    }
+    json["monthWithInterest"] = Digits15(month.monthWithInterest);
+    json["cumulativeCost"] = Digits15(month.cumulativeCost);
+    json["cumulativeWithInterest"] = Digits15(month.cumulativeCostWithInterest);
+    months.push_back(std::move(json));
+  }
+  return months;
+}
+
+// What the boxes of the window show, whole units.
+Json TotalsOf(SinWorkspace& ws, ReportScope scope, const MonthReport& report) {
+  Json totals;
+  totals["outOfPocket"] = Digits15(report.after.cost);
+  totals["withInterest"] = Digits15(report.after.withInterest);
+  if (scope == ReportScope::Total) {
+    UpdateTotalTab(ws, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future));
+    totals["shownOutOfPocket"] = ToUtf8(ws.txtResultsTotalSummaryTot->Text());
+    totals["shownWithInterest"] = ToUtf8(ws.txtCumulativeResultsTotalSummaryTot->Text());
+    return totals;
+  }
+  const Side side = scope == ReportScope::Past ? Side::Past : Side::Future;
+  totals["shownOutOfPocket"] = ToUtf8(ws.Of(side).txtResultsTotal->Text());
+  for (int p = 1; p <= kPeriodCount; ++p)
+    if (const PeriodRecord& record = ws.Record(side, p); record.PeriodSet && record.PeriodEnabled)
+      totals["shownWithInterest"] = ToUtf8(ws.Of(side).txtCumulativeResultsPeriod(p).Text());
+  return totals;
+}
+
+Json PeriodsOf(const Json& sin, ReportScope scope) {
+  Json periods = Json::array();
+  for (const std::string_view side : {"past", "future"}) {
+    if (scope != ReportScope::Total && kSides3[static_cast<int>(scope)] != side) continue;
+    if (const auto found = sin.find(side); found != sin.end())
+      for (Json period : *found) {
+        period["side"] = side;
+        periods.push_back(std::move(period));
+      }
+  }
+  return periods;
+}
+
+// ---- A file ----
+
+std::string ReportsOf(const Entries& entries, const Options& options) {
+  QuietPlatform quiet(options.now);
+  BareProgram program(quiet);
+  Apply(program, entries);
+  std::string out;
+  if (options.format == kCsv) out = kCsvHeading;
+  Json all = Json::array();
+  const Json written = options.format == kJson ? Json::parse(WriteEntries(entries)) : Json();
+  for (const SinEntries& sin : entries.sins) {
+    if (options.sin != -1 && options.sin != sin.position) continue;
+    SinWorkspace& ws = program.At(sin.position);
+    const MonthReport report = ReportOf(ws, options.scope);
+    const std::string key(ws.Sin().key);
+    switch (options.format) {
+      case kTable:
+        AddTable(ws, options.scope, report, out);
+        break;
+      case kCsv:
+        AddCsv(ws, options.scope, report, out);
+        break;
+      case kJson:
+        all.push_back({{"sin", key},
+                       {"report", kSides3[static_cast<int>(options.scope)]},
+                       {"periods", PeriodsOf(written["sins"][key], options.scope)},
+                       {"months", MonthsOf(report)},
+                       {"totals", TotalsOf(ws, options.scope, report)}});
+    }
+  }
+  if (options.format == kJson) return all.dump(2) + "\n";
+  return options.format == kTable ? ToUtf8(out) : out;
+}
+
+// Throws EntriesRefused or Fault.
+std::string ReportsOfFile(const std::string& path, const Options& options) {
+  const Entries entries = ReadEntries(ReadEntriesBytes(path));
+  bool there = options.sin == -1;
+  for (const SinEntries& sin : entries.sins) there = there || sin.position == options.sin;
+  if (!there)
+    throw EntriesRefused("there is nothing about " +
+                         std::string(Catalogue()[static_cast<std::size_t>(options.sin)].key));
+  return ReportsOf(entries, options);
+}
+
+void Put(const std::string& path, const std::string& report, const Options& options, bool intoFolder) {
+  if (options.output.empty()) {
+    std::cout << report << std::flush;
+    if (!std::cout) throw EntriesRefused("standard output cannot be written");
+    return;
+  }
+  std::string to = options.output;
+  if (intoFolder)
+    to += "/" + std::filesystem::path(path).stem().string() + std::string(kSuffixes[options.format]);
+  WriteWholeFile(to, report);
+}
+
+int MakeReports(const Options& options) {
+  const bool intoFolder = options.files.size() > 1 || std::filesystem::is_directory(options.output);
+  int status = 0;
+  for (const std::string& path : options.files) {
+    try {
+      Put(path, ReportsOfFile(path, options), options, intoFolder);
+    } catch (const std::runtime_error& error) {  // EntriesRefused, Fault
+      std::cerr << "vicetoll-report: " << path << ": " << error.what() << '\n';
+      status = 1;
+    }
+  }
+  return status;
+}
+
+// ---- The command line ----
+
+template <std::size_t kCount>
+bool TakeWord(std::string_view value, const std::string_view (&words)[kCount], int& place) {
+  for (std::size_t i = 0; i < kCount; ++i)
+    if (words[i] == value) {
+      place = static_cast<int>(i);
+      return true;
+    }
+  return false;
+}
+
+bool TakeMonth(std::string_view value, MonthAndYear& month) {
+  if (value.size() != 7 || value[4] != '-') return false;
+  for (std::size_t i = 0; i < value.size(); ++i)
+    if (i != 4 && (value[i] < '0' || value[i] > '9')) return false;
+  month = {(value[5] - '0') * 10 + value[6] - '0',
+           ((value[0] - '0') * 10 + value[1] - '0') * 100 + (value[2] - '0') * 10 + value[3] - '0'};
+  return month.month >= 1 && month.month <= 12 && month.year >= 1000;
+}
+
+bool TakeOption(std::string_view name, std::string_view value, Options& options) {
+  int place = 0;
+  if (name == "--sin") return (options.sin = SinPosition(value)) != -1;
+  if (name == "--clock") return TakeMonth(value, options.now);
+  if (name == "--output") return !(options.output = value).empty();
+  if (name == "--side" && TakeWord(value, kSides3, place)) {
+    options.scope = static_cast<ReportScope>(place);
+    return true;
+  }
+  if (name == "--format" && TakeWord(value, kFormats, place)) {
+    options.format = static_cast<Format>(place);
+    return true;
+  }
+  return false;
+}
+
+// What is wrong with the command line; empty if nothing.
+std::string Parse(const std::vector<std::string>& words, Options& options) {
+  bool onlyFiles = false;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const std::string& word = words[i];
+    if (onlyFiles || !word.starts_with("--")) {
+      options.files.push_back(word);
+    } else if (word == "--") {
+      onlyFiles = true;
+    } else {
+      const std::size_t equals = word.find('=');
+      const std::string name = word.substr(0, equals);
+      if (equals == std::string::npos && ++i == words.size()) return name + " needs a value";
+      const std::string value = equals == std::string::npos ? words[i] : word.substr(equals + 1);
+      if (!TakeOption(name, value, options)) return name + " " + value + " is not understood";
+    }
+  }
+  if (options.files.empty()) return "no file is named";
+  if (options.files.size() > 1 && !std::filesystem::is_directory(options.output))
+    return "several files need --output with a folder that is there";
+  return {};
+}
+
+MonthAndYear Today() {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  return {local.tm_mon + 1, local.tm_year + 1900};
+}
+
+}  // namespace
+}  // namespace vicetoll
+
+int main(int argc, char** argv) {
+  using namespace vicetoll;
+  const std::vector<std::string> words(argv + 1, argv + argc);
+  for (const std::string& word : words) {
+    if (word == "--help") return std::fputs(kUsage, stdout) < 0 ? 1 : 0;
+    if (word == "--version") return std::puts("vicetoll-report " VICETOLL_VERSION) < 0 ? 1 : 0;
+  }
+  Options options;
+  options.now = Today();
+  if (const std::string wrong = Parse(words, options); !wrong.empty()) {
+    std::cerr << "vicetoll-report: " << wrong << '\n' << kUsage;
+    return 2;
+  }
+  return MakeReports(options);
+}

@@ -1,0 +1,97 @@
+#include "base/file_writer.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "base/fault.h"
+
+namespace vicetoll {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ReplacingAFile : public testing::Test {
+ protected:
+  ReplacingAFile() {
+    std::string name = (fs::temp_directory_path() / "file-writer-XXXXXX").string();
+    folder = mkdtemp(name.data());
+  }
+  ~ReplacingAFile() override { fs::remove_all(folder); }
+
+  std::string Path(const std::string& name) const { return folder + "/" + name; }
+  static std::string Read(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  std::size_t FileCount() const {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), {}));
+  }
+
+  std::string folder;
+};
+
+TEST_F(ReplacingAFile, PutsTheNewInThePlaceOfTheOld) {
+  EXPECT_EQ(ReplaceFile(Path("a"), "one"), 0);
+  EXPECT_EQ(ReplaceFile(Path("a"), std::string("t\0o", 3)), 0);
+  EXPECT_EQ(Read(Path("a")), std::string("t\0o", 3));
+  EXPECT_EQ(FileCount(), 1u);
+}
+
+TEST_F(ReplacingAFile, KeepsRightsAndLinks) {
+  ReplaceFile(Path("a"), "one");
+  chmod(Path("a").c_str(), 0640);
+  fs::create_symlink("a", Path("link"));
+  EXPECT_EQ(ReplaceFile(Path("link"), "two"), 0);
+  EXPECT_TRUE(fs::is_symlink(Path("link")));
+  EXPECT_EQ(Read(Path("a")), "two");
+  EXPECT_EQ(fs::status(Path("a")).permissions(), fs::perms(0640));
+}
+
+// As a full disk would: the limit of the shell for the size of files.
+TEST_F(ReplacingAFile, LeavesTheOldOneWhereTheNewOneHasNoRoom) {
+  const std::string old(12'000, 'x');
+  ASSERT_EQ(ReplaceFile(Path("a"), old), 0);
+  rlimit before;
+  getrlimit(RLIMIT_FSIZE, &before);
+  rlimit small = before;
+  small.rlim_cur = 4096;
+  setrlimit(RLIMIT_FSIZE, &small);
+  const int error = ReplaceFile(Path("a"), std::string(20'000, 'y'));
+  const int errorOfNew = ReplaceFile(Path("b"), std::string(20'000, 'y'));
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_EQ(error, EFBIG);
+  EXPECT_EQ(errorOfNew, EFBIG);
+  EXPECT_EQ(Read(Path("a")), old);
+  EXPECT_EQ(FileCount(), 1u);
+}
+
+TEST_F(ReplacingAFile, DoesNotWaitForAReader) {
+  ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+  EXPECT_EQ(ReplaceFile(Path("pipe"), "x"), ENXIO);
+  EXPECT_EQ(ReplaceFile("/dev/full", "x"), ENOSPC);
+  EXPECT_EQ(ReplaceFile("/dev/null", "x"), 0);
+  EXPECT_EQ(ReplaceFile(folder, "x"), EISDIR);
+  EXPECT_EQ(ReplaceFile("", "x"), ENOENT);
+}
+
+TEST_F(ReplacingAFile, NamesFileAndReasonInUtf8) {
+  try {
+    WriteWholeFile("/no/h\xC3\xA4\xC3\x9F-\xE2\x82\xAC.txt", "x");
+    FAIL();
+  } catch (const Fault& fault) {
+    EXPECT_STREQ(fault.what(),
+                 "The file \"/no/h\xC3\xA4\xC3\x9F-\xE2\x82\xAC.txt\" could not be written: "
+                 "No such file or directory.");
+  }
+}
+
+}  // namespace
+}  // namespace vicetoll
