@@ -309,8 +309,6 @@ class Scene {
   }
   virtual ~Scene() = default;
 
-  // Just before the plot is drawn: sizes are known.
-  virtual void Fit() {}
   virtual ChartContents Plotted() const = 0;
   virtual ChartWidget::Span InView() const { return {}; }
   virtual void SetInView(ChartWidget::Span) {}
@@ -335,41 +333,38 @@ class Scene {
 };
 
 // Nothing to draw: it says so.
+class WordsItem : public PlotItem {
+ public:
+  WordsItem(QCustomPlot* plot, const QString& words, const ChartStyle& style)
+      : PlotItem(plot), words_(words), style_(style) {
+    setClipToAxisRect(false);
+  }
+
+ protected:
+  void draw(QCPPainter* painter) override {
+    const QRect all = mParentPlot->viewport();
+    painter->setFont(mParentPlot->font());
+    painter->setPen(style_.text);
+    painter->drawText(all.adjusted(all.width() / 8, 0, -all.width() / 8, 0),
+                      Qt::AlignCenter | Qt::TextWordWrap, words_);
+  }
+
+ private:
+  QString words_;
+  ChartStyle style_;
+};
+
 class EmptyScene : public Scene {
  public:
   EmptyScene(QCustomPlot& plot, const ChartContents& contents, const ChartStyle& style)
       : Scene(plot, contents, style) {
-    plot.axisRect()->setVisible(false);
-    plot.xAxis->setVisible(false);
-    plot.yAxis->setVisible(false);
-    plot.xAxis->grid()->setVisible(false);
-    plot.yAxis->grid()->setVisible(false);
-    text_ = new QCPItemText(&plot);
-    text_->setClipToAxisRect(false);
-    text_->setColor(style.text);
-    text_->setFont(plot.font());
-    text_->position->setType(QCPItemPosition::ptViewportRatio);
-    text_->position->setCoords(0.5, 0.5);
-    text_->setTextAlignment(Qt::AlignCenter);
-  }
-  void Fit() override {
-    // The item wraps nothing by itself.
-    const QFontMetrics metrics(plot_.font());
-    const int room = plot_.viewport().width() * 3 / 4;
-    QString text, line;
-    for (const QString& word : ToQt(contents_.emptyText).split(u' ')) {
-      if (!line.isEmpty() && metrics.horizontalAdvance(line + u' ' + word) > room) {
-        text += line + u'\n';
-        line.clear();
-      }
-      line += (line.isEmpty() ? QString() : QStringLiteral(" ")) + word;
+    for (QCPAxis* axis : {plot.xAxis, plot.yAxis}) {
+      axis->setVisible(false);
+      axis->grid()->setVisible(false);
     }
-    text_->setText(text + line);
+    new WordsItem(&plot, ToQt(contents.emptyText), style);
   }
   ChartContents Plotted() const override { return {}; }
-
- private:
-  QCPItemText* text_;
 };
 
 class MonthScene : public Scene {
@@ -696,9 +691,7 @@ class PlotWidget : public ChartWidget {
 
  protected:
   void resizeEvent(QResizeEvent*) override {
-    if (plot_ == nullptr) return;
-    plot_->setGeometry(rect());
-    scene_->Fit();
+    if (plot_ != nullptr) plot_->setGeometry(rect());
   }
   void focusInEvent(QFocusEvent*) override { plot_->update(); }
   void focusOutEvent(QFocusEvent*) override { plot_->update(); }
@@ -768,9 +761,6 @@ class PlotWidget : public ChartWidget {
     plot_->setGeometry(rect());
     plot_->lower();
     plot_->setNoAntialiasingOnDrag(true);
-    QObject::connect(plot_, &QCustomPlot::beforeReplot, this, [this] {
-      if (scene_) scene_->Fit();
-    });
     scene_ = MakeScene(*plot_, contents_, style_);
     if (inView_) scene_->SetInView(*inView_);
     scene_->SetCursor(cursor_);
@@ -873,7 +863,6 @@ std::string PlotWidget::Picture(PictureFormat format, const ChartStyle& style) c
   plot.setFont(font());
   plot.setViewport(rect());
   const std::unique_ptr<Scene> scene = MakeScene(plot, contents, style);
-  scene->Fit();
   const QString title = ToQt(contents.title);
   switch (format) {
     case PictureFormat::Svg:

@@ -97,6 +97,7 @@ class Pictures {
     Commit(0, Side::Future, "Jul - 2030");
     Tab(0, 1, "smoking-future-set");
     Tab(0, 2, "smoking-total");
+    Charts();
     Reports();
     for (const int sin : {1, 2, 3, 4, 5, 8, 10, 11}) {
       Switch(sin);
@@ -115,6 +116,9 @@ class Pictures {
       program_.Combined().Show();
       program_.Combined().PopulateCombResultsText();
     });
+    Picture(program_.SinsChart(), "sins-chart",
+            [this] { program_.Combined().Get<Button>("cmdChart").UserClicks(); });
+    desktop_.Enter([&] { program_.SinsChart().Hide(); });
     Picture(program_.Info(), "help", [this] { program_.Info().ShowHelpFile(); });
     Identification();
   }
@@ -169,6 +173,34 @@ class Pictures {
     list->showPopup();
     Save(*list->view()->window(), name);
     list->hidePopup();
+  }
+  // The curve of the whole, with a period left out, zoomed in, and without anything to draw.
+  void Charts() {
+    SinWorkspace& ws = program_.At(0);
+    GrowthWindow& growth = program_.Growth();
+    Picture(growth, "growth", [&] { ws.Get<Button>("cmdGrowthChart").UserClicks(); });
+    desktop_.Enter([&] { growth.GetChart().UserPoints(growth.GetChart().Count() / 2); });
+    Save(Window(growth), "growth-cursor");
+    const SideControls& future = ws.Of(Side::Future);
+    const auto turnOff = [&](int period) {
+      desktop_.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(kFutureTab); });
+      desktop_.Enter([&] { future.rbnDisabledPeriod(period).UserClicks(); });
+    };
+    turnOff(2);
+    Save(Window(growth), "growth-of-one-period");
+    turnOff(1);
+    desktop_.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(kPastTab); });
+    for (const int period : {1, 2})
+      desktop_.Enter([&] { ws.Of(Side::Past).rbnDisabledPeriod(period).UserClicks(); });
+    Save(Window(growth), "growth-of-nothing");
+    for (Side side : kSides) {
+      desktop_.Enter(
+          [&] { ws.SSTab_PastFutureSwitch->UserSelects(side == Side::Past ? kPastTab : kFutureTab); });
+      for (const int period : {1, 2})
+        desktop_.Enter([&] { ws.Of(side).rbnEnabledPeriod(period).UserClicks(); });
+    }
+    desktop_.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(kTotalTab); });
+    desktop_.Enter([&] { growth.Hide(); });
   }
   void Reports() {
     SinWorkspace& ws = program_.At(0);
