@@ -764,8 +764,7 @@ class PlotWidget : public ChartWidget {
     scene_ = MakeScene(*plot_, contents_, style_);
     if (inView_) scene_->SetInView(*inView_);
     scene_->SetCursor(cursor_);
-    plot_->show();
-    plot_->replot(QCustomPlot::rpQueuedReplot);
+    plot_->show();  // its first size draws it
   }
   void Show(Span span) {
     scene_->SetInView(span);
