@@ -2,25 +2,9 @@
 
 #include <algorithm>
 
+#include "base/line_ends.h"
+
 namespace vicetoll {
-namespace {
-
-// CR, LF and CR LF all end a line.
-std::string WithCrLf(std::string_view text) {
-  std::string lines;
-  lines.reserve(text.size());
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '\r' || text[i] == '\n') {
-      if (text.substr(i).starts_with("\r\n")) ++i;
-      lines += "\r\n";
-    } else {
-      lines += text[i];
-    }
-  }
-  return lines;
-}
-
-}  // namespace
 
 void DocumentText::SetText(std::string text) {
   text_ = std::move(text);
@@ -35,7 +19,7 @@ void DocumentText::Select(int start, int length) {
 }
 
 void DocumentText::ReplaceSelection(std::string_view text) {
-  const std::string lines = WithCrLf(text);
+  const std::string lines = WithLineEnds(text);
   text_.replace(start_, length_, lines);
   start_ += static_cast<int>(lines.size());
   length_ = 0;
@@ -44,7 +28,7 @@ void DocumentText::ReplaceSelection(std::string_view text) {
 
 UserOutcome DocumentText::UserTypes(std::string_view text) {
   if (!Reachable() || readOnly_) return UserOutcome::Refused;
-  SetText(WithCrLf(text));
+  SetText(WithLineEnds(text));
   return Acted();
 }
 

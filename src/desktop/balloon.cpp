@@ -30,9 +30,7 @@ QSize TextSize(const QString& text, const QFont& font, int width) {
 }  // namespace
 
 BalloonWidget::BalloonWidget(const QString& text, QWidget* owner, QWidget* window)
-    : QWidget(window),
-      text_(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"))),
-      owner_(owner) {
+    : QWidget(window), text_(text), owner_(owner) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
   const QRect target(owner->mapTo(window, QPoint(0, 0)), owner->size());
   // The stem points at the middle of the control, or of its beginning where it is long.

@@ -9,7 +9,7 @@ namespace vicetoll {
 // and it is smooth on every screen; a window of its own would have black corners where no compositor runs.
 class BalloonWidget : public QWidget {
  public:
-  // The line breaks of the text count.
+  // The lines of the text end in LF and stay lines.
   BalloonWidget(const QString& text, QWidget* owner, QWidget* window);
 
   const QWidget* Owner() const { return owner_; }

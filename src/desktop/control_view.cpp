@@ -85,7 +85,7 @@ class ChoiceView : public ViewOf<Choice, W> {
 
  protected:
   void UpdateContents() override {
-    this->widget_->setText(ToQt(this->control_.Caption()).replace(u'&', QStringLiteral("&&")));
+    this->widget_->setText(AsItStands(ToQt(this->control_.Caption())));
     this->widget_->SetColour(this->control_.Colour());
     this->widget_->setChecked(this->control_.Value());
   }

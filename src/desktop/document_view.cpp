@@ -80,8 +80,7 @@ void DocumentEdit::insertFromMimeData(const QMimeData* source) {
 
 void DocumentEdit::KeepTyped(const std::string& text) {
   shown_ = text;
-  QString known = ToQt(text);
-  known.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  const QString known = ToQtLines(text);
   if (known == toPlainText()) return;
   const int position = textCursor().position();
   setPlainText(known);
@@ -93,14 +92,12 @@ void DocumentEdit::KeepTyped(const std::string& text) {
 void DocumentEdit::SetText(const std::string& text) {
   if (text == shown_) return;
   shown_ = text;
-  const QString shown = ToQt(text);
+  const QString shown = ToQtLines(text);
   setTabStopDistance(TabDistance(shown, QFontMetricsF(font())));
   setPlainText(shown);
 }
 
-std::string DocumentEdit::Text() const {
-  return FromQt(toPlainText().replace(u'\n', QStringLiteral("\r\n")));
-}
+std::string DocumentEdit::Text() const { return WithLineEnds(FromQt(toPlainText())); }
 
 int DocumentEdit::ControlPosition(int position) const {
   return position + document()->findBlock(position).blockNumber();
@@ -109,8 +106,8 @@ int DocumentEdit::ControlPosition(int position) const {
 int DocumentEdit::EditorPosition(int position) const {
   int lines = 0;
   const std::size_t end = static_cast<std::size_t>(position);
-  for (std::size_t i = shown_.find("\r\n"); i != std::string::npos && i + 2 <= end;
-       i = shown_.find("\r\n", i + 2))
+  for (std::size_t i = shown_.find(kLineEnd); i != std::string::npos && i + kLineEnd.size() <= end;
+       i = shown_.find(kLineEnd, i + kLineEnd.size()))
     ++lines;
   return position - lines;
 }

@@ -331,7 +331,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 
 // True if the event ends here: a container's help is for its own ground alone.
 bool FormWindow::ShowHover(QWidget* widget, const Control& control) {
-  const QString text = ToQt(form_.HelpOn(control));
+  const QString text = ToQtLines(form_.HelpOn(control));
   if (balloon_ != nullptr && balloon_->Owner() == widget) return true;
   HideBalloon();
   if (text.isEmpty()) return control.ToolTip().empty();
@@ -348,7 +348,7 @@ void FormWindow::ExplainFocus() {
   HideBalloon();
   if (shown) return;
   for (const Control* c = found->second; c != nullptr; c = c->Container()) {
-    const QString text = ToQt(form_.HelpOn(*c));
+    const QString text = ToQtLines(form_.HelpOn(*c));
     if (!text.isEmpty()) {
       balloon_ = new BalloonWidget(text, focus, this);
       return;

@@ -60,6 +60,8 @@ QString WithoutAccessKey(const QString& text) {
   return plain;
 }
 
+QString AsItStands(QString plain) { return plain.replace(u'&', QStringLiteral("&&")); }
+
 void DrawFitted(QPainter& painter, const QRect& room, int alignment, const QString& text, const QFont& font) {
   painter.setFont(FittedFont(WithoutAccessKey(text), room.size(), font));
   painter.drawText(room, alignment | Qt::TextWordWrap | Qt::TextShowMnemonic, text);

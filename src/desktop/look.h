@@ -41,7 +41,9 @@ void DrawBox(QPainter& painter, const QRect& room, const QColor& ground, const Q
 // The mark of a choice: a round one for options, a square one for check boxes.
 void DrawIndicator(QPainter& painter, const QRect& room, bool round, const QStyleOption& state);
 
-// A text in which nothing marks an access key.
+// From a text in which "&" marks an access key to the one that is shown, and back from a plain one to a text
+// in which nothing marks one.
 QString WithoutAccessKey(const QString& text);
+QString AsItStands(QString plain);
 
 }  // namespace vicetoll

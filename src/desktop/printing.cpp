@@ -26,9 +26,7 @@ void LayOut(QTextDocument& document, QPrinter& printer, std::string_view text, b
     option.setTabStopDistance(page / (kTabbedColumns + 0.5));
     document.setDefaultTextOption(option);
   }
-  QString lines = ToQt(text);
-  lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
-  document.setPlainText(lines);
+  document.setPlainText(ToQtLines(text));
   document.setPageSize(printer.pageRect(QPrinter::DevicePixel).size());
 }
 

@@ -31,7 +31,7 @@ std::unique_ptr<QMessageBox> MakeMessageBox(const QString& title, const QString&
   auto box = std::make_unique<QMessageBox>(QApplication::activeWindow());
   box->setWindowTitle(title.isEmpty() ? ProgramName() : title);
   box->setTextFormat(Qt::PlainText);
-  box->setText(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+  box->setText(text);
   box->setIcon(buttons == MessageButtons::Ok ? QMessageBox::Information : QMessageBox::Question);
   switch (buttons) {
     case MessageButtons::Ok:
@@ -51,7 +51,7 @@ std::unique_ptr<QMessageBox> MakeMessageBox(const QString& title, const QString&
 
 std::unique_ptr<QMessageBox> MakeMessageBox(std::string_view title, std::string_view text,
                                             MessageButtons buttons) {
-  return MakeMessageBox(ToQt(title), ToQt(text), buttons);
+  return MakeMessageBox(ToQt(title), ToQtLines(text), buttons);
 }
 
 QMessageBox::StandardButton ButtonFor(Answer answer, MessageButtons buttons) {
@@ -84,7 +84,7 @@ Answer QtPlatform::ShowMessage(std::string_view title, std::string_view text, Me
 
 Answer QtPlatform::ShowFileMessage(std::string_view utf8, MessageButtons buttons) {
   ShowChanges();
-  return AnswerOf(MakeMessageBox({}, QString::fromUtf8(utf8), buttons)->exec());
+  return AnswerOf(MakeMessageBox({}, QString::fromStdString(WithLineEnds(utf8, "\n")), buttons)->exec());
 }
 
 void QtPlatform::Tell(const QString& text) {

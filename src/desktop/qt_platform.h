@@ -14,7 +14,7 @@ namespace vicetoll {
 // The program's name, as windows and boxes without a title of their own bear it.
 QString ProgramName();
 
-// The modal box for a message. An empty title becomes the program's name.
+// The modal box for a message. An empty title becomes the program's name; the lines of a QString end in LF.
 std::unique_ptr<QMessageBox> MakeMessageBox(const QString& title, const QString& text,
                                             MessageButtons buttons);
 std::unique_ptr<QMessageBox> MakeMessageBox(std::string_view title, std::string_view text,

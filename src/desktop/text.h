@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/code_page.h"
+#include "base/line_ends.h"
 
 namespace vicetoll {
 
@@ -15,5 +16,8 @@ inline QString ToQt(std::string_view codePageText) {
 }
 
 inline std::string FromQt(const QString& text) { return FromUtf8(text.toStdString()); }
+
+// A text as widgets show it, its lines ending in LF.
+inline QString ToQtLines(std::string_view codePageText) { return ToQt(WithLineEnds(codePageText, "\n")); }
 
 }  // namespace vicetoll

@@ -110,7 +110,7 @@ void BlueList::paintEvent(QPaintEvent*) {
   painter.setPen(palette().color(QPalette::Text));
   if (!isEditable())
     DrawFitted(painter, rect().adjusted(7, 1, -kArrowRoom, -1), Qt::AlignLeft | Qt::AlignVCenter,
-               QString(text_).replace(u'&', QStringLiteral("&&")), font());
+               AsItStands(text_), font());
   PaintArrow(painter, QRect(width() - kArrowRoom, 0, kArrowRoom, height()));
   if (hasFocus()) {
     DrawFocusRing(painter, rect());
@@ -158,8 +158,7 @@ CaptionButton::CaptionButton(QWidget* parent) : QPushButton(parent) { setAutoDef
 void CaptionButton::SetCaption(const QString& caption) {
   if (caption == caption_) return;
   caption_ = caption;
-  QString text = caption;
-  text.replace(u'&', QStringLiteral("&&"));
+  QString text = AsItStands(caption);
   const qsizetype at = accessKey_.isNull() ? -1 : text.indexOf(accessKey_);
   if (at >= 0) text.insert(at, u'&');
   setText(text);
@@ -226,8 +225,7 @@ CaptionLabel::CaptionLabel(QWidget* parent) : QLabel(parent) {
 void CaptionLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::WindowText));
-  DrawFitted(painter, rect(), static_cast<int>(alignment()),
-             QString(text()).replace(u'&', QStringLiteral("&&")), font());
+  DrawFitted(painter, rect(), static_cast<int>(alignment()), AsItStands(text()), font());
 }
 
 void CaptionFrame::paintEvent(QPaintEvent*) {

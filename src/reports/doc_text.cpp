@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 
+#include "base/line_ends.h"
 #include "calendar/money.h"
 #include "reports/report_columns.h"
 
@@ -11,7 +12,6 @@ namespace {
 using std::string_view;
 
 constexpr string_view kExcessFormat = "$##.00";
-constexpr string_view kLineEnd = "\r\n";
 constexpr string_view kRuleLine =
     "____________________________________________"
     "____________________________________________\r\n";

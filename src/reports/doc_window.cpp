@@ -1,5 +1,6 @@
 #include "reports/doc_window.h"
 
+#include "base/line_ends.h"
 #include "reports/report_operations.h"
 #include "reports/total_reports.h"
 
@@ -86,7 +87,8 @@ std::string DocWindow::FileBytes() {
   if (Text().SelLength() == 0) SelectAll();
   std::string bytes = "\"";
   bytes += Text().SelText();
-  bytes += "\"\r\n";
+  bytes += '"';
+  bytes += kLineEnd;
   return bytes;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/line_ends.h"
 #include "reports/report_columns.h"
 
 namespace vicetoll {
@@ -42,7 +43,8 @@ std::string SpdWindow::FileBytes() {
       bytes += Rows().Cell(row, column);
       bytes += '\t';
     }
-    bytes += "\"\r\n";
+    bytes += '"';
+    bytes += kLineEnd;
   }
   return bytes;
 }

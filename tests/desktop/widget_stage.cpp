@@ -160,7 +160,7 @@ UserOutcome WidgetStage::Type(Control& control, std::string_view text) {
   if (dynamic_cast<DocumentEdit*>(&Widget<QWidget>(control)) == nullptr) return UserOutcome::Refused;
   auto& edit = Widget<DocumentEdit>(control);
   edit.selectAll();
-  Enter(edit, ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n'));
+  Enter(edit, ToQtLines(text));
   QTest::keyClick(&edit, Qt::Key_Home, Qt::ControlModifier);
   return Done();
 }
