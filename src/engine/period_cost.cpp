@@ -1,7 +1,5 @@
 #include "engine/period_cost.h"
 
-#include <cmath>
-
 #include "base/checked_int.h"
 #include "calendar/date_label.h"
 #include "calendar/money.h"
@@ -9,13 +7,6 @@
 
 namespace vicetoll {
 namespace {
-
-// The balance after the months 1..count of a period, each month's cost put in before its interest.
-double WalkBalance(double balance, std::int16_t count, double months, const CostTerms& cost, double factor) {
-  MonthWalk walk(cost, months);
-  for (int i = 1; i <= count; ++i) balance = (balance + RoundToCents(walk.Next().monthCost)) * factor;
-  return Finite(balance);
-}
 
 // The balance grown over the months strictly between two labels; none or fewer leave it alone.
 double GrowBetween(double balance, double factor, std::string_view stop, std::string_view start) {
@@ -66,13 +57,21 @@ double CostInPeriod(const PeriodTerms& terms) {
   return total;
 }
 
+double BalanceAfterMonths(double balance, std::int16_t count, double months, const CostTerms& cost,
+                          const Rates& rates) {
+  const double factor = rates.MonthlyFactor();
+  MonthWalk walk(cost, months);
+  for (int i = 1; i <= count; ++i) balance = (balance + RoundToCents(walk.Next().monthCost)) * factor;
+  return Finite(balance);
+}
+
 double CumulativeCostInPeriod(std::string_view startingCost, const PeriodTerms& terms,
                               std::string_view calculateToDate, const DateWarning& warn) {
   const std::int16_t months = terms.Months();
   const std::int16_t count = MonthsInclusive(terms.StartLabel, calculateToDate);
   if (count > months) warn(DateFault::BeyondEndDate);
   if (count < 0) warn(DateFault::BeforeStartDate);
-  return WalkBalance(MoneyToNumber(startingCost), count, months, terms.cost, terms.rates.MonthlyFactor());
+  return BalanceAfterMonths(MoneyToNumber(startingCost), count, months, terms.cost, terms.rates);
 }
 
 double CumulativeCostBetweenPeriod(std::string_view startingCost, const Rates& rates, std::string_view stop,
@@ -83,11 +82,6 @@ double CumulativeCostBetweenPeriod(std::string_view startingCost, const Rates& r
 double CostAfterLastPeriod(std::string_view startingCost, double interestRate, std::string_view from,
                            std::string_view to) {
   return GrowBetween(MoneyToNumber(startingCost), 1 + interestRate / 1200, from, to);
-}
-
-double TotalCostInCurrentPeriod(double count, double months, const Rates& rates, const CostTerms& cost) {
-  // A part of a month is no month.
-  return WalkBalance(0, RoundToInt16(std::floor(count)), months, cost, rates.MonthlyFactor());
 }
 
 }  // namespace vicetoll

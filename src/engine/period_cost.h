@@ -52,8 +52,13 @@ using DateWarning = std::function<void(DateFault)>;
 // The sum of the month costs, each rounded to cents. No interest.
 double CostInPeriod(const PeriodTerms& terms);
 
-// The balance at the end of the month `calculateToDate`: each month's cost goes in first, and the month's
-// interest is paid on all of it. Beyond the period's stop the months go on with the same formulas.
+// The balance after the first `count` months of a period of `months` months: each month's cost goes in
+// first, and the month's interest is paid on all of it. Beyond the period the months go on with the same
+// formulas.
+double BalanceAfterMonths(double balance, std::int16_t count, double months, const CostTerms& cost,
+                          const Rates& rates);
+
+// The balance at the end of the month `calculateToDate`, which may lie beyond the period's stop.
 double CumulativeCostInPeriod(std::string_view startingCost, const PeriodTerms& terms,
                               std::string_view calculateToDate, const DateWarning& warn);
 
@@ -64,8 +69,5 @@ double CumulativeCostBetweenPeriod(std::string_view startingCost, const Rates& r
 // The same at a rate in percent, already net of inflation.
 double CostAfterLastPeriod(std::string_view startingCost, double interestRate, std::string_view from,
                            std::string_view to);
-
-// The balance from nothing after `count` months of a period of `months` months.
-double TotalCostInCurrentPeriod(double count, double months, const Rates& rates, const CostTerms& cost);
 
 }  // namespace vicetoll

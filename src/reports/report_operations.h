@@ -1,5 +1,5 @@
 // The operations of the month-by-month reports, as a table of names can call them. Each stands for its
-// pair of names: ParametersForMonthInPeriodSpdPast and ...Future, BuildDocTextPast and ...Future.
+// pair of names: BuildSpdRowsPast and ...Future, BuildDocTextPast and ...Future.
 #pragma once
 
 #include <cstdint>
@@ -16,30 +16,6 @@ namespace vicetoll {
 
 // What a workspace's last report showed, as its FuturePast_Flag says.
 enum ShownSides : std::int16_t { kShowsPast = 1, kShowsFuture = 2, kShowsBoth = 3 };
-
-// Of the four month operations: `index` is the number of months so far and moves on; the totals are carried
-// on from those given and end up in the workspace's fields. What they list, see reports/report_months.h.
-// They throw Fault(Overflow) for an index beyond 16 bits.
-
-// Adds the rows of a period's months at the end of the grid.
-void ParametersForMonthInPeriodSpd(SinWorkspace& ws, Side side, Grid& grid, int period, std::int16_t& index,
-                                   double cumulativeCost, double cumulativeCostWithInterest);
-
-// Adds the rows of the months between two labels: a gap, or a disabled period.
-void ParametersForMonthInPeriodSpdBetweenPeriods(SinWorkspace& ws, Side side, Grid& grid,
-                                                 bool periodIsDisabled, int period, std::int16_t& index,
-                                                 double cumulativeCost, double cumulativeCostWithInterest,
-                                                 std::string_view from, std::string_view to);
-
-// The same months as text: blocks if `docFlag`, table lines otherwise.
-std::string ParametersForMonthInPeriodDoc(SinWorkspace& ws, Side side, int period, bool docFlag,
-                                          std::int16_t& index, double cumulativeCost,
-                                          double cumulativeCostWithInterest);
-std::string ParametersForMonthInPeriodDocBetweenPeriods(SinWorkspace& ws, Side side, bool periodIsDisabled,
-                                                        int period, bool docFlag, std::int16_t& index,
-                                                        double cumulativeCost,
-                                                        double cumulativeCostWithInterest,
-                                                        std::string_view from, std::string_view to);
 
 // The heading of a sin's grid, as Grid::SetHeading takes it; empty for a key that is no sin's.
 std::string_view GridHeaderText(std::string_view sinKey);

@@ -7,6 +7,8 @@
 #include "shell/layout.h"
 #include "vocabulary/call.h"
 #include "vocabulary/month_functions.h"
+#include "vocabulary/month_reports.h"
+#include "vocabulary/period_functions.h"
 #include "vocabulary/text_functions.h"
 #include "workspace/commit.h"
 #include "workspace/date_list.h"
@@ -31,7 +33,8 @@ constexpr auto kCostInPeriod = [](SinWorkspace& ws, Side side, std::int16_t peri
 };
 constexpr auto kCumulativeCost = [](SinWorkspace& ws, Side side, const std::string& startingCost,
                                     std::int16_t period, const std::string& calculateToDate) {
-  return CumulativeCostInPeriod(ws, side, startingCost, period, calculateToDate);
+  return CumulativeCostInPeriod(startingCost, PeriodTermsOf(ws, side, period), calculateToDate,
+                                WarningOf(ws));
 };
 constexpr auto kCumulativeCostBetween = [](SinWorkspace& ws, Side side, const std::string& startingCost,
                                            std::int16_t period, const std::string& stop,

@@ -37,24 +37,9 @@ double CostInPeriod(const SinWorkspace& ws, Side side, int period) {
   return CostInPeriod(PeriodTermsOf(ws, side, period));
 }
 
-double CumulativeCostInPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost, int period,
-                              std::string_view calculateToDate) {
-  return CumulativeCostInPeriod(startingCost, PeriodTermsOf(ws, side, period), calculateToDate,
-                                WarningOf(ws));
-}
-
 double CumulativeCostBetweenPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost,
                                    int period, std::string_view stop, std::string_view start) {
   return CumulativeCostBetweenPeriod(startingCost, RatesOf(ws.Record(side, period)), stop, start);
-}
-
-double TotalCostInCurrentPeriod(const SinWorkspace& ws, Side side, double count, double months, int period) {
-  if (count < 1) return 0;  // the period may hold no texts yet
-  PeriodTerms terms = PeriodTermsOf(ws, side, period);
-  if (side == Side::Future && ws.Sin().futureTotalTakesListPosition)
-    terms.cost.quantity = ws.Record(side, period).QuantityListIndex;
-  if (side == Side::Future && ws.Sin().futureTotalHasNoIncrease) terms.cost.yearlyFraction = 0;
-  return TotalCostInCurrentPeriod(count, months, terms.rates, terms.cost);
 }
 
 }  // namespace vicetoll

@@ -25,15 +25,7 @@ DateWarning WarningOf(const SinWorkspace& ws);
 
 // The operations under the workspace's names; labels, balances and rates as in the engine.
 double CostInPeriod(const SinWorkspace& ws, Side side, int period);
-double CumulativeCostInPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost, int period,
-                              std::string_view calculateToDate);
 double CumulativeCostBetweenPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost,
                                    int period, std::string_view stop, std::string_view start);
-
-// The balance from nothing after `count` months of `months`. Where that is none, nothing is read from the
-// store: 0, also for a period that holds no texts yet. Two sins differ: the future side of Drinking
-// takes the stored list position for the daily quantity, and the future side of Jailing knows no yearly
-// increase.
-double TotalCostInCurrentPeriod(const SinWorkspace& ws, Side side, double count, double months, int period);
 
 }  // namespace vicetoll

@@ -136,16 +136,16 @@ TEST(CostAfterLastPeriod, ANegativeRateShrinksTheBalance) {
   EXPECT_NEAR(CostAfterLastPeriod("100", -12, "Jan - 2000", "Apr - 2000"), 98.01, 1e-9);  // 0.99 * 0.99
 }
 
-TEST(TotalCostInCurrentPeriod, IsTheBalanceFromNothingWithoutDates) {
-  EXPECT_EQ(NumberToText(TotalCostInCurrentPeriod(2, 3, kFirst.rates, kFirst.cost)), "123.511284");
-  EXPECT_EQ(TotalCostInCurrentPeriod(3, 3, kFirst.rates, kFirst.cost), Cumulative("0", kFirst, "Mar - 2000"));
-  EXPECT_EQ(TotalCostInCurrentPeriod(0, 3, kFirst.rates, kFirst.cost), 0);
+TEST(BalanceAfterMonths, KnowsNoDates) {
+  EXPECT_EQ(NumberToText(BalanceAfterMonths(0, 2, 3, kFirst.cost, kFirst.rates)), "123.511284");
+  EXPECT_EQ(BalanceAfterMonths(0, 3, 3, kFirst.cost, kFirst.rates), Cumulative("0", kFirst, "Mar - 2000"));
+  EXPECT_EQ(BalanceAfterMonths(0, 0, 3, kFirst.cost, kFirst.rates), 0);
 }
 
-TEST(TotalCostInCurrentPeriod, TakesTheMonthsThatItIsGiven) {
+TEST(BalanceAfterMonths, TakesTheMonthsThatItIsGiven) {
   CostTerms cost = kFirst.cost;
   cost.finalCost = 4;  // over two months: 3.00, then 4.00, then 5.00 a day
-  EXPECT_EQ(FormatNumber(TotalCostInCurrentPeriod(3, 2, {}, cost), "0.00"), "365.04");
+  EXPECT_EQ(FormatNumber(BalanceAfterMonths(0, 3, 2, cost, {}), "0.00"), "365.04");
 }
 
 // ---- From the store ----

@@ -4,6 +4,7 @@
 
 #include "reports/report_world.h"
 #include "reports/total_reports.h"
+#include "vocabulary/month_reports.h"
 
 namespace vicetoll {
 namespace {

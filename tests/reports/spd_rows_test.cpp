@@ -2,6 +2,7 @@
 
 #include "base/fault.h"
 #include "reports/report_world.h"
+#include "vocabulary/month_reports.h"
 
 namespace vicetoll {
 namespace {
