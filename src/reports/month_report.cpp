@@ -16,7 +16,7 @@ class MonthCollector : public MonthSink {
   std::vector<ReportMonth>& months_;
 };
 
-ReportState Walk(const SinWorkspace& ws, ReportScope scope, MonthSink& sink) {
+ReportState WalkScope(const SinWorkspace& ws, ReportScope scope, MonthSink& sink) {
   const SideIndex past = ws.SideIndex(Side::Past);
   const SideIndex future = ws.SideIndex(Side::Future);
   if (scope == ReportScope::Past) return WalkSide(ReportSideOf(ws, Side::Past, past), {}, sink);
@@ -29,7 +29,7 @@ ReportState Walk(const SinWorkspace& ws, ReportScope scope, MonthSink& sink) {
 MonthReport ReportOf(const SinWorkspace& ws, ReportScope scope) {
   MonthReport report;
   MonthCollector collector(report.months);
-  report.after = Walk(ws, scope, collector);
+  report.after = WalkScope(ws, scope, collector);
   return report;
 }
 

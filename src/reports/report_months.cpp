@@ -39,8 +39,8 @@ void TakeFigures(ReportMonth& month, const MonthFigures& figures) {
 }
 
 // The months of a stretch, at these rates; `cost` is what the active ones cost.
-ReportState Walk(const ReportStretch& stretch, const Rates& rates, const CostTerms& cost, ReportState state,
-                 MonthSink& sink) {
+ReportState WalkStretch(const ReportStretch& stretch, const Rates& rates, const CostTerms& cost,
+                        ReportState state, MonthSink& sink) {
   const int first = Add(state.index, 1);
   const std::int16_t last = Add(state.index, stretch.months);
   state.index = last;
@@ -77,7 +77,7 @@ ReportState Walk(const ReportStretch& stretch, const Rates& rates, const CostTer
 ReportState WalkPeriod(const ReportPeriod& period, ReportState state, MonthSink& sink) {
   if (!period.set) return state;
   const PeriodTerms& terms = period.terms;
-  return Walk(
+  return WalkStretch(
       {MonthKind::Active, period.side, period.number, terms.StartLabel, terms.StopLabel, terms.Months()},
       terms.rates, terms.cost, state, sink);
 }
@@ -88,7 +88,8 @@ ReportState WalkBetweenPeriods(const ReportPeriod& period, bool periodIsDisabled
   const std::int16_t inclusive = MonthsInclusive(from, to);
   const MonthKind kind = periodIsDisabled ? MonthKind::Disabled : MonthKind::Gap;
   const std::int16_t months = periodIsDisabled ? inclusive : Subtract(inclusive, 2);
-  return Walk({kind, period.side, period.number, from, to, months}, period.terms.rates, {}, state, sink);
+  return WalkStretch({kind, period.side, period.number, from, to, months}, period.terms.rates, {}, state,
+                     sink);
 }
 
 ReportState WalkSide(const ReportSide& side, ReportState state, MonthSink& sink) {

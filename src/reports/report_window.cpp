@@ -8,7 +8,7 @@ namespace vicetoll {
 namespace {
 
 // Twips.
-constexpr int kWidth = 9000;
+constexpr int kReportWidth = 9000;
 constexpr int kReportLeft = 350, kReportTop = 200;
 constexpr int kBesideReport = 800, kBelowReport = 2000;  // of the window's size, what the report leaves
 constexpr int kButtonWidth = 1500, kButtonHeight = 500;
@@ -28,7 +28,7 @@ void ReportWindow::Furnish(Control& report) {
   AddMenuEntry("cmdSelectAll", "Select All", [this] { SelectAll(); });
   AddMenuEntry("cmdCopy", "Copy", [this] { Copy(); });
   onResize = [this] { OnResize(); };
-  Resize(kWidth, shape_.height);
+  Resize(kReportWidth, shape_.height);
 }
 
 Button& ReportWindow::AddButton(const char* name, const char* caption, std::function<void()> action) {
