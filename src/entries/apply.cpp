@@ -73,6 +73,7 @@ void Reckon(SinWorkspace& ws, Side side, const SideEntries& entries) {
   if (entries.resultsBy != CountedIn::Switch) {
     // A press forces all radios on but that of period 1, and counts it none the less.
     CommitPeriod(ws, side, count, sideIndex);
+    if (entries.periods[0].enabled && entries.resultsUnit == entries.periods.back().unit) return;
     switchOff();
     ShowUnitOf(ws, side, entries.resultsUnit);
     if (entries.resultsBy == CountedIn::PressHidingFirst) c.rbnDisabledPeriod(kPeriodCount).SetValue(true);

@@ -158,6 +158,7 @@ void Program::TakeStateOf(Program& other) {
   for (Form* window : windows_)
     if (dynamic_cast<SinWorkspace*>(window) == nullptr) window->Hide();
   Current().Show();
+  FollowUser();
 }
 
 void Program::Exit() {
