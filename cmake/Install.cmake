@@ -1,7 +1,6 @@
 # What is installed, and where. The program looks for its texts in share/vicetoll beside its bin folder,
 # whatever the prefix.
 # SPDX-License-Identifier: GPL-3.0-or-later
-include(GNUInstallDirs)
 
 # The newest release of the change log: "## 1.0.0 (2026-11-22)". Pages and metadata bear its date.
 file(STRINGS ${PROJECT_SOURCE_DIR}/CHANGELOG.md newest REGEX "^## ${PROJECT_VERSION} \\(" LIMIT_COUNT 1)
@@ -10,29 +9,15 @@ if(NOT newest MATCHES "\\(([0-9-]+)\\)")
 endif()
 set(VICETOLL_RELEASE_DATE ${CMAKE_MATCH_1})
 
-# Pictures that the texts show; no others travel with the program.
-function(shown_pictures out)
-  file(GLOB texts ${PROJECT_SOURCE_DIR}/data/*.hlp)
-  set(found)
-  foreach(text ${texts})
-    file(READ ${text} contents)
-    string(REGEX MATCHALL "\\(pictures/[^)]+\\)" links "${contents}")
-    foreach(link ${links})
-      string(REGEX REPLACE "\\((.*)\\)" "${PROJECT_SOURCE_DIR}/docs/\\1" picture ${link})
-      list(APPEND found ${picture})
-    endforeach()
-  endforeach()
-  list(REMOVE_DUPLICATES found)
-  set(${out} ${found} PARENT_SCOPE)
-endfunction()
-
 set(made ${PROJECT_BINARY_DIR}/install)
 set(data ${PROJECT_SOURCE_DIR}/data)
+set(vicetoll_programs vicetoll)
+if(TARGET vicetoll-report)
+  list(APPEND vicetoll_programs vicetoll-report)
+endif()
 
-install(TARGETS vicetoll vicetoll-report RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS ${vicetoll_programs} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 
-file(GLOB help_texts ${data}/*.hlp)
-shown_pictures(help_pictures)
 install(FILES ${help_texts} DESTINATION ${CMAKE_INSTALL_DATADIR}/vicetoll)
 install(FILES ${help_pictures} DESTINATION ${CMAKE_INSTALL_DATADIR}/vicetoll/pictures)
 
@@ -60,7 +45,10 @@ foreach(page vicetoll.1 vicetoll-report.1)
   configure_file(${data}/man/${page}.in ${made}/${page} @ONLY)
   install_compressed(${made}/${page} ${page} ${CMAKE_INSTALL_MANDIR}/man1)
 endforeach()
-install_compressed(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog ${CMAKE_INSTALL_DOCDIR})
+execute_process(COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C date -u -R -d ${VICETOLL_RELEASE_DATE}
+                OUTPUT_VARIABLE VICETOLL_RELEASE_TIME OUTPUT_STRIP_TRAILING_WHITESPACE)
+configure_file(${data}/changelog.in ${made}/changelog @ONLY)
+install_compressed(${made}/changelog changelog ${CMAKE_INSTALL_DOCDIR})
 add_custom_target(compressed_pages ALL DEPENDS ${compressed})
 install(FILES ${data}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
@@ -72,14 +60,14 @@ set(CPACK_PACKAGE_CONTACT "The Orvane Team <vicetoll@orvane.example>")
 set(CPACK_PACKAGE_HOMEPAGE_URL "https://www.orvane.example/")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "costs of a habit, and what the money would have grown to")
 set(CPACK_PACKAGE_DESCRIPTION
-"Vicetoll tells what a costly habit has cost and will cost, and what that money
-would have grown to, put aside month by month. Twelve habits, up to four periods
-in the past and four in the future for each, every period with its own dates,
-quantity, changing cost, interest and inflation.
+"Vicetoll tells what a costly habit has cost and will cost, and what that
+money would have grown to, put aside month by month. Twelve habits, up to
+four periods in the past and four in the future for each, every period with
+its own dates, quantity, changing cost, interest and inflation.
 .
 It shows totals, the value at a chosen date, a growth chart, month-by-month
-reports and a table over all habits, and it exports what it shows. The program
-vicetoll-report makes the same reports in scripts.")
+reports and a table over all habits. The program vicetoll-report makes the
+same reports in scripts.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

@@ -192,7 +192,10 @@ void QtPlatform::SetClipboard(std::string_view text) { QApplication::clipboard()
 std::string QtPlatform::Clipboard() { return FromQt(QApplication::clipboard()->text()); }
 
 std::string QtPlatform::ProgramFolder() {
-  return QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
+  // An installed program has its texts in the prefix's share folder, a built one beside it.
+  const QString beside = QCoreApplication::applicationDirPath();
+  const QString installed = QDir::cleanPath(beside + QStringLiteral("/" VICETOLL_TEXTS_FROM_PROGRAM));
+  return QFile::encodeName(QDir(installed).exists() ? installed : beside).toStdString();
 }
 
 void QtPlatform::Browse(std::string_view url) {
