@@ -1,6 +1,5 @@
-// vicetoll-tour FOLDER: a short walk through the program, for machines without a display. Two past periods
-// and a future one of smoking are set, the TOTAL tab is opened, then coffee. Prints the figures, and draws
-// each step into a PNG file in the folder.
+#include "desktop/tour.h"
+
 #include <QApplication>
 #include <QDir>
 #include <cstdio>
@@ -97,20 +96,8 @@ class Tour {
 };
 
 }  // namespace
-}  // namespace vicetoll
 
-int main(int argc, char** argv) {
-  using namespace vicetoll;
-  if (argc != 2) {
-    std::fputs("usage: vicetoll-tour FOLDER\n", stderr);
-    return 2;
-  }
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  // The platform that draws nowhere says what else it cannot do; nobody needs to know here.
-  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-  QApplication application(argc, argv);
-  ApplyLook(application);
-  const QString folder = QString::fromLocal8Bit(argv[1]);
+int TakeTour(const QString& folder) {
   QDir().mkpath(folder);
   QtPlatform platform;
   try {
@@ -129,3 +116,5 @@ int main(int argc, char** argv) {
     return 1;
   }
 }
+
+}  // namespace vicetoll
