@@ -12,9 +12,10 @@ namespace vicetoll {
 namespace {
 
 // Options that the toolkit takes out of the line itself; all but the last have a value behind them.
-constexpr const char* kToolkitOptions[] = {"platform", "platformpluginpath", "platformtheme", "plugin",
-                                           "qwindowgeometry", "qwindowicon", "qwindowtitle", "style",
-                                           "stylesheet", "session", "display", "geometry", "reverse"};
+constexpr const char* kToolkitOptions[] = {
+    "platform",    "platformpluginpath", "platformtheme", "plugin",     "qwindowgeometry",
+    "qwindowicon", "qwindowtitle",       "style",         "stylesheet", "session",
+    "display",     "geometry",           "reverse"};
 
 // The line without the toolkit's options and their values.
 QStringList OwnArguments(const QStringList& arguments) {

@@ -10,7 +10,7 @@ struct CommandLine {
   // The run is over before it began, with this exit status: help or version were told, or the line was not
   // understood.
   std::optional<int> status;
-  std::string file;     // entries to open, in the encoding of the file system
+  std::string file;        // entries to open, in the encoding of the file system
   std::string tourFolder;  // take the tour and draw it into this folder, in the same encoding
 };
 

@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "base/code_page.h"
+#include "shell/about.h"
 
 namespace vicetoll {
 namespace {
@@ -21,6 +22,9 @@ InfoWindow::InfoWindow(Platform& platform) : Form("frmInfo", ""), platform_(plat
   cmdExit_ = &Add<Button>({"cmdExit"}, "Exit");
   cmdExit_->SetPlace({0, 0, 1500, 500});
   cmdExit_->onClick = [this] { Hide(); };
+  cmdAbout_ = &Add<Button>({"cmdAbout"}, "About");
+  cmdAbout_->SetPlace({0, 0, 1500, 500});
+  cmdAbout_->onClick = [this] { ShowAbout(); };
   onResize = [this] { PlaceControls(); };
   Resize(kInfoWidth, kInfoHeight);
 }
@@ -32,11 +36,20 @@ void InfoWindow::PlaceControls() {
   exit.left = kInfoMargin + text.width - exit.width;
   exit.top = text.top + text.height + 400;
   cmdExit_->SetPlace(exit);
+  exit.left = text.left;
+  cmdAbout_->SetPlace(exit);
 }
 
 void InfoWindow::ShowHelpFile() { Open("Sin_help.hlp", "info for The Vicetoll Financial Calculator"); }
 
 void InfoWindow::ShowInfoFile() { Open("Sin_Info.hlp", "Info and FAQ on The Vicetoll Financial Calculator"); }
+
+void InfoWindow::ShowAbout() {
+  Show();
+  file_.clear();
+  rtfInfo_->SetText(AboutText());
+  SetCaption("About The Vicetoll Financial Calculator");
+}
 
 void InfoWindow::Open(std::string_view file, std::string_view caption) {
   Show();

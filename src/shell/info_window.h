@@ -21,6 +21,8 @@ class InfoWindow : public Form {
   // names it.
   void ShowHelpFile();
   void ShowInfoFile();
+  // Shows what the program says of itself.
+  void ShowAbout();
 
   // The path of the file shown, in the encoding of the file system; empty before the first showing. The
   // pictures that a text names lie beside it.
@@ -33,6 +35,7 @@ class InfoWindow : public Form {
   Platform& platform_;
   DocumentText* rtfInfo_;
   Button* cmdExit_;
+  Button* cmdAbout_;
   std::string file_;
 };
 

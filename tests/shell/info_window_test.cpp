@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "base/version.h"
 #include "program_fixture.h"
 
 namespace vicetoll {
@@ -91,6 +92,18 @@ TEST_F(Info, FollowsTheSizeOfItsWindow) {
     EXPECT_EQ(text.height, height - 1400);
     EXPECT_EQ(info.Get<Button>("cmdExit").GetPlace().top, 200 + (height - 1400) + 400);
   }
+}
+
+// The version comes from the build; About names no file, so no picture is looked for beside one.
+TEST_F(Info, TellsTheVersionAndTheLicence) {
+  Write("Sin_help.hlp", "How it works");
+  Press("cmdHelp");
+  EXPECT_EQ(run.program.Info().Get<Button>("cmdAbout").UserClicks(), UserOutcome::Done);
+  EXPECT_NE(Text().find("Version " + std::string(kVersion) + "\r\n"), std::string::npos);
+  EXPECT_NE(Text().find("GNU General Public License, version 3 or any later version"), std::string::npos);
+  EXPECT_EQ(run.program.Info().File(), "");
+  Press("cmdHelp");
+  EXPECT_EQ(Text(), "How it works");
 }
 
 }  // namespace
