@@ -17,6 +17,7 @@ if(TARGET vicetoll-report)
 endif()
 
 install(TARGETS ${vicetoll_programs} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS vicetoll_charts LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/vicetoll)
 
 install(FILES ${help_texts} DESTINATION ${CMAKE_INSTALL_DATADIR}/vicetoll)
 install(FILES ${help_pictures} DESTINATION ${CMAKE_INSTALL_DATADIR}/vicetoll/pictures)

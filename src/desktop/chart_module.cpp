@@ -1,10 +1,10 @@
 #include "desktop/chart_module.h"
 
-#include <QCoreApplication>
 #include <QLabel>
 #include <QLibrary>
 
 #include "desktop/desktop.h"
+#include "desktop/places.h"
 #include "desktop/themes.h"
 
 namespace vicetoll {
@@ -23,7 +23,7 @@ ChartStyle StyleIn(Theme theme) {
 // A function of the module; nullptr and a reason where there is none.
 template <class Function>
 Function FromModule(const char* name, QString& error) {
-  QLibrary module(QCoreApplication::applicationDirPath() + QStringLiteral("/libvicetoll_charts.so"));
+  QLibrary module(ModulesFolder() + QStringLiteral("/libvicetoll_charts.so"));
   const auto function = reinterpret_cast<Function>(module.resolve(name));
   if (function == nullptr) error = module.errorString();
   return function;

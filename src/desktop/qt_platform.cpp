@@ -19,6 +19,7 @@
 #include <QUrl>
 
 #include "base/file_writer.h"
+#include "desktop/places.h"
 #include "desktop/printing.h"
 #include "desktop/text.h"
 
@@ -191,12 +192,7 @@ void QtPlatform::SetClipboard(std::string_view text) { QApplication::clipboard()
 
 std::string QtPlatform::Clipboard() { return FromQt(QApplication::clipboard()->text()); }
 
-std::string QtPlatform::ProgramFolder() {
-  // An installed program has its texts in the prefix's share folder, a built one beside it.
-  const QString beside = QCoreApplication::applicationDirPath();
-  const QString installed = QDir::cleanPath(beside + QStringLiteral("/" VICETOLL_TEXTS_FROM_PROGRAM));
-  return QFile::encodeName(QDir(installed).exists() ? installed : beside).toStdString();
-}
+std::string QtPlatform::ProgramFolder() { return QFile::encodeName(TextsFolder()).toStdString(); }
 
 void QtPlatform::Browse(std::string_view url) {
   if (!QDesktopServices::openUrl(QUrl(ToQt(url))))

@@ -1,0 +1,14 @@
+// Where the program finds what belongs to it: in any prefix it is installed in, and in the build tree.
+#pragma once
+
+#include <QString>
+
+namespace vicetoll {
+
+// The folder of the help texts and their pictures.
+QString TextsFolder();
+
+// The folder of the modules that are loaded at their first use.
+QString ModulesFolder();
+
+}  // namespace vicetoll
