@@ -11,12 +11,8 @@ set(VICETOLL_RELEASE_DATE ${CMAKE_MATCH_1})
 
 set(made ${PROJECT_BINARY_DIR}/install)
 set(data ${PROJECT_SOURCE_DIR}/data)
-set(vicetoll_programs vicetoll)
-if(TARGET vicetoll-report)
-  list(APPEND vicetoll_programs vicetoll-report)
-endif()
 
-install(TARGETS ${vicetoll_programs} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS vicetoll vicetoll-report RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(TARGETS vicetoll_charts LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/vicetoll)
 
 install(FILES ${help_texts} DESTINATION ${CMAKE_INSTALL_DATADIR}/vicetoll)

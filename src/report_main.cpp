@@ -11,6 +11,7 @@
 #include "base/fault.h"
 #include "base/file_writer.h"
 #include "base/quiet_platform.h"
+#include "base/version.h"
 #include "calendar/number_text.h"
 #include "entries/capture.h"
 #include "entries/entries_file.h"
@@ -343,7 +344,8 @@ int main(int argc, char** argv) {
   const std::vector<std::string> words(argv + 1, argv + argc);
   for (const std::string& word : words) {
     if (word == "--help") return std::fputs(kUsage, stdout) < 0 ? 1 : 0;
-    if (word == "--version") return std::puts("vicetoll-report " VICETOLL_VERSION) < 0 ? 1 : 0;
+    if (word == "--version")
+      return std::puts(("vicetoll-report " + std::string(vicetoll::kVersion)).c_str()) < 0 ? 1 : 0;
   }
   Options options;
   options.now = Today();

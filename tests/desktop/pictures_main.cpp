@@ -19,6 +19,7 @@
 #include "desktop/form_window.h"
 #include "desktop/look.h"
 #include "desktop/qt_platform.h"
+#include "desktop/toolkit_messages.h"
 #include "desktop/widgets.h"
 #include "scenario/scripted_platform.h"
 
@@ -287,6 +288,7 @@ void SetSystemColours(const QString& theme) {
 int main(int argc, char** argv) {
   using namespace vicetoll;
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  FilterToolkitMessages();
   QApplication application(argc, argv);
   QCommandLineParser parser;
   const QCommandLineOption font("font", "Size of the system font.", "POINTS");

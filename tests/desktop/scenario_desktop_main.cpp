@@ -3,12 +3,14 @@
 #include <QApplication>
 
 #include "desktop/look.h"
+#include "desktop/toolkit_messages.h"
 #include "desktop/widget_stage.h"
 #include "scenario/play_file.h"
 
 int main(int argc, char** argv) {
   using namespace vicetoll;
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  FilterToolkitMessages();
   QApplication application(argc, argv);
   ApplyLook(application);
   application.setQuitOnLastWindowClosed(false);

@@ -27,6 +27,7 @@
 #include "desktop/printing.h"
 #include "desktop/run_program.h"
 #include "desktop/text.h"
+#include "desktop/toolkit_messages.h"
 #include "desktop/widgets.h"
 #include "entries/entries_file.h"
 #include "scenario/scripted_platform.h"
@@ -750,6 +751,7 @@ int main(int argc, char** argv) {
   const QTemporaryDir settings;
   qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
   testing::InitGoogleTest(&argc, argv);
+  vicetoll::FilterToolkitMessages();
   vicetoll::GuardedApplication application(argc, argv);
   vicetoll::ApplyLook(application);
   application.setQuitOnLastWindowClosed(false);
