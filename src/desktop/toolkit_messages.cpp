@@ -20,8 +20,11 @@ constexpr const char* kIdleTalk[] = {
 // Before the end by its own word the toolkit tells at length which plugins there are and that the program
 // should be installed again; that helps nobody whose display is away.
 constexpr const char* kNoDisplay[] = {
-    "could not connect to display", "Could not load the Qt platform plugin",
-    "Failed to create wl_display",  "no Qt platform plugin could be initialized",
+    "could not connect to display",
+    "Could not load the Qt platform plugin",
+    "Could not find the Qt platform plugin",
+    "Failed to create wl_display",
+    "no Qt platform plugin could be initialized",
     "From 6.5.0, xcb-cursor0",
 };
 
