@@ -15,6 +15,7 @@ class ChartWindow : public Form {
  public:
   Chart& GetChart() { return *chart_; }
   Button* CloseButton() const override { return buttons_.back(); }
+  Control* FirstFocus() const override { return chart_; }
 
  protected:
   // `readoutName` is that of a label below the chart, empty if there is none.

@@ -1,6 +1,33 @@
 #include "controls/choice.h"
 
+#include <algorithm>
+
 namespace vicetoll {
+
+std::vector<Control*> ChoiceGroup::All() const { return {members_.begin(), members_.end()}; }
+
+Control* ChoiceGroup::Stop() const {
+  Control* first = nullptr;
+  for (Choice* member : members_) {
+    if (!member->Reachable()) continue;
+    if (member->Value()) return member;
+    if (first == nullptr) first = member;
+  }
+  return first;
+}
+
+Control* ChoiceGroup::Next(const Control& from, Arrow arrow) const {
+  const auto here = std::ranges::find(members_, &from);
+  if (here == members_.end()) return nullptr;
+  const std::size_t count = members_.size();
+  const std::size_t step = arrow == Arrow::Right || arrow == Arrow::Down ? 1 : count - 1;
+  auto place = static_cast<std::size_t>(here - members_.begin());
+  for (std::size_t i = 1; i < count; ++i) {
+    place = (place + step) % count;
+    if (members_[place]->Reachable()) return members_[place];
+  }
+  return nullptr;
+}
 
 void Choice::SetColour(int colour) {
   if (colour_ == colour) return;

@@ -5,19 +5,29 @@
 #include <vector>
 
 #include "controls/control.h"
+#include "controls/focus_group.h"
 
 namespace vicetoll {
 
 class Choice;
 
-// Choices of which one at most is on.
-class ChoiceGroup {
+// Choices of which one at most is on. The arrows choose, round and round.
+class ChoiceGroup : public FocusGroup {
  public:
   void Add(Choice& choice) { members_.push_back(&choice); }
   const std::vector<Choice*>& Members() const { return members_; }
 
+  std::vector<Control*> All() const override;
+  // The one that is on, else the first that a user gets at.
+  Control* Stop() const override;
+  Control* Next(const Control& from, Arrow arrow) const override;
+  bool ArrowsClick() const override { return arrowsClick_; }
+  // For choices that act at once, like buttons: there an arrow must not choose.
+  void SetArrowsClick(bool click) { arrowsClick_ = click; }
+
  private:
   std::vector<Choice*> members_;
+  bool arrowsClick_ = true;
 };
 
 class Choice : public CaptionedControl {

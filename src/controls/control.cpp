@@ -16,7 +16,7 @@ void Control::Changed() {
 }
 
 UserOutcome Control::Acted() {
-  form_.Acted();
+  form_.Acted(this);
   return UserOutcome::Done;
 }
 
@@ -62,6 +62,18 @@ void Control::TakeStateOf(const Control& other) {
   toolTip_ = other.toolTip_;
   place_ = other.place_;
   Changed();
+}
+
+bool Control::TakesFocus() const {
+  switch (Kind()) {
+    case ControlKind::MenuEntry:
+    case ControlKind::Label:
+    case ControlKind::Frame:
+    case ControlKind::Panel:
+      return false;
+    default:
+      return true;
+  }
 }
 
 UserOutcome Control::UserFocuses() {

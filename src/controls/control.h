@@ -90,6 +90,10 @@ class Control {
   const std::string& ToolTip() const { return toolTip_; }
   void SetToolTip(std::string_view text);
 
+  // What the control is called by those who cannot see where it stands; where there are no words of its own
+  // for that, it is named by captions.
+  const std::string& OwnName() const { return ownName_; }
+  void SetOwnName(std::string_view name) { ownName_ = name; }
   // Whose captions, in this order, say what the control is to those who cannot see where it stands.
   const std::vector<const CaptionedControl*>& LabelledBy() const { return labelledBy_; }
   void SetLabelledBy(std::vector<const CaptionedControl*> labels) { labelledBy_ = std::move(labels); }
@@ -103,6 +107,9 @@ class Control {
 
   // Takes over what the control of the same name in another window of the same design shows. Raises no event.
   virtual void TakeStateOf(const Control& other);
+
+  // Whether it is a control that can have the input focus.
+  bool TakesFocus() const;
 
   // The input focus arrives.
   UserOutcome UserFocuses();
@@ -121,6 +128,7 @@ class Control {
   bool enabled_ = true;
   bool visible_ = true;
   std::string toolTip_;
+  std::string ownName_;
   std::vector<const CaptionedControl*> labelledBy_;
   Place place_;
 };
@@ -151,8 +159,14 @@ class Button : public CaptionedControl {
   const std::string& Keys() const { return keys_; }
   void SetKeys(std::string_view keys) { keys_ = keys; }
 
+  // The letter of the caption that presses the button together with Alt, as it is written there; 0: any that
+  // is free.
+  char AccessKey() const { return accessKey_; }
+  void SetAccessKey(char letter) { accessKey_ = letter; }
+
  private:
   std::string keys_;
+  char accessKey_ = 0;
 };
 
 // An entry of a window's right-click menu.

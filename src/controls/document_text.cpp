@@ -7,6 +7,11 @@
 namespace vicetoll {
 
 void DocumentText::SetText(std::string text) {
+  ++textsSet_;
+  Put(std::move(text));
+}
+
+void DocumentText::Put(std::string text) {
   text_ = std::move(text);
   start_ = length_ = 0;
   Changed();
@@ -28,7 +33,7 @@ void DocumentText::ReplaceSelection(std::string_view text) {
 
 UserOutcome DocumentText::UserTypes(std::string_view text) {
   if (!Reachable() || readOnly_) return UserOutcome::Refused;
-  SetText(WithLineEnds(text));
+  Put(WithLineEnds(text));
   return Acted();
 }
 

@@ -17,6 +17,8 @@ class DocumentText : public Control {
   const std::string& Text() const { return text_; }
   // Takes the text as it stands. A new text has nothing selected, position 0.
   void SetText(std::string text);
+  // How many new texts were set. What is replaced in a text leaves it the same one: that can be undone.
+  int TextsSet() const { return textsSet_; }
 
   int Length() const { return static_cast<int>(text_.size()); }
   int SelStart() const { return start_; }
@@ -38,7 +40,10 @@ class DocumentText : public Control {
   UserOutcome UserSelects(int start, int length);
 
  private:
+  void Put(std::string text);
+
   std::string text_;
+  int textsSet_ = 0;
   int start_ = 0;
   int length_ = 0;
   bool readOnly_ = false;

@@ -59,7 +59,7 @@ void DropDownList::TakeStateOf(const Control& other) {
 UserOutcome DropDownList::UserPicks(int position) {
   if (!Reachable()) return UserOutcome::Refused;
   if (position < 0 || position >= Count()) return UserOutcome::NoEntry;
-  text_ = entries_[position];
+  chosen_ = text_ = entries_[position];
   position_ = position;
   Changed();
   if (onPick) onPick();
@@ -73,6 +73,7 @@ UserOutcome DropDownList::UserPicks(std::string_view entry) {
 
 UserOutcome DropDownList::UserTypes(std::string_view text) {
   if (!Reachable() || !takesTyping_) return UserOutcome::Refused;
+  chosen_ = text;
   SetText(text);
   if (onType) onType();
   return Acted();

@@ -45,6 +45,9 @@ class DropDownList : public Control {
   bool TakesTyping() const { return takesTyping_; }
   void SetTakesTyping(bool takesTyping) { takesTyping_ = takesTyping; }
 
+  // What the user picked or typed last, whatever has become of it; empty before he did.
+  const std::string& Chosen() const { return chosen_; }
+
   UserOutcome UserPicks(int position);
   UserOutcome UserPicks(std::string_view entry);
   UserOutcome UserTypes(std::string_view text);  // Refused where the list takes no typing
@@ -54,6 +57,7 @@ class DropDownList : public Control {
  private:
   std::vector<std::string> entries_;
   std::string text_;
+  std::string chosen_;
   int position_ = -1;
   bool takesTyping_ = false;
 };

@@ -1,5 +1,6 @@
 #include "controls/form.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "base/fault.h"
@@ -66,7 +67,7 @@ void Form::SetWindowState(WindowState state) {
 UserOutcome Form::UserResizes(int width, int height) {
   if (!shown_) return UserOutcome::Refused;
   Resize(width, height);
-  Acted();
+  Acted(nullptr);
   return UserOutcome::Done;
 }
 
@@ -86,9 +87,31 @@ void Form::ClearCanvas() {
   Changed();
 }
 
-ChoiceGroup& Form::AddGroup() {
-  groups_.push_back(std::make_unique<ChoiceGroup>());
-  return *groups_.back();
+void Form::Announce(std::string_view text) {
+  announcement_ = text;
+  ++announcementsMade_;
+  Changed();
+}
+
+Control* Form::FocusBehind(const Control& gone) const {
+  for (const Control* c = &gone; c->Container() != nullptr; c = c->Container())
+    if (const auto* tabs = dynamic_cast<TabControl*>(c->Container());
+        tabs != nullptr && c->Page() != kAnyPage)
+      if (tabs->Tab() != c->Page()) return c->Container();
+  const auto takesFocus = [this](const Control& control) {
+    if (!control.TakesFocus() || control.Kind() == ControlKind::List || !control.Reachable()) return false;
+    return std::ranges::all_of(groups_, [&](const auto& group) {
+      const std::vector<Control*> all = group->All();
+      return std::ranges::find(all, &control) == all.end() || group->Stop() == &control;
+    });
+  };
+  const std::size_t count = controls_.size();
+  for (std::size_t here = 0; here < count; ++here) {
+    if (controls_[here].get() != &gone) continue;
+    for (std::size_t step = 1; step < count; ++step)
+      if (Control& next = *controls_[(here + step) % count]; takesFocus(next)) return &next;
+  }
+  return nullptr;
 }
 
 void Form::Register(std::unique_ptr<Control> control) {

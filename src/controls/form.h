@@ -54,6 +54,14 @@ class Form {
   // offers no such way out.
   virtual Button* CloseButton() const { return nullptr; }
   bool HasCloseEntry() const { return CloseButton() != nullptr; }
+  // The button that the Escape key presses, if any.
+  virtual Button* EscapeButton() const { return CloseButton(); }
+  // Where the focus starts whenever the window comes up; nullptr: where it was.
+  virtual Control* FirstFocus() const { return nullptr; }
+  // Where the focus goes on to from a control that can no longer hold it: to the tabs if its page has left
+  // the front, else to the next stop of the Tab key that may get the focus without a user's doing. That is
+  // no list: a list takes the arrival of the focus for the beginning of a choice.
+  Control* FocusBehind(const Control& gone) const;
   // What heads the right-click menu, where there is one.
   virtual std::string_view MenuTitle() const { return {}; }
   // A line at the foot of the window, as long as nothing is typed there.
@@ -79,11 +87,20 @@ class Form {
   UserOutcome UserResizes(int width, int height);  // Refused while the window is hidden
   std::function<void()> onResize;
 
-  // Runs after whatever a user has done in this window, when its own handlers are through.
-  std::function<void()> onUserActed;
-  void Acted() const {
-    if (onUserActed) onUserActed();
+  // Runs after whatever a user has done in this window, when its own handlers are through; with the control
+  // that he did it to, nullptr for the window itself.
+  std::function<void(const Control*)> onUserActed;
+  void Acted(const Control* by) const {
+    if (onUserActed) onUserActed(by);
   }
+
+  // The boxes that say what came of an action on a control, whether or not they say something new; none
+  // where nothing but changes is worth telling.
+  virtual std::vector<const Control*> ResultsOf(const Control&) const { return {}; }
+  // Tells those who listen to the window what it shows by now.
+  void Announce(std::string_view text);
+  const std::string& Announcement() const { return announcement_; }
+  int AnnouncementsMade() const { return announcementsMade_; }
 
   // What is typed on the bare window, line by line, blank lines included. A letter goes to the last line.
   const std::vector<CanvasLine>& Canvas() const { return canvas_; }
@@ -108,8 +125,10 @@ class Form {
     return made;
   }
 
-  // A group of choices of this window.
-  ChoiceGroup& AddGroup();
+  // A group of choices of this window, or a table of controls.
+  ChoiceGroup& AddGroup() { return AddFocusGroup<ChoiceGroup>(); }
+  ControlTable& AddTable() { return AddFocusGroup<ControlTable>(); }
+  const std::vector<std::unique_ptr<FocusGroup>>& FocusGroups() const { return groups_; }
 
   // The control of that name ("optTimePeriodPast(2)", "cmdExit"), nullptr if there is none.
   Control* Find(std::string_view fullName) const;
@@ -141,6 +160,13 @@ class Form {
     bool operator()(const Key& a, const Key& b) const { return a < b; }
   };
 
+  template <class T>
+  T& AddFocusGroup() {
+    auto group = std::make_unique<T>();
+    T& made = *group;
+    groups_.push_back(std::move(group));
+    return made;
+  }
   void Register(std::unique_ptr<Control> control);
   Control* Require(std::string_view name, int index) const;
   void Changed();
@@ -154,8 +180,10 @@ class Form {
   int height_ = 0;
   WindowState state_ = WindowState::Normal;
   std::vector<CanvasLine> canvas_;
+  std::string announcement_;
+  int announcementsMade_ = 0;
   std::vector<std::unique_ptr<Control>> controls_;
-  std::vector<std::unique_ptr<ChoiceGroup>> groups_;
+  std::vector<std::unique_ptr<FocusGroup>> groups_;
   std::map<NameLess::Key, Control*, NameLess> byName_;  // the names live in the controls
   FormListener* listener_ = nullptr;
 };

@@ -130,12 +130,26 @@ class TabView : public ViewOf<TabControl, TabPages> {
       : ViewOf(tabs, new TabPages(tabs.PageCaptions(), parent)) {
     QObject::connect(widget_->Bar(), &QTabBar::currentChanged,
                      [&tabs, &desktop](int tab) { desktop.Enter([&] { tabs.UserSelects(tab); }); });
+    AddKeys({QStringLiteral("Ctrl+Tab"), QStringLiteral("Ctrl+PgDown")}, 1, desktop);
+    AddKeys({QStringLiteral("Ctrl+Shift+Tab"), QStringLiteral("Ctrl+PgUp")}, -1, desktop);
   }
   QWidget* Ground(int page) const override { return page == kAnyPage ? widget_ : widget_->Page(page); }
   QWidget* Hand() const override { return widget_->Bar(); }
 
  protected:
   void UpdateContents() override { widget_->SetTab(control_.Tab()); }
+
+ private:
+  // Keys that turn so many tabs on, round and round.
+  void AddKeys(const QStringList& keys, int step, Desktop& desktop) {
+    for (const QString& key : keys) {
+      auto* shortcut = new QShortcut(QKeySequence(key, QKeySequence::PortableText), widget_->Bar());
+      QObject::connect(shortcut, &QShortcut::activated, [this, step, &desktop] {
+        const int count = widget_->Bar()->count();
+        desktop.Enter([&] { control_.UserSelects((control_.Tab() + step + count) % count); });
+      });
+    }
+  }
 };
 
 }  // namespace

@@ -90,13 +90,19 @@ void Desktop::Fail(const std::exception& cause) {
 void Desktop::Flush() {
   if (flushing_) return;
   const FlagWhile flushing(flushing_);
-  QWidget* const focus = QApplication::focusWidget();
+  // A control that has the focus and goes would hand it on to anything.
+  std::vector<std::pair<FormWindow*, Control*>> focused;
+  for (const auto& window : windows_)
+    if (window->isVisible()) focused.emplace_back(window.get(), window->FocusedControl());
   UpdateForms();
   UpdateControls();
-  // A control that had the focus and went handed it on. A list must not get it so: the arrival of the
-  // focus means something there, and no user brought it.
-  QWidget* const now = QApplication::focusWidget();
-  if (now != focus && dynamic_cast<BlueList*>(now) != nullptr) now->clearFocus();
+  for (const auto& [window, control] : focused) window->KeepFocus(control);
+}
+
+void Desktop::PressEverywhere(std::string_view keys) {
+  for (const auto& control : program_.Current().Controls())
+    if (auto* button = dynamic_cast<Button*>(control.get()); button != nullptr && button->Keys() == keys)
+      return Enter([button] { button->UserClicks(); });
 }
 
 void Desktop::TakeTheme() {

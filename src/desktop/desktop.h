@@ -7,6 +7,7 @@
 #include <exception>
 #include <functional>
 #include <memory>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -53,6 +54,9 @@ class Desktop : public FormListener {
   // Brings the widgets in step with the controls. Needed between events only where the user gets to see
   // something before the event is through: before a message box, during a pause.
   void Flush();
+
+  // Presses the button of the workspace in front that has these keys, from whatever window they came.
+  void PressEverywhere(std::string_view keys);
 
   // The window that shows the form, made now if it was never shown.
   FormWindow& WindowOf(Form& form);

@@ -97,6 +97,23 @@ void DocumentEdit::SetText(const std::string& text) {
   setPlainText(shown);
 }
 
+void DocumentEdit::Edit(const std::string& text) {
+  if (text == shown_) return;
+  shown_ = text;
+  const QString before = toPlainText();
+  QString after = ToQt(text);
+  after.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  // Only what differs changes: the rest stays where it is on the screen.
+  const qsizetype shorter = std::min(before.size(), after.size());
+  qsizetype head = 0, tail = 0;
+  while (head < shorter && before[head] == after[head]) ++head;
+  while (tail < shorter - head && before[before.size() - 1 - tail] == after[after.size() - 1 - tail]) ++tail;
+  QTextCursor cursor(document());
+  cursor.setPosition(static_cast<int>(head));
+  cursor.setPosition(static_cast<int>(before.size() - tail), QTextCursor::KeepAnchor);
+  cursor.insertText(after.mid(head, after.size() - head - tail));
+}
+
 std::string DocumentEdit::Text() const { return WithLineEnds(FromQt(toPlainText())); }
 
 int DocumentEdit::ControlPosition(int position) const {
@@ -128,6 +145,8 @@ std::pair<int, int> DocumentEdit::Selection() const {
 
 PageBrowser::PageBrowser(QWidget* parent) : QTextBrowser(parent) {
   setOpenExternalLinks(true);
+  // One reads with the caret too.
+  setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
   document()->setDocumentMargin(14);
 }
 
@@ -183,7 +202,12 @@ class EditView : public ControlView {
 
  protected:
   void UpdateContents() override {
-    edit_.SetText(document_.Text());
+    // A new text begins a new history.
+    if (textsSet_ == document_.TextsSet())
+      edit_.Edit(document_.Text());
+    else
+      edit_.SetText(document_.Text());
+    textsSet_ = document_.TextsSet();
     taken_ = edit_.document()->revision();
     edit_.Select(document_.SelStart(), document_.SelLength());
   }
@@ -206,7 +230,8 @@ class EditView : public ControlView {
 
   DocumentText& document_;
   DocumentEdit& edit_;
-  int taken_ = 0;  // the revision of the editor's document that the control has
+  int textsSet_ = -1;  // of the control, when its text was last shown
+  int taken_ = 0;      // the revision of the editor's document that the control has
 };
 
 class PageView : public ControlView {

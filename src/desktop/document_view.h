@@ -18,6 +18,8 @@ class DocumentEdit : public QPlainTextEdit {
   explicit DocumentEdit(QWidget* parent);
 
   void SetText(const std::string& text);
+  // The same text with something replaced in it, which the user can undo.
+  void Edit(const std::string& text);
   // The control has taken what was typed. It is shown already, but for characters that the program's texts
   // cannot hold, which give way to "?".
   void KeepTyped(const std::string& text);

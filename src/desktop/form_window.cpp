@@ -11,12 +11,17 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "controls/spoken_name.h"
+#include "desktop/accessible.h"
 #include "desktop/balloon.h"
 #include "desktop/desktop.h"
+#include "desktop/document_view.h"
+#include "desktop/grid_view.h"
 #include "desktop/look.h"
 #include "desktop/text.h"
 #include "desktop/themes.h"
 #include "desktop/widgets.h"
+#include "desktop/window_keys.h"
 
 namespace vicetoll {
 namespace {
@@ -33,29 +38,6 @@ constexpr int kEveryPage = 3;  // of a button that stands on no tab
 
 bool IsModifier(int key) {
   return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta;
-}
-
-// A control that fills its window is named as the window is.
-bool FillsWindow(const Control& control) {
-  if (control.Kind() == ControlKind::Chart) return control.LabelledBy().empty();
-  return control.Kind() == ControlKind::Grid || control.Kind() == ControlKind::DocumentText ||
-         control.Kind() == ControlKind::TabControl;
-}
-
-// What gives a control its name: its labels, or the frame it stands in. Nothing where the control shows a
-// caption of its own.
-std::vector<const CaptionedControl*> Namers(const Control& control) {
-  if (FillsWindow(control) || !control.LabelledBy().empty()) return control.LabelledBy();
-  if (control.Kind() != ControlKind::List && control.Kind() != ControlKind::TextBox) return {};
-  for (const Control* c = control.Container(); c != nullptr; c = c->Container())
-    if (const auto* frame = dynamic_cast<const Frame*>(c)) return {frame};
-  return {};
-}
-
-QString NameOf(const Control& control) {
-  QStringList words;
-  for (const CaptionedControl* namer : Namers(control)) words << ToQt(namer->Caption());
-  return words.join(QStringLiteral(", "));
 }
 
 // The user's keys for entries of the right-click menu that have them everywhere.
@@ -87,11 +69,18 @@ FormWindow::FormWindow(Form& form, Desktop& desktop) : form_(form), desktop_(des
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowMinMaxButtonsHint);
   setPalette(ThemePalette(CurrentTheme()));
   MakeControls();
+  MakeSpokenTexts();
   GiveAccessKeys();
+  keys_ = std::make_unique<WindowKeys>(*this, desktop);
   for (const auto& view : views_) {
     view->Update();
     UpdateName(*view);
-    for (const CaptionedControl* namer : Namers(view->Model())) namedBy_[namer].push_back(view.get());
+    keys_->Watch(view->Model(), *view->Hand());
+    for (const CaptionedControl* namer : Namers(view->Model())) {
+      namedBy_[namer].push_back(view.get());
+      auto* label = dynamic_cast<CaptionLabel*>(WidgetOf(*namer));
+      if (label != nullptr && label->buddy() == nullptr) label->setBuddy(view->Hand());
+    }
   }
   settled_.setSingleShot(true);
   settled_.setInterval(kSettleMilliseconds);
@@ -130,8 +119,8 @@ void FormWindow::MakeMenuEntry(MenuEntry& entry) {
 }
 
 // Buttons on different tabs are never in front together and may share a letter; those that are always in
-// front have the first choice after the tabs, whose letters stand in their captions, and those with keys of
-// their own the last.
+// front have the first choice after the tabs, whose letters stand in their captions, and those that are given
+// theirs; those with keys of their own have the last.
 void FormWindow::GiveAccessKeys() {
   QString taken[4];
   for (const auto& view : views_) {
@@ -139,12 +128,15 @@ void FormWindow::GiveAccessKeys() {
     for (int i = 0; tabs != nullptr && i < tabs->Bar()->count(); ++i)
       taken[kEveryPage] += AccessKeyOf(tabs->Bar()->tabText(i));
   }
+  GiveAccessKeys(taken, [](const Button& button, int) { return button.AccessKey() != 0; });
+  const auto isPlain = [](const Button& button) { return button.AccessKey() == 0 && button.Keys().empty(); };
   GiveAccessKeys(taken,
-                 [](const Button& button, int page) { return button.Keys().empty() && page == kEveryPage; });
+                 [&](const Button& button, int page) { return isPlain(button) && page == kEveryPage; });
   GiveAccessKeys(taken,
-                 [](const Button& button, int page) { return button.Keys().empty() && page != kEveryPage; });
+                 [&](const Button& button, int page) { return isPlain(button) && page != kEveryPage; });
   for (int page = 0; page < kEveryPage; ++page) taken[kEveryPage] += taken[page];
-  GiveAccessKeys(taken, [](const Button& button, int) { return !button.Keys().empty(); });
+  GiveAccessKeys(taken,
+                 [](const Button& button, int) { return button.AccessKey() == 0 && !button.Keys().empty(); });
 }
 
 template <class Picks>
@@ -157,11 +149,32 @@ void FormWindow::GiveAccessKeys(QString (&taken)[4], const Picks& picks) {
     for (const Control* c = &button; c != nullptr; c = c->Container())
       if (c->Page() != kAnyPage) page = c->Page();
     if (!picks(button, page)) continue;
-    const QChar letter = FreeLetter(ToQt(button.Caption()), taken[kEveryPage] + taken[page]);
+    const QChar letter = button.AccessKey() != 0
+                             ? QChar(button.AccessKey())
+                             : FreeLetter(ToQt(button.Caption()), taken[kEveryPage] + taken[page]);
     if (letter.isNull()) continue;
     widget->SetAccessKey(letter);
     taken[page] += letter.toUpper();
   }
+}
+
+void FormWindow::MakeSpokenTexts() {
+  foot_ = new SpokenText(this, QAccessible::StaticText);
+  canvas_ = new SpokenText(this, QAccessible::StaticText);
+  news_ = new SpokenText(this, QAccessible::Notification);
+}
+
+void FormWindow::UpdateSpokenTexts() {
+  QStringList lines;
+  for (const CanvasLine& line : form_.Canvas()) lines << ToQt(line.text);
+  canvas_->Show(lines.join(u'\n').trimmed(), rect());
+  foot_->Show(lines.isEmpty() ? FootText() : QString(), RoomOfHint());
+
+  QStringList news;
+  if (std::exchange(announced_, form_.AnnouncementsMade()) != form_.AnnouncementsMade())
+    news << ToQt(form_.Announcement());
+  if (std::exchange(status_, form_.Status()) != form_.Status() && !form_.Status().empty()) news << FootText();
+  if (!news.isEmpty()) news_->Announce(news.join(u'\n'), RoomOfHint());
 }
 
 void FormWindow::TakeTheme() {
@@ -192,6 +205,7 @@ void FormWindow::UpdateForm() {
     isMinimized() ? showNormal() : show();
     raise();
     activateWindow();
+    if (Control* const first = form_.FirstFocus()) keys_->FocusOn(*first);
   } else if (!form_.Shown() && isVisible()) {
     HideBalloon();
     hide();
@@ -200,7 +214,32 @@ void FormWindow::UpdateForm() {
     if (FillsWindow(view->Model())) UpdateName(*view);
     UpdateDescription(*view);
   }
+  keys_->UpdateStops();
+  UpdateSpokenTexts();
   update();
+}
+
+Control* FormWindow::FocusedControl() const {
+  const auto found = controlOf_.find(focusWidget());
+  return found == controlOf_.end() ? nullptr : found->second;
+}
+
+void FormWindow::KeepFocus(Control* before) {
+  keys_->UpdateStops();
+  if (before != nullptr && !before->Reachable() && form_.Shown()) {
+    displaced_ = before;
+    standIn_ = form_.FocusBehind(*before);
+    if (standIn_ != nullptr)
+      keys_->FocusOn(*standIn_);
+    else if (QWidget* focus = focusWidget())
+      focus->clearFocus();
+    return;
+  }
+  if (displaced_ == nullptr || displaced_ == before) return;
+  if (FocusedControl() != standIn_)
+    displaced_ = nullptr;
+  else if (displaced_->Reachable())
+    keys_->FocusOn(*std::exchange(displaced_, nullptr));
 }
 
 // One sin takes the place of another, also on the screen.
@@ -213,6 +252,7 @@ void FormWindow::ComeInPlaceOfAnother() {
 void FormWindow::UpdateControl(Control& control) {
   if (const auto view = viewOf_.find(&control); view != viewOf_.end()) {
     view->second->Update();
+    UpdateName(*view->second);
     UpdateDescription(*view->second);
     if (const auto named = namedBy_.find(&control); named != namedBy_.end())
       for (const ControlView* other : named->second) UpdateName(*other);
@@ -223,11 +263,14 @@ void FormWindow::UpdateControl(Control& control) {
   }
 }
 
-// Setting a name or a description tells assistive tools of it, so only a new one is set.
+// Setting a name or a description tells assistive tools of it, so only a new one is set. What has none is
+// taken by Qt to bear that of the frame around it.
 void FormWindow::UpdateName(const ControlView& view) {
-  const Control& control = view.Model();
-  const QString name = FillsWindow(control) ? ToQt(form_.Caption()) : NameOf(control);
-  if (view.Hand()->accessibleName() != name) view.Hand()->setAccessibleName(name);
+  const QString name = ToQt(SpokenName(view.Model()));
+  if (view.Hand()->accessibleName() == name) return;
+  view.Hand()->setAccessibleName(name);
+  if (auto* list = dynamic_cast<BlueList*>(view.Hand()); list != nullptr && list->isEditable())
+    list->lineEdit()->setAccessibleName(name);
 }
 
 void FormWindow::UpdateDescription(const ControlView& view) {
@@ -283,7 +326,21 @@ void FormWindow::contextMenuEvent(QContextMenuEvent* event) {
   QMenu menu(this);
   menu.addSection(ToQt(form_.MenuTitle()));
   menu.addActions(actions());
-  menu.exec(event->globalPos());
+  if (event->reason() == QContextMenuEvent::Keyboard) {
+    menu.setActiveAction(actions().front());
+    menu.exec(CurrentPlace(event->globalPos()));
+  } else {
+    menu.exec(event->globalPos());
+  }
+}
+
+// Where the keys work, on the screen: below the current cell, or below the caret.
+QPoint FormWindow::CurrentPlace(const QPoint& otherwise) const {
+  if (const auto* grid = dynamic_cast<GridWidget*>(focusWidget()))
+    return grid->viewport()->mapToGlobal(grid->visualRect(grid->currentIndex()).bottomLeft());
+  if (const auto* edit = dynamic_cast<DocumentEdit*>(focusWidget()))
+    return edit->viewport()->mapToGlobal(edit->cursorRect().bottomLeft());
+  return otherwise;
 }
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -377,8 +434,12 @@ QRect FormWindow::RoomOfHint() const {
   return room;
 }
 
+QString FormWindow::FootText() const {
+  return form_.Status().empty() ? ToQt(form_.Hint()) : QString::fromStdString(form_.Status());
+}
+
 void FormWindow::paintEvent(QPaintEvent*) {
-  const QString foot = form_.Status().empty() ? ToQt(form_.Hint()) : QString::fromStdString(form_.Status());
+  const QString foot = FootText();
   if (!foot.isEmpty() && form_.Canvas().empty()) {
     QPainter painter(this);
     painter.setPen(Colour(Tone::Hint));

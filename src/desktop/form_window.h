@@ -16,6 +16,8 @@ namespace vicetoll {
 
 class BalloonWidget;
 class Desktop;
+class SpokenText;
+class WindowKeys;
 
 class FormWindow : public QWidget {
  public:
@@ -36,6 +38,13 @@ class FormWindow : public QWidget {
   // they have settled.
   void TakeSize(int width, int height);
 
+  // The control that has the focus of this window, also while another window is the active one; nullptr if
+  // none has.
+  Control* FocusedControl() const;
+  // The control had the focus before widgets were brought in step. If it cannot hold it any more, the focus
+  // goes on to a control nearby, and comes back when that control holds it still and the other one can again.
+  void KeepFocus(Control* before);
+
   Form& Model() const { return form_; }
   const BalloonWidget* ShownBalloon() const { return balloon_; }
 
@@ -50,6 +59,8 @@ class FormWindow : public QWidget {
  private:
   void MakeControls();
   void MakeMenuEntry(MenuEntry& entry);
+  void MakeSpokenTexts();
+  void UpdateSpokenTexts();
   void ComeInPlaceOfAnother();
   void UpdateName(const ControlView& view);
   void UpdateDescription(const ControlView& view);
@@ -62,7 +73,9 @@ class FormWindow : public QWidget {
   bool ShowHover(QWidget* widget, const Control& control);
   void ExplainFocus();
   void HideBalloon();
+  QPoint CurrentPlace(const QPoint& otherwise) const;
   QRect RoomOfHint() const;
+  QString FootText() const;
   void PaintCanvas();
 
   Form& form_;
@@ -73,6 +86,14 @@ class FormWindow : public QWidget {
   // Whose names take in the caption of this control.
   std::unordered_map<const Control*, std::vector<const ControlView*>> namedBy_;
   std::unordered_map<const Control*, QAction*> menu_;
+  std::unique_ptr<WindowKeys> keys_;
+  SpokenText* foot_ = nullptr;    // the line at the foot, for those who listen
+  SpokenText* canvas_ = nullptr;  // what is typed on the bare window
+  SpokenText* news_ = nullptr;    // what is announced
+  int announced_ = 0;
+  std::string status_;            // at the foot, as it was told last
+  Control* displaced_ = nullptr;  // lost the focus to the next one
+  Control* standIn_ = nullptr;    // has it in its place
   BalloonWidget* balloon_ = nullptr;
   int broughtUp_ = 0;  // how often the form had been shown when the window came up last
   QTimer settled_;

@@ -7,6 +7,7 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include "desktop/accessible.h"
 #include "desktop/themes.h"
 
 namespace vicetoll {
@@ -39,7 +40,10 @@ bool Fits(const QString& text, QSize room, const QFont& font) {
 
 }  // namespace
 
-void ApplyLook(QApplication& application) { application.setStyle(new DesktopStyle); }
+void ApplyLook(QApplication& application) {
+  InstallAccessibles();
+  application.setStyle(new DesktopStyle);
+}
 
 QFont FittedFont(const QString& text, const QSize& room, const QFont& font) {
   QFont fitted = font;

@@ -2,12 +2,15 @@
 
 #include <QAbstractItemView>
 #include <QAbstractListModel>
+#include <QAccessible>
 #include <QKeySequence>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QShortcutEvent>
 #include <QStyleOptionButton>
 #include <QWheelEvent>
 
+#include "controls/typed_search.h"
 #include "desktop/look.h"
 #include "desktop/text.h"
 #include "desktop/themes.h"
@@ -19,8 +22,9 @@ constexpr int kArrowRoom = 20;      // pixels at the right end of a list
 constexpr int kBoxMargin = 3;       // pixels between a box's line and its text
 constexpr int kIndicatorRoom = 20;  // pixels in front of the caption of a choice
 constexpr int kPopupRows = 18;
-constexpr int kCorner = 3;      // the radius of corners
-constexpr int kIndicator = 14;  // pixels across the mark of a choice
+constexpr int kTypingPause = 1500;  // milliseconds after which typing in a list begins anew
+constexpr int kCorner = 3;          // the radius of corners
+constexpr int kIndicator = 14;      // pixels across the mark of a choice
 constexpr int kTabHeight = 46, kTabTop = 8, kTabLeft = 8;
 constexpr int kTabWidth = 96, kTabPadding = 9;
 
@@ -89,6 +93,11 @@ void BlueList::SetShown(const QString& text, int position) {
     lineEdit()->setCursorPosition(caret);
   }
   if (text_ == text) return;
+  // Who listens hears the entry that the keys have brought.
+  if (hasFocus()) {
+    QAccessibleTextUpdateEvent change(this, 0, text_, text);
+    QAccessible::updateAccessibility(&change);
+  }
   text_ = text;
   update();
 }
@@ -99,6 +108,8 @@ void BlueList::showPopup() {
   // The popup is made at its first use; making it earlier would cost every list of a window.
   view()->setPalette(palette());
   view()->setFont(font());
+  view()->setAccessibleName(accessibleName());
+  view()->installEventFilter(this);
   QComboBox::showPopup();
 }
 
@@ -126,6 +137,46 @@ void BlueList::PaintArrow(QPainter& painter, const QRect& room) const {
   painter.setBrush(palette().color(QPalette::Text));
   painter.setPen(Qt::NoPen);
   painter.drawPolygon(arrow);
+}
+
+// A blank is a letter only within what is being typed: else it opens the list.
+bool BlueList::TakesLetter(const QKeyEvent& key) const {
+  const bool bare = (key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
+  if (isEditable() || !bare || key.text().isEmpty() || !key.text()[0].isPrint()) return false;
+  return key.text() != QStringLiteral(" ") ||
+         (!typed_.isEmpty() && sinceTyped_.isValid() && !sinceTyped_.hasExpired(kTypingPause));
+}
+
+// The entry that is meant by all that was typed without a pause; -1, and the letter forgotten, if none is.
+int BlueList::Search(const QString& letter, int from) {
+  if (!sinceTyped_.isValid() || sinceTyped_.hasExpired(kTypingPause)) typed_.clear();
+  sinceTyped_.start();
+  typed_ += letter;
+  const int found = FindTyped(Entries(), FromQt(typed_), from);
+  // "jun -" means no other entry than "jun".
+  if (found == -1) typed_.chop(letter.size());
+  return found;
+}
+
+void BlueList::keyPressEvent(QKeyEvent* event) {
+  if (!TakesLetter(*event)) return QComboBox::keyPressEvent(event);
+  const int found = Search(event->text(), currentIndex());
+  if (found == -1 || found == currentIndex()) return;
+  setCurrentIndex(found);
+  emit activated(found);
+}
+
+// The open list finds as the closed one does.
+bool BlueList::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && watched == view()) {
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    if (TakesLetter(key)) {
+      const int found = Search(key.text(), view()->currentIndex().row());
+      if (found != -1) view()->setCurrentIndex(model()->index(found, 0));
+      return true;
+    }
+  }
+  return QComboBox::eventFilter(watched, event);
 }
 
 void BlueList::wheelEvent(QWheelEvent* event) {
@@ -162,6 +213,13 @@ void CaptionButton::SetCaption(const QString& caption) {
   const qsizetype at = accessKey_.isNull() ? -1 : text.indexOf(accessKey_);
   if (at >= 0) text.insert(at, u'&');
   setText(text);
+}
+
+// The access key comes with the focus, as the mouse does: what had it before must know that it is left.
+bool CaptionButton::event(QEvent* event) {
+  if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent*>(event)->isAmbiguous())
+    setFocus(Qt::ShortcutFocusReason);
+  return QPushButton::event(event);
 }
 
 void CaptionButton::paintEvent(QPaintEvent*) {
@@ -270,6 +328,8 @@ class TallTabBar : public QTabBar {
     for (int tab = 0; tab < count(); ++tab) PaintTab(painter, tab);
     if (hasFocus()) DrawFocusRing(painter, tabRect(currentIndex()).adjusted(3, 3, -3, -2));
   }
+  // A notch of the wheel on the way elsewhere must not change the tab.
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 
  private:
   // A tab's lower edge is hidden by the page; the tab in front stands higher and bears a stripe.

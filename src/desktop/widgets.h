@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -35,14 +36,20 @@ class BlueList : public QComboBox {
   void showPopup() override;
 
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
  private:
   void PaintArrow(QPainter& painter, const QRect& room) const;
+  bool TakesLetter(const QKeyEvent& key) const;
+  int Search(const QString& letter, int from);
 
   EntryModel* entries_;
   QString text_;
+  QString typed_;  // to find an entry, letter by letter
+  QElapsedTimer sinceTyped_;
 };
 
 // A box that shows a result: right-aligned, to be read, selected and copied, not to be typed into.
@@ -64,6 +71,7 @@ class CaptionButton : public QPushButton {
   const QString& Caption() const { return caption_; }
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -34,6 +34,7 @@ DocWindow::DocWindow(Workspaces& workspaces)
 
 void DocWindow::AddLayouts() {
   SSFrame1_DocResults_ = &Add<Frame>({"SSFrame1_DocResults"}, "");
+  SSFrame1_DocResults_->SetOwnName("Layout");
   ChoiceGroup& layouts = AddGroup();
   const auto option = [&](const char* name, const char* caption, const Place& place) {
     Option& made = Add<Option>({name, kNoIndex, SSFrame1_DocResults_}, caption);

@@ -25,6 +25,8 @@ void ReportWindow::Furnish(Control& report) {
   cmdPrint_ = &AddButton("cmdPrint", "Print Results", [this] { Print(); });
   cmdSaveAs_ = &AddButton("cmdSaveAs", "File (Save As)", [this] { SaveAs(); });
   cmdExit_ = &AddButton("cmdExit", "Exit", [this] { Exit(); });
+  cmdPrint_->SetKeys("Ctrl+P");
+  cmdSaveAs_->SetKeys("Ctrl+S");
   AddMenuEntry("cmdSelectAll", "Select All", [this] { SelectAll(); });
   AddMenuEntry("cmdCopy", "Copy", [this] { Copy(); });
   onResize = [this] { OnResize(); };

@@ -14,6 +14,8 @@ namespace vicetoll {
 class ReportWindow : public Form {
  public:
   std::string_view MenuTitle() const override { return "Edit"; }
+  Button* EscapeButton() const override { return cmdExit_; }
+  Control* FirstFocus() const override { return report_; }
 
  protected:
   // In which the two differ. Twips.

@@ -20,6 +20,7 @@ SinChooser::SinChooser(Workspaces& workspaces, SinSwitching& switching)
   frameSwitchSins_ = &Add<Frame>({"frameSwitchSins"}, "Switch Sins");
   frameSwitchSins_->SetPlace(kFramePlace);
   ChoiceGroup& group = AddGroup();
+  group.SetArrowsClick(false);
   for (int i = 0; i < kSinCount; ++i) {
     Option& option = Add<Option>({"OptSwitchSins", i, frameSwitchSins_}, Catalogue()[i].chooserCaption);
     option.SetPlace({250, 320 + i * kRowHeight, 3200, 330});
@@ -34,6 +35,8 @@ SinChooser::SinChooser(Workspaces& workspaces, SinSwitching& switching)
   onResize = [this] { Resize(std::max(Width(), kChooserWidth), std::max(Height(), kChooserHeight)); };
   Resize(kChooserWidth, kChooserHeight);
 }
+
+Control* SinChooser::FirstFocus() const { return OptSwitchSins_[workspaces_.Current().Position()]; }
 
 void SinChooser::Open(SinWorkspace& from) {
   from.cmdSwitchSins->SetEnabled(false);

@@ -22,6 +22,8 @@ class SinChooser : public Form {
   SinChooser(Workspaces& workspaces, SinSwitching& switching);
 
   Button* CloseButton() const override { return cmdExit_; }
+  // The sin in front.
+  Control* FirstFocus() const override;
 
   // The press of cmdSwitchSins on a workspace.
   void Open(SinWorkspace& from);

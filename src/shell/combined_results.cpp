@@ -52,6 +52,7 @@ CombinedResults::CombinedResults(Workspaces& workspaces)
   MakeTicks();
   MakeColumns();
   MakeBottom();
+  JoinTable();
   // Smaller, its buttons would be out of reach.
   onResize = [this] { Resize(std::max(Width(), kCombinedWidth), std::max(Height(), kCombinedHeight)); };
   Resize(kCombinedWidth, kCombinedHeight);
@@ -70,6 +71,28 @@ void CombinedResults::MakeTicks() {
     };
     chkWhichSins_[i] = &tick;
   }
+  Label& total = Add<Label>({"lblTotal", kNoIndex, &frame}, "Total");
+  total.SetPlace({150, kTotalTop, kTickWidth - 250, kCellHeight});
+}
+
+// The Tab key comes to the table once; the arrows go about in it.
+void CombinedResults::JoinTable() {
+  ControlTable& table = AddTable();
+  for (int i = 0; i < kSinCount; ++i) {
+    std::vector<Control*> row = {chkWhichSins_[i]};
+    for (const ColumnControls& column : columns_) row.push_back(column.cells[i]);
+    table.AddRow(std::move(row));
+  }
+  std::vector<Control*> totals = {nullptr};
+  for (const ColumnControls& column : columns_) totals.push_back(column.total);
+  table.AddRow(std::move(totals));
+}
+
+std::vector<const Control*> CombinedResults::ResultsOf(const Control& by) const {
+  if (&by != cmdUpdate_ && &by != comDataRep_ && by.Kind() != ControlKind::CheckBox) return {};
+  std::vector<const Control*> totals;
+  for (const ColumnControls& column : columns_) totals.push_back(column.total);
+  return totals;
 }
 
 void CombinedResults::MakeColumns() {
@@ -86,6 +109,7 @@ void CombinedResults::MakeColumns() {
     }
     columns_[c].total = &Add<TextBox>({std::string(design.total), kNoIndex, &frame});
     columns_[c].total->SetPlace({100, kTotalTop, kColumnWidth - 200, kCellHeight});
+    columns_[c].total->SetLabelledBy({&Get<Label>("lblTotal"), &frame});
   }
 }
 
@@ -103,9 +127,9 @@ void CombinedResults::MakeBottom() {
   comDataRep_->SelectEntry(kZero);
   comDataRep_->onPick = [this] { PopulateCombResultsText(); };
   comDataRep_->onType = [this] { PopulateCombResultsText(); };
-  Button& update = Add<Button>({"cmdUpdate"}, "Update");
-  update.SetPlace({5600, kBottom + 250, 2200, 600});
-  update.onClick = [this] { PopulateCombResultsText(); };
+  cmdUpdate_ = &Add<Button>({"cmdUpdate"}, "Update");
+  cmdUpdate_->SetPlace({5600, kBottom + 250, 2200, 600});
+  cmdUpdate_->onClick = [this] { PopulateCombResultsText(); };
   cmdExit_ = &Add<Button>({"cmdExit"}, "Exit");
   cmdExit_->SetPlace({kCombinedWidth - kMargin - 2200, kBottom + 250, 2200, 600});
   cmdExit_->onClick = [this] { Hide(); };

@@ -20,6 +20,9 @@ class CombinedResults : public Form {
   explicit CombinedResults(Workspaces& workspaces);
 
   Button* CloseButton() const override { return cmdExit_; }
+  Control* FirstFocus() const override { return chkWhichSins_[0]; }
+  // The totals.
+  std::vector<const Control*> ResultsOf(const Control& by) const override;
 
   // Fills all twelve rows and the totals.
   void PopulateCombResultsText();
@@ -45,6 +48,7 @@ class CombinedResults : public Form {
   void MakeColumns();
   void MakeTicks();
   void MakeBottom();
+  void JoinTable();
   void ShowRow(int index);
   // What a cell shows for a sin that has no figure there.
   const std::string& NoData();
@@ -57,6 +61,7 @@ class CombinedResults : public Form {
   std::array<ColumnControls, kColumns> columns_;
   std::array<CheckBox*, kSinCount> chkWhichSins_{};
   DropDownList* comDataRep_ = nullptr;
+  Button* cmdUpdate_ = nullptr;
   Button* cmdExit_ = nullptr;
   std::string noData_;
 };

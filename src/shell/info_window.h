@@ -16,6 +16,7 @@ class InfoWindow : public Form {
   explicit InfoWindow(Platform& platform);
 
   Button* CloseButton() const override { return cmdExit_; }
+  Control* FirstFocus() const override { return rtfInfo_; }
 
   // Show the window with the manual, or with questions and answers. A missing file shows a sentence that
   // names it.

@@ -87,6 +87,7 @@ void PlaceIdentification(SinWorkspace& ws) {
   restore.SetVisible(false);
   const RevealSquare& square = *ws.Sin().revealSquare;
   const Place panel = ws.Get<Panel>("SSPanel_BackColor", square.tab).GetPlace();
+  ws.Get<Button>("cmdRevealDeveloper").SetOwnName("Developer");
   ws.Get<Button>("cmdRevealDeveloper")
       .SetPlace({panel.width + square.right, panel.height + square.below, 60, 60});
 }

@@ -2,6 +2,7 @@
 
 #include "base/fault.h"
 #include "shell/identification.h"
+#include "shell/keys.h"
 #include "shell/layout.h"
 #include "shell/smoking_extras.h"
 #include "shell/strip.h"
@@ -23,7 +24,8 @@ template <class T>
 T& Program::Created(std::unique_ptr<T>& slot, std::unique_ptr<T> made) {
   slot = std::move(made);
   windows_.push_back(slot.get());
-  slot->onUserActed = [this] { FollowUser(); };
+  spoken_.try_emplace(slot.get(), *slot);
+  slot->onUserActed = [this, window = slot.get()](const Control* by) { FollowUser(*window, by); };
   if (onWindowCreated) onWindowCreated(*slot);
   return *slot;
 }
@@ -34,6 +36,7 @@ SinWorkspace& Program::At(int position) {
   if (slot) return *slot;
   SinWorkspace& ws = Created(slot, std::make_unique<SinWorkspace>(session_, position));
   MakeStrip(ws);
+  GiveKeys(ws);
   vicetoll::ApplyFormLayout(ws);
   Connect(ws);
   // The start does this and more for the window that the program starts with.
@@ -83,8 +86,14 @@ void Program::Connect(SinWorkspace& ws) {
   if (ws.Sin().startsTheProgram) ConnectSmokingExtras(ws);
 }
 
-void Program::FollowUser() {
+void Program::FollowUser(Form& window, const Control* by) {
   if (ended_) return;
+  KeepInStep();
+  const std::string told = spoken_.at(&window).After(by);
+  if (!told.empty()) window.Announce(told);
+}
+
+void Program::KeepInStep() {
   UpdateStrip(Current());
   Current().SetStatus(keeper_.Status());
   FollowCharts();
@@ -158,7 +167,7 @@ void Program::TakeStateOf(Program& other) {
   for (Form* window : windows_)
     if (dynamic_cast<SinWorkspace*>(window) == nullptr) window->Hide();
   Current().Show();
-  FollowUser();
+  KeepInStep();
 }
 
 void Program::Exit() {

@@ -8,10 +8,12 @@
 #include <functional>
 #include <memory>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "charts/growth_window.h"
 #include "charts/sins_chart_window.h"
+#include "controls/spoken_changes.h"
 #include "entries/capture.h"
 #include "reports/report_windows.h"
 #include "shell/balloons.h"
@@ -71,14 +73,17 @@ class Program final : public FreshProgram, public SinSwitching, public ReportWin
   T& Created(std::unique_ptr<T>& slot, std::unique_ptr<T> made);
   void Connect(SinWorkspace& workspace);
   void StartSmoking();
-  // Brings what stands beside the windows' own rules in step with what a user has just done.
-  void FollowUser();
+  // Follows what a user has just done in a window: brings what stands beside its own rules in step, and tells
+  // what came of it.
+  void FollowUser(Form& window, const Control* by);
+  void KeepInStep();
   void FollowCharts();
 
   Session session_;
   Balloons balloons_;
   EntriesKeeper keeper_{*this};
   std::vector<Form*> windows_;
+  std::unordered_map<const Form*, SpokenChanges> spoken_;
   std::array<std::unique_ptr<SinWorkspace>, kSinCount> workspaces_;
   std::unique_ptr<SinChooser> chooser_;
   std::unique_ptr<DocWindow> doc_;

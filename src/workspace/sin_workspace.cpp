@@ -27,6 +27,16 @@ void SinWorkspace::TakeStateOf(const SinWorkspace& other) {
   Form::TakeStateOf(other);
 }
 
+std::vector<const Control*> SinWorkspace::ResultsOf(const Control& by) const {
+  for (Side side : kSides) {
+    const SideControls& c = Of(side);
+    if (&by != c.cmdSetPeriodParams) continue;
+    const int period = states_[static_cast<int>(side)].CurrentPeriod;
+    return {&c.txtResultsPeriod(period), &c.txtCumulativeResultsPeriod(period), c.txtResultsTotal};
+  }
+  return {};
+}
+
 std::string SinWorkspace::Money(double value, std::string_view format) const {
   return FormatMoney(session_.currency, value, format);
 }

@@ -124,6 +124,10 @@ class SinWorkspace : public Form {
   SinWorkspace(Session& session, int position);
 
   Button* CloseButton() const override { return cmdExit; }
+  // It ends the program: a key that people press to get rid of something must not.
+  Button* EscapeButton() const override { return nullptr; }
+  // Of a set button the boxes of the period in hand and the total.
+  std::vector<const Control*> ResultsOf(const Control& by) const override;
   std::string_view Hint() const override { return "Shift+F1 explains the control that has the focus."; }
   bool SharesPlace() const override { return true; }
 

@@ -30,7 +30,7 @@
 #include "desktop/toolkit_messages.h"
 #include "desktop/widgets.h"
 #include "entries/entries_file.h"
-#include "scenario/scripted_platform.h"
+#include "windows_fixture.h"
 
 namespace vicetoll {
 namespace {
@@ -110,43 +110,6 @@ TEST(Run, EndsWithStatusZeroByItsExitButton) {
 }
 
 // ---- Windows ----
-
-class Windows : public testing::Test {
- protected:
-  FormWindow& Of(Form& form) { return desktop.WindowOf(form); }
-  QWidget& Widget(Form& form, const char* name) { return *Of(form).WidgetOf(*form.Find(name)); }
-  SinWorkspace& Smoking() { return program.At(0); }
-
-  // Brings a sin's window to the front, as the chooser would.
-  SinWorkspace& Visit(int sin) {
-    desktop.Enter([&] { program.Current().cmdSwitchSins->UserClicks(); });
-    desktop.Enter([&] { program.Chooser().Get<Option>("OptSwitchSins", sin).UserClicks(); });
-    return program.At(sin);
-  }
-  // The widget of a report on Smoking's past, opened by that button.
-  template <class W>
-  W& Report(Button* SideControls::*button, Control& control) {
-    SideControls& past = Smoking().Of(Side::Past);
-    desktop.Enter([&] { past.cmdSetPeriodParams->UserClicks(); });
-    desktop.Enter([&] { (past.*button)->UserClicks(); });
-    return dynamic_cast<W&>(*Of(control.Window()).WidgetOf(control));
-  }
-  void Open(SinWorkspace& ws, int tab) {
-    desktop.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(tab); });
-  }
-  void Activate(QWidget& window) {
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window, 2000));
-  }
-  void Hover(QWidget& widget) {
-    QHelpEvent hover(QEvent::ToolTip, QPoint(3, 3), widget.mapToGlobal(QPoint(3, 3)));
-    QApplication::sendEvent(&widget, &hover);
-  }
-
-  ScriptedPlatform platform{[](const std::string&) {}};
-  Program program{platform};
-  Desktop desktop{program};
-};
 
 TEST_F(Windows, HaveAWidgetForEveryControlUnderItsName) {
   for (const char* name : {"Smoking", "Drinking", "Gambling", "Coffeeing", "frmSwitchSins", "frmCombRes",
@@ -540,12 +503,13 @@ TEST_F(Windows, TabVisitsEveryReachableControlInReadingOrder) {
   // The visit of a list enables the button again.
   desktop.Enter([&] { ws.Of(Side::Past).cmdSetPeriodParams->SetEnabled(true); });
   Activate(Of(ws));
+  // Of a group of options only the one that is on.
   std::vector<std::string> expected;
   for (const auto& control : ws.Controls()) {
-    const ControlKind kind = control->Kind();
-    const bool takesFocus = kind != ControlKind::Label && kind != ControlKind::Frame &&
-                            kind != ControlKind::Panel && kind != ControlKind::TabControl;
-    if (takesFocus && control->Reachable()) expected.push_back(control->FullName());
+    if (!control->TakesFocus() || control->Kind() == ControlKind::TabControl || !control->Reachable())
+      continue;
+    const auto* choice = dynamic_cast<const Choice*>(control.get());
+    if (choice == nullptr || choice->Value()) expected.push_back(control->FullName());
   }
   dynamic_cast<TabPages&>(Widget(ws, "SSTab_PastFutureSwitch")).Bar()->setFocus();
   std::vector<std::string> visited;
@@ -636,24 +600,6 @@ TEST_F(Windows, ARightClickInTheGridMovesNothing) {
   QApplication::processEvents();
   desktop.Enter([&] { program.Spd().Get<MenuEntry>("cmdSelectAll").UserClicks(); });
   EXPECT_EQ(ShownSelection(table).height(), grid.RowCount() - 1);
-}
-
-// Buttons that are in front together have different letters, and all have one.
-TEST_F(Windows, EveryButtonHasALetterOfItsOwn) {
-  for (const int tab : {kPastTab, kFutureTab, kTotalTab}) {
-    Open(Smoking(), tab);
-    std::set<QChar> letters = {u'P', u'U', u'T'};  // of the tabs
-    for (const auto& control : Smoking().Controls()) {
-      if (control->Kind() != ControlKind::Button || !control->Reachable()) continue;
-      const auto& button = dynamic_cast<QAbstractButton&>(Widget(Smoking(), control->FullName().c_str()));
-      const QString text = QString(button.text()).remove(QStringLiteral("&&"));
-      const qsizetype at = text.indexOf(u'&');
-      // There are more buttons than letters; what has keys of its own can do without one.
-      if (at == -1 && !dynamic_cast<const Button&>(*control).Keys().empty()) continue;
-      ASSERT_NE(at, -1) << control->FullName();
-      EXPECT_TRUE(letters.insert(text[at + 1].toUpper()).second) << control->FullName();
-    }
-  }
 }
 
 TEST_F(Windows, ShiftedReturnEndsALineAsReturnDoes) {
