@@ -6,12 +6,12 @@
 
 #include "desktop/chart_module.h"
 #include "desktop/text.h"
+#include "reports/report_columns.h"
 
 namespace vicetoll {
 namespace {
 
 constexpr double kPoints = 8;
-constexpr int kTabbedColumns = 11;
 
 // Lays the text out for the printer's pages.
 void LayOut(QTextDocument& document, QPrinter& printer, std::string_view text, bool columns) {
@@ -23,7 +23,7 @@ void LayOut(QTextDocument& document, QPrinter& printer, std::string_view text, b
     // All columns of a grid fit the page side by side; the distance is in pixels of the screen.
     QTextOption option = document.defaultTextOption();
     const double page = printer.pageLayout().paintRect(QPageLayout::Inch).width() * 96;
-    option.setTabStopDistance(page / (kTabbedColumns + 0.5));
+    option.setTabStopDistance(page / (kReportColumnCount + 0.5));
     document.setDefaultTextOption(option);
   }
   document.setPlainText(ToQtLines(text));

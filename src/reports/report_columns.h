@@ -29,7 +29,7 @@ enum class ColumnKey {
   CumulativeCost,
   CumulativeCostWithInterest,
 };
-inline constexpr int kReportColumnCount = 11;
+inline constexpr int kReportColumnCount = static_cast<int>(ColumnKey::CumulativeCostWithInterest) + 1;
 
 // The cost classes that have a column.
 enum class ColumnClasses {
