@@ -61,7 +61,16 @@ const char* EnterIn(SinWorkspace& ws, std::optional<Side> side, Control& control
 // Whether a sin has the control.
 using HasControl = bool (*)(const SinRow&);
 
-struct ControlRow {
+class ControlRow {
+  // A changed copy. It stands first, since some compilers read the bodies in order and need this one at once.
+  template <class Change>
+  constexpr ControlRow With(Change change) const {
+    ControlRow row = *this;
+    change(row);
+    return row;
+  }
+
+ public:
   // In twips relative to the container, as everywhere; no container is the window itself. The container's
   // name is whole: with its index where it is an element of an array.
   constexpr ControlRow(ControlKind kindOf, Words nameOf, Words containerOf, Place placeOf,
@@ -167,26 +176,18 @@ struct ControlRow {
   FieldEntry enter = nullptr;
   Words labels[2];
   Words tip;
-  int firstTip = 1;
   struct {
     Turn turn;
     BySide text;
   } balloons[2];
   int fades[2] = {};
   HasControl on = nullptr;
-  bool disabled = false, hidden = false;
   const char* shownText = nullptr;
   int colour = -1;
   Label::Align align = Label::Align::Left;
+  int firstTip = 1;  // the element that the tool tip begins with
+  bool disabled = false, hidden = false;
   std::array<std::string_view, kTabCount> pages{};
-
- private:
-  template <class Change>
-  constexpr ControlRow With(Change change) const {
-    ControlRow row = *this;
-    change(row);
-    return row;
-  }
 };
 
 }  // namespace vicetoll
