@@ -107,15 +107,18 @@ class Designer {
     }
   }
 
-  Control* ContainerOf(const ControlRow& row, const Spot& at) const {
+  Control* ContainerOf(const ControlRow& row, const Spot& at) {
     const std::string name = Fill(row, row.container, at);
     if (name.empty()) return nullptr;
+    // Most rows stand where the one before does.
+    if (name == lastContainerName_) return lastContainer_;
     Control* container = ws_.Find(name);
     if (container == nullptr) Refuse(row, "its container " + name + " is not there");
     const ControlKind kind = container->Kind();
     if (kind != ControlKind::Frame && kind != ControlKind::Panel && kind != ControlKind::TabControl)
       Refuse(row, "its container " + name + " holds no controls");
-    return container;
+    lastContainerName_ = name;
+    return lastContainer_ = container;
   }
 
   void Put(const ControlRow& row, Control& control, int element) const {
@@ -147,6 +150,7 @@ class Designer {
   }
 
   void NameControl(const ControlRow& row, const Spot& at) const {
+    if (row.labels[0].IsEmpty()) return;
     std::vector<const CaptionedControl*> labels;
     for (const Words& words : row.labels) {
       if (words.IsEmpty()) continue;
@@ -168,6 +172,8 @@ class Designer {
   SinWorkspace& ws_;
   const SinRow& sin_;
   const DesignSection* section_ = nullptr;
+  Control* lastContainer_ = nullptr;
+  std::string lastContainerName_;
   std::map<const Control*, ChoiceGroup*> groups_;
 };
 
