@@ -317,10 +317,11 @@ std::string Parse(const std::vector<std::string>& words, Options& options) {
       onlyFiles = true;
     } else {
       const std::size_t equals = word.find('=');
-      const std::string name = word.substr(0, equals);
+      std::string name = word.substr(0, equals);
       if (equals == std::string::npos && ++i == words.size()) return name + " needs a value";
       const std::string value = equals == std::string::npos ? words[i] : word.substr(equals + 1);
-      if (!TakeOption(name, value, options)) return name + " " + value + " is not understood";
+      if (!TakeOption(name, value, options))
+        return name.append(" ").append(value).append(" is not understood");
     }
   }
   if (options.files.empty()) return "no file is named";

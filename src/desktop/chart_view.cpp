@@ -155,7 +155,9 @@ class BandItem : public PlotItem {
   void Hatch(QCPPainter& painter, const QRectF& room) const {
     painter.setPen(QPen(Faint(style_.hint, 0.35), 1));
     const double height = room.height();
-    for (double x = room.left() - height; x < room.right(); x += kHatchStep) {
+    const int lines = static_cast<int>(std::ceil((room.width() + height) / kHatchStep));
+    for (int i = 0; i < lines; ++i) {
+      const double x = room.left() - height + i * kHatchStep;
       // From the lower end at x upwards to the right, as far as it lies in the room.
       const double from = std::max(x, room.left()), to = std::min(x + height, room.right());
       if (from < to)

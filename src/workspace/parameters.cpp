@@ -1,5 +1,7 @@
 #include "workspace/parameters.h"
 
+#include <algorithm>
+
 #include "base/checked_int.h"
 #include "calendar/number_text.h"
 #include "workspace/date_list.h"
@@ -45,7 +47,8 @@ void SaveSharedParameters(SinWorkspace& ws, Side side, int period) {
 std::int16_t QuantityPosition(const SinWorkspace& ws, const SideControls& c) {
   const Unit unit = c.firstUnit->Value() ? Unit::PerDay : Unit::PerMonth;
   const DropDownList& list = QuantityListOf(ws, c);
-  return static_cast<std::int16_t>(list.Position() % EntryCount(UnitList(ws.Sin(), unit)));
+  const int entries = std::max(EntryCount(UnitList(ws.Sin(), unit)), 1);  // of every list; none is empty
+  return static_cast<std::int16_t>(list.Position() % entries);
 }
 
 // The position of the first entry with the stored cost, comparing texts without the euro sign, and where
