@@ -66,7 +66,7 @@ class OpenFile {
 std::string Followed(const std::string& path) {
   char* resolved = realpath(path.c_str(), nullptr);
   if (resolved == nullptr) return path;
-  const std::string followed(resolved);
+  std::string followed(resolved);
   std::free(resolved);
   return followed;
 }
