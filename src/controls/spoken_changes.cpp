@@ -9,11 +9,17 @@ namespace {
 // A step to another period fills so many lists.
 constexpr std::size_t kMostTold = 9;
 
-// What a list or box shows; nullptr for any other control.
+// What a list or box shows; nullptr for any other control. All controls of a window are asked after each
+// action of the user, so they are told apart by their kind.
 const std::string* TextOf(const Control& control) {
-  if (const auto* list = dynamic_cast<const DropDownList*>(&control)) return &list->Text();
-  if (const auto* box = dynamic_cast<const TextBox*>(&control)) return &box->Text();
-  return nullptr;
+  switch (control.Kind()) {
+    case ControlKind::List:
+      return &static_cast<const DropDownList&>(control).Text();
+    case ControlKind::TextBox:
+      return &static_cast<const TextBox&>(control).Text();
+    default:
+      return nullptr;
+  }
 }
 
 bool IsUsersOwnChoice(const Control& control, const Control* by) {
@@ -34,7 +40,7 @@ SpokenChanges::Texts SpokenChanges::Shown() const {
 bool SpokenChanges::CameToFront() {
   int tabs = 0;
   for (const auto& control : form_.Controls())
-    if (const auto* tab = dynamic_cast<const TabControl*>(control.get())) tabs = tab->Tab();
+    if (control->Kind() == ControlKind::TabControl) tabs = static_cast<const TabControl&>(*control).Tab();
   const bool came = timesShown_ != form_.TimesShown() || tabs_ != tabs;
   timesShown_ = form_.TimesShown();
   tabs_ = tabs;
