@@ -49,9 +49,13 @@ class Platform {
   // cancelled dialog does not stop the printing.
   virtual void Print(std::string_view text, bool selection) = 0;
 
-  // The same, but the page stays open: it comes out with the next print or at the end of the run. A
-  // platform that cannot hold a page back prints it at once.
-  virtual void PrintKeepingPageOpen(std::string_view text, bool selection) { Print(text, selection); }
+  // The same, but the page stays open: it comes out with the next print or at the end of the run. False if no
+  // page is open then: nothing was printed, which the user knows, or the platform cannot hold a page back and
+  // prints it at once.
+  virtual bool PrintKeepingPageOpen(std::string_view text, bool selection) {
+    Print(text, selection);
+    return false;
+  }
 
   // Asks how to print and prints a picture in SVG on one page. A cancelled dialog prints nothing. A platform
   // that cannot draw prints the text that says the same.

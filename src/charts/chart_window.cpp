@@ -69,6 +69,7 @@ void ChartWindow::SaveAs() {
   filePath_ = *chosen;
   try {
     platform_.WriteFile(filePath_, chart_->Picture(PictureFormatOf(filePath_)));
+    Say("Saved in " + filePath_);
   } catch (const Fault& fault) {
     // A picture is not worth a run: the user is told why and goes on.
     platform_.ShowMessage("Save Picture", fault.what(), MessageButtons::Ok);

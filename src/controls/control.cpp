@@ -79,7 +79,9 @@ bool Control::TakesFocus() const {
 UserOutcome Control::UserFocuses() {
   if (!Reachable()) return UserOutcome::Refused;
   if (onFocus) onFocus();
-  return Acted();
+  Acted();
+  form_.TellFocus(*this);
+  return UserOutcome::Done;
 }
 
 void CaptionedControl::SetCaption(std::string_view caption) {

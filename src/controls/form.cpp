@@ -3,12 +3,17 @@
 #include <algorithm>
 #include <charconv>
 
+#include "base/code_page.h"
 #include "base/fault.h"
 
 namespace vicetoll {
 
 void Form::Changed() {
   if (listener_) listener_->FormChanged(*this);
+}
+
+void Form::HintChanged() {
+  if (listener_) listener_->HintChanged(*this);
 }
 
 void Form::SetCaption(std::string_view caption) {
@@ -70,6 +75,61 @@ UserOutcome Form::UserResizes(int width, int height) {
   Acted(nullptr);
   return UserOutcome::Done;
 }
+
+UserOutcome Form::UserCloses() {
+  if (!shown_) return UserOutcome::Refused;
+  if (Button* const button = CloseButton()) return button->UserClicks();
+  Say("Use Exit to close this window");
+  Acted(nullptr);
+  return UserOutcome::Refused;
+}
+
+void Form::Acted(const Control* by) {
+  hint_.EndAction();
+  HintChanged();
+  if (onUserActed) onUserActed(by);
+}
+
+// ---- The line at the foot ----
+
+void Form::SetNextStep(std::string text) {
+  hint_.SetNextStep(std::move(text));
+  HintChanged();
+}
+
+void Form::Say(std::string news) {
+  hint_.Say(std::move(news));
+  HintChanged();
+}
+
+void Form::PassOn(std::string news) {
+  hint_.Say(std::move(news));
+  hint_.EndAction();
+  HintChanged();
+}
+
+std::string Form::TipOf(const Control* control) const {
+  if (control == nullptr) return {};
+  return ToUtf8(shortTip ? shortTip(*control) : control->ToolTip());
+}
+
+void Form::UserPointsAt(const Control* control) {
+  hint_.PointAt(TipOf(control));
+  HintChanged();
+}
+
+void Form::TellFocus(const Control& control) {
+  hint_.Focus(TipOf(&control));
+  HintChanged();
+}
+
+std::string Form::ExplanationOf(const Control& control) const {
+  std::string text(HelpOn(control));
+  if (!text.empty() && !control.ToolTip().empty()) text += "\r\n";
+  return text + control.ToolTip();
+}
+
+// ---- What is typed on it ----
 
 void Form::StartCanvasLine(int left) {
   canvas_.push_back({left, {}});

@@ -11,6 +11,7 @@
 
 #include "controls/choice.h"
 #include "controls/control.h"
+#include "controls/hint_line.h"
 
 namespace vicetoll {
 
@@ -21,6 +22,7 @@ class FormListener {
   virtual ~FormListener() = default;
   virtual void ControlChanged(Control& control) = 0;
   virtual void FormChanged(Form& form) = 0;
+  virtual void HintChanged(Form&) {}
 };
 
 // A line of text on the bare window, beginning so many twips from its left edge.
@@ -64,16 +66,34 @@ class Form {
   Control* FocusBehind(const Control& gone) const;
   // What heads the right-click menu, where there is one.
   virtual std::string_view MenuTitle() const { return {}; }
-  // A line at the foot of the window, as long as nothing is typed there.
-  virtual std::string_view Hint() const { return {}; }
   // Of windows that share a place one is shown at a time, where the one before stood on the screen.
   virtual bool SharesPlace() const { return false; }
+
+  // The user asks the window system to close the window. Without a button for that nothing comes of it but
+  // a word on the way out.
+  UserOutcome UserCloses();
+
+  // The line at the foot of the window, in UTF-8; it is not shown while something is typed on the window.
+  const std::string& Hint() const { return hint_.Text(); }
+  const std::string& News() const { return hint_.News(); }
+  void SetNextStep(std::string text);
+  // What came of the user's action that is being carried out.
+  void Say(std::string news);
+  // The same, of an action in another window that is through.
+  void PassOn(std::string news);
+  // The pointer comes to rest on a control, or leaves (nullptr).
+  void UserPointsAt(const Control* control);
+  void TellFocus(const Control& control);
+  // The short tip of a control, where that is another than its tool tip.
+  std::function<std::string(const Control&)> shortTip;
 
   // What a control explains itself by beyond its tool tip; empty where it has nothing to say now.
   std::function<std::string_view(const Control&)> helpOn;
   std::string_view HelpOn(const Control& control) const {
     return helpOn ? helpOn(control) : std::string_view();
   }
+  // That, with the tool tip as its last line.
+  std::string ExplanationOf(const Control& control) const;
   // Says that helpOn gives other answers from now on.
   void HelpChanged() { Changed(); }
 
@@ -90,9 +110,7 @@ class Form {
   // Runs after whatever a user has done in this window, when its own handlers are through; with the control
   // that he did it to, nullptr for the window itself.
   std::function<void(const Control*)> onUserActed;
-  void Acted(const Control* by) const {
-    if (onUserActed) onUserActed(by);
-  }
+  void Acted(const Control* by);
 
   // The boxes that say what came of an action on a control, whether or not they say something new; none
   // where nothing but changes is worth telling.
@@ -170,6 +188,8 @@ class Form {
   void Register(std::unique_ptr<Control> control);
   Control* Require(std::string_view name, int index) const;
   void Changed();
+  void HintChanged();
+  std::string TipOf(const Control* control) const;
 
   std::string name_;
   std::string caption_;
@@ -179,6 +199,7 @@ class Form {
   int width_ = 0;
   int height_ = 0;
   WindowState state_ = WindowState::Normal;
+  HintLine hint_;
   std::vector<CanvasLine> canvas_;
   std::string announcement_;
   int announcementsMade_ = 0;

@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <algorithm>
 
+#include "desktop/balloon_place.h"
 #include "desktop/themes.h"
 
 namespace vicetoll {
@@ -29,29 +30,28 @@ QSize TextSize(const QString& text, const QFont& font, int width) {
 
 }  // namespace
 
-BalloonWidget::BalloonWidget(const QString& text, QWidget* owner, QWidget* window)
+BalloonWidget::BalloonWidget(const QString& text, QWidget* owner, QWidget* window, const QWidget* next,
+                             std::optional<QPoint> pointer)
     : QWidget(window), text_(text), owner_(owner) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  const QRect target(owner->mapTo(window, QPoint(0, 0)), owner->size());
-  // The stem points at the middle of the control, or of its beginning where it is long.
-  const int middle = target.left() + std::min(target.width() / 2, 60);
-  const int below = window->height() - target.bottom() - kStem - 2 * kPadding - kEdge;
-  const int above = target.top() - kStem - 2 * kPadding - kEdge;
-  // A text too long for the room above or below is set wider.
-  int textWidth = kTextWidth;
-  QSize size = TextSize(text_, font(), textWidth);
-  while (size.height() > std::max(below, above) && textWidth < 4 * kTextWidth) {
-    textWidth += 20;
-    size = TextSize(text_, font(), textWidth);
-  }
-  const bool under = size.height() <= below || below >= above;
-  const QSize whole(size.width() + 2 * kPadding + 1, size.height() + 2 * kPadding + 1 + kStem);
-  const int left = std::clamp(middle - 24, kEdge, std::max(kEdge, window->width() - whole.width() - kEdge));
-  const int top = under ? target.bottom() - 2 : target.top() + 2 - whole.height();
-  setGeometry(QRect(QPoint(left, std::max(top, 0)), whole));
-  body_ = QRect(0, under ? kStem : 0, whole.width() - 1, whole.height() - kStem - 1);
-  point_ = QPoint(std::clamp(middle - left, kRadius + 2, whole.width() - kRadius - kStemWidth),
-                  under ? 1 : whole.height() - 2);
+  const auto placeOf = [window](const QWidget& widget) {
+    return QRect(widget.mapTo(window, QPoint(0, 0)), widget.size());
+  };
+  const BalloonSpot spot =
+      PlaceBalloon({.window = window->size(),
+                    .target = placeOf(*owner),
+                    .next = next == nullptr ? QRect() : placeOf(*next),
+                    .pointer = pointer,
+                    .stem = kStem,
+                    .inset = kRadius + 2,
+                    .edge = kEdge,
+                    .narrowest = kTextWidth,
+                    .bodyAt = [this](int width) {
+                      return TextSize(text_, font(), width) + QSize(2 * kPadding + 1, 2 * kPadding + 1);
+                    }});
+  setGeometry(spot.whole);
+  body_ = QRect(0, spot.under ? kStem : 0, spot.whole.width() - 1, spot.whole.height() - kStem - 1);
+  point_ = spot.tip - spot.whole.topLeft();
   raise();
   show();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
 namespace vicetoll {
 
@@ -9,8 +10,10 @@ namespace vicetoll {
 // and it is smooth on every screen; a window of its own would have black corners where no compositor runs.
 class BalloonWidget : public QWidget {
  public:
-  // The lines of the text end in LF and stay lines.
-  BalloonWidget(const QString& text, QWidget* owner, QWidget* window);
+  // The lines of the text end in LF and stay lines. `next` is the control that the user goes on to, nullptr if there is
+  // none; `pointer` is the mouse in pixels of the window, where it has called the balloon up.
+  BalloonWidget(const QString& text, QWidget* owner, QWidget* window, const QWidget* next,
+                std::optional<QPoint> pointer);
 
   const QWidget* Owner() const { return owner_; }
   const QString& Text() const { return text_; }

@@ -62,6 +62,10 @@ void Desktop::ControlChanged(Control& control) {
 
 void Desktop::FormChanged(Form& form) { changedForms_.Add(form); }
 
+void Desktop::HintChanged(Form& form) {
+  if (FindWindow(form) != nullptr) changedHints_.Add(form);
+}
+
 void Desktop::Enter(const std::function<void()>& action) {
   if (flushing_ || over_) return;
   try {
@@ -96,6 +100,7 @@ void Desktop::Flush() {
     if (window->isVisible()) focused.emplace_back(window.get(), window->FocusedControl());
   UpdateForms();
   UpdateControls();
+  for (Form* form : changedHints_.Take()) FindWindow(*form)->UpdateHint();
   for (const auto& [window, control] : focused) window->KeepFocus(control);
 }
 
@@ -119,6 +124,21 @@ void Desktop::UpdateForms() {
       FormWindow* const window = shown ? &WindowOf(*form) : FindWindow(*form);
       if (window != nullptr) window->UpdateForm();
     }
+  if (!changed.empty()) KeepBeforeWorkspace();
+}
+
+// The other windows go along with the workspace that is in front by now.
+void Desktop::KeepBeforeWorkspace() {
+  FormWindow* const front = FrontWorkspace();
+  if (front == nullptr) return;
+  for (const auto& window : windows_)
+    if (window->isVisible() && !window->Model().SharesPlace()) window->BelongTo(*front);
+}
+
+FormWindow* Desktop::FrontWorkspace() const {
+  for (const auto& window : windows_)
+    if (window->isVisible() && window->Model().SharesPlace()) return window.get();
+  return nullptr;
 }
 
 void Desktop::UpdateControls() {

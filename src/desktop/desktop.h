@@ -60,6 +60,8 @@ class Desktop : public FormListener {
 
   // The window that shows the form, made now if it was never shown.
   FormWindow& WindowOf(Form& form);
+  // That of the workspace in front, nullptr while there is none.
+  FormWindow* FrontWorkspace() const;
   // All windows ever shown, in the order they were made.
   const std::vector<std::unique_ptr<FormWindow>>& Windows() const { return windows_; }
 
@@ -70,11 +72,13 @@ class Desktop : public FormListener {
 
   void ControlChanged(Control& control) override;
   void FormChanged(Form& form) override;
+  void HintChanged(Form& form) override;
 
  private:
   void Listen(Form& form);
   FormWindow* FindWindow(const Form& form) const;
   void UpdateForms();
+  void KeepBeforeWorkspace();
   void UpdateControls();
   void TakeTheme();
 
@@ -83,6 +87,7 @@ class Desktop : public FormListener {
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::unordered_map<const Form*, FormWindow*> windowOf_;
   Changes<Form> changedForms_;
+  Changes<Form> changedHints_;
   Changes<Control> changedControls_;
   bool flushing_ = false;
   bool over_ = false;

@@ -8,7 +8,9 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QScreen>
 #include <QToolTip>
+#include <QWindow>
 #include <algorithm>
 
 #include "controls/spoken_name.h"
@@ -61,12 +63,35 @@ QChar FreeLetter(const QString& caption, const QString& taken) {
 // The letter behind the "&", as a capital.
 QString AccessKeyOf(const QString& caption) { return caption.section(u'&', 1, 1).left(1).toUpper(); }
 
+// Only dialogs are kept before another window by every window system.
+Qt::WindowFlags FlagsFor(const Form& form) {
+  const Qt::WindowFlags kind = form.SharesPlace() ? Qt::Window : Qt::Dialog;
+  const Qt::WindowFlags flags =
+      kind | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowMinMaxButtonsHint;
+  return form.HasCloseEntry() ? flags | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint : flags;
+}
+
+// What a balloon over the control says where it is the help on `told`, itself or what it stands in: its own
+// tool tip ends it.
+std::string BalloonText(const Form& form, const Control& control, const Control& told) {
+  std::string text = form.ExplanationOf(told);
+  if (&told != &control && !control.ToolTip().empty()) text += "\r\n" + control.ToolTip();
+  return text;
+}
+
+// The same for the pointer: a label is explained by its frame, where nothing is said of itself.
+std::string HoverText(const Form& form, const Control& control) {
+  const Control* told = &control;
+  if (control.Kind() == ControlKind::Label)
+    while (told != nullptr && form.HelpOn(*told).empty()) told = told->Container();
+  return told == nullptr || form.HelpOn(*told).empty() ? std::string() : BalloonText(form, control, *told);
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form, Desktop& desktop) : form_(form), desktop_(desktop) {
   setObjectName(ToQt(form.Name()));
-  if (!form.HasCloseEntry())
-    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowMinMaxButtonsHint);
+  setWindowFlags(FlagsFor(form));
   setPalette(ThemePalette(CurrentTheme()));
   MakeControls();
   MakeSpokenTexts();
@@ -173,7 +198,8 @@ void FormWindow::UpdateSpokenTexts() {
   QStringList news;
   if (std::exchange(announced_, form_.AnnouncementsMade()) != form_.AnnouncementsMade())
     news << ToQt(form_.Announcement());
-  if (std::exchange(status_, form_.Status()) != form_.Status() && !form_.Status().empty()) news << FootText();
+  if (std::exchange(status_, form_.Status()) != form_.Status() && !form_.Status().empty())
+    news << QString::fromStdString(form_.Status());
   if (!news.isEmpty()) news_->Announce(news.join(u'\n'), RoomOfHint());
 }
 
@@ -202,6 +228,10 @@ void FormWindow::UpdateForm() {
   if (form_.Shown() && (!isVisible() || broughtUp_ != form_.TimesShown())) {
     broughtUp_ = form_.TimesShown();
     if (!isVisible()) ComeInPlaceOfAnother();
+    if (FormWindow* const front = desktop_.FrontWorkspace(); front != nullptr && !form_.SharesPlace()) {
+      BelongTo(*front);
+      ComeBeside(*front);
+    }
     isMinimized() ? showNormal() : show();
     raise();
     activateWindow();
@@ -242,6 +272,45 @@ void FormWindow::KeepFocus(Control* before) {
     keys_->FocusOn(*std::exchange(displaced_, nullptr));
 }
 
+void FormWindow::UpdateHint() {
+  UpdateSpokenTexts();
+  update(RoomOfHint());
+}
+
+// ---- Windows beside a workspace ----
+
+void FormWindow::BelongTo(FormWindow& owner) {
+  if (owner_ == &owner) return;
+  owner_ = &owner;
+  create();
+  windowHandle()->setTransientParent(owner.windowHandle());
+  if (!isVisible()) return;
+  // Window systems ask only when a window comes up. It does so anew, and leaves the focus where it is.
+  setAttribute(Qt::WA_ShowWithoutActivating);
+  hide();
+  show();
+  setAttribute(Qt::WA_ShowWithoutActivating, false);
+}
+
+// Beside the workspace where the screen has room, else over it; once, for then it stays where the user wants.
+void FormWindow::ComeBeside(const FormWindow& owner) {
+  constexpr int kStep = 32;  // pixels: a title can be got hold of
+  if (std::exchange(placed_, true)) return;
+  const QRect room = owner.screen()->availableGeometry();
+  const QRect frame = owner.frameGeometry();
+  QRect place(frame.topLeft() + QPoint(kStep, kStep), size());
+  if (frame.right() + width() < room.right())
+    place.moveTopLeft(frame.topRight() + QPoint(1, 0));
+  else if (frame.left() - width() > room.left())
+    place.moveTopLeft(frame.topLeft() - QPoint(width() + 1, 0));
+  for (const auto& other : desktop_.Windows())
+    if (other.get() != this && other->isVisible() && other->pos() == place.topLeft())
+      place.translate(kStep, kStep);
+  place.moveLeft(std::max(room.left(), std::min(place.left(), room.right() - place.width())));
+  place.moveTop(std::max(room.top(), std::min(place.top(), room.bottom() - place.height() - kStep)));
+  move(place.topLeft());
+}
+
 // One sin takes the place of another, also on the screen.
 void FormWindow::ComeInPlaceOfAnother() {
   if (!form_.SharesPlace()) return;
@@ -274,8 +343,7 @@ void FormWindow::UpdateName(const ControlView& view) {
 }
 
 void FormWindow::UpdateDescription(const ControlView& view) {
-  std::string_view text = form_.HelpOn(view.Model());
-  if (text.empty()) text = view.Model().ToolTip();
+  std::string text = form_.ExplanationOf(view.Model());
   if (const auto* button = dynamic_cast<const Button*>(&view.Model()); button != nullptr && text.empty())
     text = button->Keys();
   const QString description = ToQt(text);
@@ -318,7 +386,7 @@ void FormWindow::changeEvent(QEvent* event) {
 void FormWindow::closeEvent(QCloseEvent* event) {
   // The form says whether the window goes.
   event->ignore();
-  if (Button* const button = form_.CloseButton()) desktop_.Enter([&] { button->UserClicks(); });
+  desktop_.Enter([&] { form_.UserCloses(); });
 }
 
 void FormWindow::contextMenuEvent(QContextMenuEvent* event) {
@@ -356,7 +424,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
       break;
     }
     case QEvent::ToolTip:
-      return ShowHover(static_cast<QWidget*>(watched), control);
+      return ShowHover(static_cast<QWidget*>(watched), control, static_cast<QHelpEvent*>(event)->globalPos());
     case QEvent::KeyPress: {
       const auto* key = static_cast<QKeyEvent*>(event);
       if (key->key() == Qt::Key_F1 && key->modifiers() == Qt::ShiftModifier) {
@@ -372,8 +440,11 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Enter:
       // A container is not left by the pointer that goes on to what stands in it.
       if (balloon_ != nullptr && balloon_->Owner() != watched) HideBalloon();
+      desktop_.Enter([&] { form_.UserPointsAt(&control); });
       break;
     case QEvent::Leave:
+      desktop_.Enter([&] { form_.UserPointsAt(nullptr); });
+      [[fallthrough]];
     case QEvent::FocusOut:
     case QEvent::Hide:
       if (balloon_ != nullptr && balloon_->Owner() == watched) HideBalloon();
@@ -387,13 +458,30 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 // ---- Help ----
 
 // True if the event ends here: a container's help is for its own ground alone.
-bool FormWindow::ShowHover(QWidget* widget, const Control& control) {
-  const QString text = ToQtLines(form_.HelpOn(control));
+bool FormWindow::ShowHover(QWidget* widget, const Control& control, QPoint pointer) {
   if (balloon_ != nullptr && balloon_->Owner() == widget) return true;
   HideBalloon();
-  if (text.isEmpty()) return control.ToolTip().empty();
-  balloon_ = new BalloonWidget(text, widget, this);
+  const std::string text = HoverText(form_, control);
+  if (text.empty()) return control.ToolTip().empty();
+  ShowBalloon(control, text, widget, mapFromGlobal(pointer));
   return true;
+}
+
+void FormWindow::ShowBalloon(const Control& control, std::string_view text, QWidget* owner,
+                             std::optional<QPoint> pointer) {
+  balloon_ = new BalloonWidget(ToQtLines(text), owner, this, NextOf(control), pointer);
+}
+
+// What takes the focus behind a control, in the order of reading: of a frame that is what stands in it.
+QWidget* FormWindow::NextOf(const Control& control) const {
+  bool behind = false;
+  for (const auto& view : views_) {
+    if (behind && view->Hand()->focusPolicy() != Qt::NoFocus && view->Hand()->isVisible() &&
+        view->Hand()->isEnabled())
+      return view->Hand();
+    behind = behind || &view->Model() == &control;
+  }
+  return nullptr;
 }
 
 // The focused control's help, or that of the frame it stands in.
@@ -405,11 +493,8 @@ void FormWindow::ExplainFocus() {
   HideBalloon();
   if (shown) return;
   for (const Control* c = found->second; c != nullptr; c = c->Container()) {
-    const QString text = ToQtLines(form_.HelpOn(*c));
-    if (!text.isEmpty()) {
-      balloon_ = new BalloonWidget(text, focus, this);
-      return;
-    }
+    if (!form_.HelpOn(*c).empty())
+      return ShowBalloon(*found->second, BalloonText(form_, *found->second, *c), focus, std::nullopt);
     if (!c->ToolTip().empty()) {
       QToolTip::showText(focus->mapToGlobal(QPoint(0, focus->height())), ToQt(c->ToolTip()), focus);
       return;
@@ -424,9 +509,9 @@ void FormWindow::HideBalloon() {
 
 // ---- The bare window ----
 
-// At the foot, up to the first control that stands there.
+// At the foot, two lines high, up to the first control that stands there.
 QRect FormWindow::RoomOfHint() const {
-  QRect room(8, height() - 30, width() - 16, 24);
+  QRect room(8, height() - 36, width() - 16, 34);
   for (const auto& view : views_)
     if (const QWidget* widget = view->Widget();
         widget->parentWidget() == this && !widget->isHidden() && widget->geometry().intersects(room))
@@ -435,7 +520,9 @@ QRect FormWindow::RoomOfHint() const {
 }
 
 QString FormWindow::FootText() const {
-  return form_.Status().empty() ? ToQt(form_.Hint()) : QString::fromStdString(form_.Status());
+  const QString hint = QString::fromStdString(form_.Hint());
+  const QString status = QString::fromStdString(form_.Status());
+  return status.isEmpty() || hint.isEmpty() ? status + hint : status + QStringLiteral("  |  ") + hint;
 }
 
 void FormWindow::paintEvent(QPaintEvent*) {

@@ -1,9 +1,12 @@
 // One window of the program: a widget for each control of a form, with the control's name.
 #pragma once
 
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 #include <memory>
+#include <optional>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -27,6 +30,9 @@ class FormWindow : public QWidget {
   // Bring in step: the window itself, or one control and the names that assistive tools read off it.
   void UpdateForm();
   void UpdateControl(Control& control);
+  void UpdateHint();
+  // The window of a workspace that this one stands beside or over, and never goes behind.
+  void BelongTo(FormWindow& owner);
   // Takes the colours of the theme in force.
   void TakeTheme();
 
@@ -70,7 +76,11 @@ class FormWindow : public QWidget {
   template <class Picks>
   void GiveAccessKeys(QString (&taken)[4], const Picks& picks);
 
-  bool ShowHover(QWidget* widget, const Control& control);
+  bool ShowHover(QWidget* widget, const Control& control, QPoint pointer);
+  void ShowBalloon(const Control& control, std::string_view text, QWidget* owner,
+                   std::optional<QPoint> pointer);
+  QWidget* NextOf(const Control& control) const;
+  void ComeBeside(const FormWindow& owner);
   void ExplainFocus();
   void HideBalloon();
   QPoint CurrentPlace(const QPoint& otherwise) const;
@@ -95,7 +105,9 @@ class FormWindow : public QWidget {
   Control* displaced_ = nullptr;  // lost the focus to the next one
   Control* standIn_ = nullptr;    // has it in its place
   BalloonWidget* balloon_ = nullptr;
-  int broughtUp_ = 0;  // how often the form had been shown when the window came up last
+  QPointer<FormWindow> owner_;
+  bool placed_ = false;  // beside its owner, once
+  int broughtUp_ = 0;    // how often the form had been shown when the window came up last
   QTimer settled_;
 };
 

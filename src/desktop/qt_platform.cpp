@@ -142,8 +142,9 @@ void QtPlatform::Print(std::string_view text, bool selection) {
   if (const auto print = AskAndPrint(text, selection)) print->Close();
 }
 
-void QtPlatform::PrintKeepingPageOpen(std::string_view text, bool selection) {
+bool QtPlatform::PrintKeepingPageOpen(std::string_view text, bool selection) {
   openPrint_ = AskAndPrint(text, selection);
+  return openPrint_ != nullptr;
 }
 
 // What was printed, its last page still open; nothing if it went nowhere, which the user is told.

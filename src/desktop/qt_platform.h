@@ -42,7 +42,7 @@ class QtPlatform : public Platform {
   std::optional<std::string> AskSavePath(std::string_view lastPath) override;
   void WriteFile(const std::string& path, std::string_view bytes) override;
   void Print(std::string_view text, bool selection) override;
-  void PrintKeepingPageOpen(std::string_view text, bool selection) override;
+  bool PrintKeepingPageOpen(std::string_view text, bool selection) override;
   void PrintPicture(std::string_view svg, std::string_view text) override;
   void SetClipboard(std::string_view text) override;
   void SetClipboardPicture(std::string_view png, std::string_view text) override;

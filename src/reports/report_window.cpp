@@ -31,6 +31,7 @@ void ReportWindow::Furnish(Control& report) {
   AddMenuEntry("cmdCopy", "Copy", [this] { Copy(); });
   onResize = [this] { OnResize(); };
   Resize(kReportWidth, shape_.height);
+  SetNextStep("Print or save what is selected, or everything; Exit closes the report");
 }
 
 Button& ReportWindow::AddButton(const char* name, const char* caption, std::function<void()> action) {
@@ -63,6 +64,7 @@ void ReportWindow::OnResize() {
 void ReportWindow::SaveAs() {
   const std::string bytes = FileBytes();
   SaveReport(GetPlatform(), filePath_, bytes);
+  Say("Saved in " + filePath_);
 }
 
 void ReportWindow::Copy() { GetPlatform().SetClipboard(Selection()); }

@@ -31,7 +31,8 @@ void SpdWindow::Print() {
     SelectAll();
     Copy();
   }
-  GetPlatform().PrintKeepingPageOpen(Rows().Clip(), true);
+  if (GetPlatform().PrintKeepingPageOpen(Rows().Clip(), true))
+    Say("Printed; the page is finished by the next print or at exit");
 }
 
 std::string SpdWindow::FileBytes() {

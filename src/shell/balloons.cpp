@@ -1,6 +1,7 @@
 #include "shell/balloons.h"
 
 #include <map>
+#include <ranges>
 
 #include "base/fault.h"
 #include "workspace/control_rows.h"
@@ -19,6 +20,22 @@ std::multimap<int, Balloon> BalloonsOf(const SinRow& sin) {
             {turn[side], {row.name.Fill({sin, section.side, section.page}), std::string(text[side])}});
   });
   return balloons;
+}
+
+// The text on one line up to its first full stop, and without what stands in brackets there.
+std::string FirstSentence(std::string_view text) {
+  std::string sentence;
+  bool inBrackets = false;
+  for (char letter : text) {
+    if (letter == '.' && !inBrackets) break;
+    if (letter == '(') inBrackets = true;
+    if (letter == '\r' || letter == '\n') letter = ' ';
+    const bool secondBlank = letter == ' ' && sentence.ends_with(' ');
+    if (!inBrackets && !secondBlank) sentence += letter;
+    if (letter == ')') inBrackets = false;
+  }
+  while (sentence.ends_with(' ')) sentence.pop_back();
+  return sentence;
 }
 
 }  // namespace
@@ -49,12 +66,22 @@ void Balloons::ConnectOptions(SinWorkspace& workspace) {
     };
 }
 
+std::string_view Balloons::OfSin::TextOn(const Control& control) const {
+  // A control that has two balloons shows the one attached last.
+  for (const Balloon& balloon : balloons | std::views::reverse)
+    if (balloon.control == control.Name()) return balloon.text;
+  return {};
+}
+
 std::string_view Balloons::TextFor(int position, const Control& control) const {
   const OfSin& sin = sins_.at(position);
-  if (!sin.active) return {};
-  // A control that has two balloons shows the one attached last.
-  for (auto balloon = sin.balloons.rbegin(); balloon != sin.balloons.rend(); ++balloon)
-    if (balloon->control == control.Name()) return balloon->text;
+  return sin.active ? sin.TextOn(control) : std::string_view();
+}
+
+std::string Balloons::SentenceOn(int position, const Control& control) const {
+  for (const Control* c = &control; c != nullptr; c = c->Container())
+    if (const std::string_view text = sins_.at(position).TextOn(*c); !text.empty())
+      return FirstSentence(text);
   return {};
 }
 

@@ -39,6 +39,10 @@ class Balloons {
   // The text for a control while the sin's balloons are active, empty otherwise.
   std::string_view TextFor(int position, const Control& control) const;
 
+  // The first sentence that balloons, active or not, would say of a control or of what it stands in: "Set
+  // Parameters related to ...". Empty if they say nothing.
+  std::string SentenceOn(int position, const Control& control) const;
+
   // Called when the texts of a sin's balloons changed, or whether they are active.
   std::function<void(int position)> onChanged;
 
@@ -49,6 +53,8 @@ class Balloons {
   struct OfSin {
     std::vector<Balloon> balloons;
     bool active = true;  // also before any hang there: those that come later are active
+
+    std::string_view TextOn(const Control& control) const;
   };
 
   OfSin& At(int position);

@@ -51,7 +51,8 @@ void EntriesKeeper::OpenFile(const std::string& path) {
     Program fresh(quiet);
     Apply(fresh, ReadEntries(ReadEntriesBytes(path)));
     program_.TakeStateOf(fresh);
-    return Keep(path);
+    Keep(path);
+    return program_.Current().Say("The entries are those of " + path);
   } catch (const EntriesRefused& refused) {
     reason = refused.what();
   } catch (const Fault& fault) {
@@ -92,6 +93,7 @@ bool EntriesKeeper::SaveTo(const std::string& path) {
   try {
     platform.WriteFile(path, WriteEntries(Capture(program_)));
     Keep(path);
+    program_.Current().Say("Saved in " + path);
     return true;
   } catch (const Fault& fault) {
     platform.ShowFileMessage(fault.what(), MessageButtons::Ok);

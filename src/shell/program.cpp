@@ -1,11 +1,13 @@
 #include "shell/program.h"
 
+#include "base/code_page.h"
 #include "base/fault.h"
 #include "shell/identification.h"
 #include "shell/keys.h"
 #include "shell/layout.h"
 #include "shell/smoking_extras.h"
 #include "shell/strip.h"
+#include "workspace/hint_sentences.h"
 #include "workspace/loading.h"
 #include "workspace/workspace_design.h"
 
@@ -62,11 +64,13 @@ void Program::StartSmoking() {
   PlaceIdentification(ws);
   ws.cmdEuro->SetPlace({0, 0, kWindowWidth, ws.cmdSwitchSins->GetPlace().height - 100});
   PlaceEuroButton(ws);
+  ws.SetNextStep(NextStep(ws));
   ws.Show();
 }
 
 void Program::Connect(SinWorkspace& ws) {
   ws.helpOn = [this, &ws](const Control& control) { return balloons_.TextFor(ws.Position(), control); };
+  ws.shortTip = [this, &ws](const Control& control) { return ShortTip(ws, control); };
   ws.onResize = [&ws] { PlaceWorkspaceControls(ws); };
   ws.cmdSwitchSins->onClick = [this, &ws] { Chooser().Open(ws); };
   ws.cmdExit->onClick = [this] { Exit(); };
@@ -89,14 +93,26 @@ void Program::Connect(SinWorkspace& ws) {
 void Program::FollowUser(Form& window, const Control* by) {
   if (ended_) return;
   KeepInStep();
-  const std::string told = spoken_.at(&window).After(by);
+  // What another window has to tell is told at the foot of the workspace too: that window may be closed next.
+  if (&window != &Current() && !window.News().empty()) Current().PassOn(window.News());
+  const std::string changed = spoken_.at(&window).After(by);
+  const std::string told = changed.empty() ? FromUtf8(window.News()) : changed;
   if (!told.empty()) window.Announce(told);
 }
 
 void Program::KeepInStep() {
-  UpdateStrip(Current());
-  Current().SetStatus(keeper_.Status());
+  SinWorkspace& front = Current();
+  UpdateStrip(front);
+  front.SetStatus(keeper_.Status());
+  front.SetNextStep(NextStep(front));
   FollowCharts();
+}
+
+std::string Program::ShortTip(const SinWorkspace& ws, const Control& control) const {
+  // The pointer is nearly always over some frame: that is nothing to tell.
+  if (control.Kind() == ControlKind::Frame) return {};
+  if (!control.ToolTip().empty()) return control.ToolTip();
+  return balloons_.SentenceOn(ws.Position(), control);
 }
 
 void Program::FollowCharts() {

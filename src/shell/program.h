@@ -78,6 +78,8 @@ class Program final : public FreshProgram, public SinSwitching, public ReportWin
   void FollowUser(Form& window, const Control* by);
   void KeepInStep();
   void FollowCharts();
+  // What the line at the foot of a workspace says of a control.
+  std::string ShortTip(const SinWorkspace& workspace, const Control& control) const;
 
   Session session_;
   Balloons balloons_;

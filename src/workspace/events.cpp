@@ -2,6 +2,7 @@
 
 #include "workspace/commit.h"
 #include "workspace/date_rules.h"
+#include "workspace/hint_sentences.h"
 #include "workspace/loading.h"
 #include "workspace/parameters.h"
 #include "workspace/reasonable_cost.h"
@@ -13,11 +14,22 @@ namespace {
 
 void EnableSetButton(SinWorkspace& ws, Side side) { ws.Of(side).cmdSetPeriodParams->SetEnabled(true); }
 
+void SayIfAny(SinWorkspace& ws, std::string news) {
+  if (!news.empty()) ws.Say(std::move(news));
+}
+
 // The tabs stay shut while date lists are rebuilt.
 void OnDateFocus(SinWorkspace& ws, Side side, void (*refresh)(SinWorkspace&, Side)) {
+  const std::string start = ws.Of(side).comStart->Text();
+  const std::string stop = ws.Of(side).comStop->Text();
   ws.SSTab_PastFutureSwitch->SetEnabled(false);
   refresh(ws, side);
   ws.SSTab_PastFutureSwitch->SetEnabled(true);
+  // The button stays shut where the lists could not be made and were reset.
+  if (ws.Of(side).cmdSetPeriodParams->Enabled())
+    SayIfAny(ws, DatesMoved(ws, side, start, stop));
+  else
+    ws.Say("The date lists were reset; choose both dates anew");
 }
 
 // A click on Per Day or Per Month. The stored position is kept and no value converted: 6 a day becomes
@@ -28,6 +40,25 @@ void OnUnit(SinWorkspace& ws, Side side) {
                                    std::string(ws.Sin().dailySuffix[side]));
   EnableSetButton(ws, side);
   RefillUnitList(ws, side, ws.Record(side, period).QuantityListIndex);
+}
+
+void OnSetButton(SinWorkspace& ws, Side side) {
+  const int before = PeriodsSet(ws, side);
+  PressSetButton(ws, side);
+  ws.Say(PeriodWasSet(ws, side, before));
+}
+
+// A month that was found in a fine list may be missing in the coarse one that brings it back.
+void OnTimePeriod(SinWorkspace& ws, Side side) {
+  SelectPeriod(ws, side, ws.SideIndex(side));
+  const PeriodRecord& record = ws.Record(side, ws.State(side).CurrentPeriod);
+  SayIfAny(ws, DatesMoved(ws, side, record.StartLabel, record.StopLabel));
+}
+
+void OnReasonableCostFocus(SinWorkspace& ws, Side side) {
+  const std::string before = ws.Of(side).comSubCost->Text();
+  ReasonableCostEntered(ws, side);
+  SayIfAny(ws, ReasonableCostMoved(ws, side, before));
 }
 
 void OnPacksOrCigarettes(SinWorkspace& ws, Side side) {
@@ -81,7 +112,7 @@ void ConnectSide(SinWorkspace& ws, Side side) {
     if (list != nullptr) list->onFocus = [&ws, side] { EnableSetButton(ws, side); };
   if (c.comSubCost != nullptr) {
     c.comInitialCost->onPick = [&ws, side] { GrossCostPicked(ws, side); };
-    c.comSubCost->onFocus = [&ws, side] { ReasonableCostEntered(ws, side); };
+    c.comSubCost->onFocus = [&ws, side] { OnReasonableCostFocus(ws, side); };
   }
   for (Option* option : {c.firstUnit, c.secondUnit})
     option->onClick = [&ws, side] {
@@ -89,11 +120,13 @@ void ConnectSide(SinWorkspace& ws, Side side) {
     };
   for (Option* option : {c.OptCigPercentCostIncrease, c.OptCigInitialFinalCostIncrease})
     if (option != nullptr) option->onClick = [&ws, side] { OnCostMode(ws, side); };
-  c.cmdSetPeriodParams->onClick = [&ws, side] { PressSetButton(ws, side); };
+  c.cmdSetPeriodParams->onClick = [&ws, side] { OnSetButton(ws, side); };
   for (int p = 1; p <= kPeriodCount; ++p) {
-    c.optTimePeriod(p).onClick = [&ws, side] { SelectPeriod(ws, side, ws.SideIndex(side)); };
+    c.optTimePeriod(p).onClick = [&ws, side] { OnTimePeriod(ws, side); };
     // The other radio of the pair needs no event: a change of the pair always reaches this one.
     c.rbnEnabledPeriod(p).onChange = [&ws, side] { OnEnabledRadio(ws, side); };
+    for (Radio* radio : {&c.rbnEnabledPeriod(p), &c.rbnDisabledPeriod(p)})
+      radio->onClick = [&ws, side, p] { ws.Say(PeriodCounts(ws, side, p)); };
   }
 }
 

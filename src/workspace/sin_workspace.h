@@ -128,7 +128,6 @@ class SinWorkspace : public Form {
   Button* EscapeButton() const override { return nullptr; }
   // Of a set button the boxes of the period in hand and the total.
   std::vector<const Control*> ResultsOf(const Control& by) const override;
-  std::string_view Hint() const override { return "Shift+F1 explains the control that has the focus."; }
   bool SharesPlace() const override { return true; }
 
   Session& GetSession() const { return session_; }
@@ -143,6 +142,7 @@ class SinWorkspace : public Form {
   SideControls& Of(Side side) { return sides_[static_cast<int>(side)]; }
   const SideControls& Of(Side side) const { return sides_[static_cast<int>(side)]; }
   SideState& State(Side side) { return states_[static_cast<int>(side)]; }
+  const SideState& State(Side side) const { return states_[static_cast<int>(side)]; }
 
   // Takes over all that another workspace of the same sin shows and remembers.
   void TakeStateOf(const SinWorkspace& other);

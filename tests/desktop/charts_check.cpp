@@ -13,6 +13,7 @@
 #include <cmath>
 
 #include "calendar/date_label.h"
+#include "desktop/activation.h"
 #include "desktop/chart_widget.h"
 #include "desktop/desktop.h"
 #include "desktop/form_window.h"
@@ -31,8 +32,7 @@ class Charts : public testing::Test {
     desktop.Enter([&] { program.At(0).Of(Side::Past).cmdSetPeriodParams->UserClicks(); });
     desktop.Enter([&] { program.At(0).Get<Button>("cmdGrowthChart").UserClicks(); });
     FormWindow& window = desktop.WindowOf(program.Growth());
-    window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 2000));
+    EXPECT_TRUE(BringToFront(window));
     QTest::qWait(20);  // the first drawing comes with the next turn of the loop
     widget = dynamic_cast<ChartWidget*>(window.WidgetOf(chart));
     widget->setFocus();
@@ -136,8 +136,7 @@ TEST_F(Charts, ReachAPrinter) {
 TEST_F(Charts, AreOpenedByTheirKeys) {
   desktop.Enter([&] { program.Growth().Hide(); });
   FormWindow& window = desktop.WindowOf(program.At(0));
-  window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window, 2000));
+  ASSERT_TRUE(BringToFront(window));
   QTest::keyClick(&window, Qt::Key_G, Qt::ControlModifier);
   EXPECT_TRUE(program.Growth().Shown());
 }

@@ -9,6 +9,7 @@
 #include <iostream>
 
 #include "desktop/chart_widget.h"
+#include "desktop/activation.h"
 #include "desktop/document_view.h"
 #include "desktop/form_window.h"
 #include "desktop/grid_model.h"
@@ -91,9 +92,7 @@ bool WidgetStage::Reaches(Control& control) {
 
 // Widgets of a window that is not the active one get no focus.
 void WidgetStage::Activate(QWidget& window) {
-  if (window.isActiveWindow()) return;
-  window.activateWindow();
-  if (!QTest::qWaitForWindowActive(&window, kActivationMilliseconds))
+  if (!BringToFront(window, kActivationMilliseconds))
     std::cerr << "a window could not be made the active one\n";
 }
 

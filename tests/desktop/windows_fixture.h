@@ -7,6 +7,7 @@
 #include <QHelpEvent>
 #include <QTest>
 
+#include "desktop/activation.h"
 #include "desktop/desktop.h"
 #include "desktop/form_window.h"
 #include "scenario/scripted_platform.h"
@@ -36,10 +37,7 @@ class Windows : public testing::Test {
   void Open(SinWorkspace& ws, int tab) {
     desktop.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(tab); });
   }
-  void Activate(QWidget& window) {
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window, 2000));
-  }
+  void Activate(QWidget& window) { ASSERT_TRUE(BringToFront(window)); }
   void Hover(QWidget& widget) {
     QHelpEvent hover(QEvent::ToolTip, QPoint(3, 3), widget.mapToGlobal(QPoint(3, 3)));
     QApplication::sendEvent(&widget, &hover);

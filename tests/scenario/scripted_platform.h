@@ -72,8 +72,9 @@ class ScriptedPlatform : public Platform {
   std::optional<std::string> AskSavePath(std::string_view lastPath) override;
   void WriteFile(const std::string& path, std::string_view bytes) override;
   void Print(std::string_view text, bool selection) override { Print({std::string(text), selection, false}); }
-  void PrintKeepingPageOpen(std::string_view text, bool selection) override {
+  bool PrintKeepingPageOpen(std::string_view text, bool selection) override {
     Print({std::string(text), selection, true});
+    return true;
   }
   void PrintPicture(std::string_view svg, std::string_view text) override;
   void SetClipboard(std::string_view text) override { clipboard = text; }
