@@ -1,6 +1,8 @@
 #include "desktop/window_keys.h"
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QShortcut>
 #include <QWidget>
@@ -84,6 +86,7 @@ bool WindowKeys::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress: {
       const auto& key = *static_cast<QKeyEvent*>(event);
+      if (key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier) return OpenMenu();
       if (control != nullptr) return TakeKey(*control, key);
       // It comes here when the widget that has the focus has no use for it.
       return key.key() == Qt::Key_Escape && key.modifiers() == Qt::NoModifier && Escape();
@@ -122,6 +125,14 @@ bool WindowKeys::Press(Control& control) {
   const auto group = groupOf_.find(&control);
   if (group != groupOf_.end() && group->second->ArrowsClick()) return false;
   button->click();
+  return true;
+}
+
+// Where the Menu key is missing; Qt knows that one itself.
+bool WindowKeys::OpenMenu() {
+  const QPoint middle = window_.rect().center();
+  QContextMenuEvent menu(QContextMenuEvent::Keyboard, middle, window_.mapToGlobal(middle));
+  QApplication::sendEvent(&window_, &menu);
   return true;
 }
 

@@ -35,6 +35,7 @@ class WindowKeys : public QObject {
   bool TakeArrow(Control& control, const FocusGroup& group, Arrow arrow);
   bool Press(Control& control);
   bool Escape();
+  bool OpenMenu();
   void UpdateStop(const FocusGroup& group);
 
   FormWindow& window_;
