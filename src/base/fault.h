@@ -20,6 +20,24 @@ constexpr std::string_view FaultName(FaultKind kind) {
   return kNames[static_cast<int>(kind)];
 }
 
+// What a user does otherwise next time.
+constexpr std::string_view HowToAvoid(FaultKind kind) {
+  switch (kind) {
+    case FaultKind::File:
+      return "To avoid this, give each report a name, in a folder that you may write to and that has room, "
+             "and "
+             "do not cancel its first save.";
+    case FaultKind::Overflow:
+      return "To avoid this, choose shorter periods, or lower amounts, costs and rates.";
+    case FaultKind::Conversion:
+    case FaultKind::Index:
+      return "To avoid this, choose the dates of a period anew before you set it, and set its periods in "
+             "their "
+             "order.";
+  }
+  return {};
+}
+
 // Thrown by whatever cannot go on; caught where the events of users enter the core (and by the date
 // lists, which recover). `what()` says in plain words what happened, in UTF-8: it may
 // name a file.

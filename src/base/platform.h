@@ -42,6 +42,9 @@ class Platform {
   // the encoding of the file system.
   virtual std::optional<std::string> AskSavePath(std::string_view lastPath) = 0;
 
+  // The same where there is no name yet and the run ends without one, which the dialog says.
+  virtual std::optional<std::string> AskFirstSavePath() { return AskSavePath({}); }
+
   // Writes a file in one go, replacing what was there. Throws Fault(File) naming the file and the reason.
   virtual void WriteFile(const std::string& path, std::string_view bytes) = 0;
 

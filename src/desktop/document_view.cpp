@@ -45,6 +45,8 @@ double TabDistance(const QString& text, const QFontMetricsF& metrics) {
 
 }  // namespace
 
+QFont PrintedDocumentFont() { return DocumentFont(); }
+
 DocumentEdit::DocumentEdit(QWidget* parent) : QPlainTextEdit(parent) {
   setFont(DocumentFont());
   setTabChangesFocus(true);

@@ -11,6 +11,9 @@
 
 namespace vicetoll {
 
+// The document's font and size on paper.
+QFont PrintedDocumentFont();
+
 // Editors know one character for an end of line; in the control's text it is two. Positions are turned
 // from the one into the other here.
 class DocumentEdit : public QPlainTextEdit {

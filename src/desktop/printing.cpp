@@ -1,32 +1,78 @@
 #include "desktop/printing.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QTextDocument>
 #include <QTextOption>
+#include <algorithm>
+#include <numeric>
 
 #include "desktop/chart_module.h"
+#include "desktop/document_view.h"
 #include "desktop/text.h"
-#include "reports/report_columns.h"
 
 namespace vicetoll {
 namespace {
 
-constexpr double kPoints = 8;
+constexpr double kPlainPoints = 8;
+constexpr double kCellGap = 6;  // pixels of the screen
+
+QFont FontOf(PrintStyle style) {
+  if (style == PrintStyle::Document) return PrintedDocumentFont();
+  QFont font;
+  font.setPointSizeF(kPlainPoints);
+  return font;
+}
+
+// As it is printed: the blanks that pad a cell are left out.
+QString Unpadded(std::string_view text) {
+  QStringList lines = ToQtLines(text).replace(u'\r', u'\n').split(u'\n');
+  for (QString& line : lines) {
+    QStringList cells = line.split(u'\t');
+    if (cells.size() > 1)
+      for (QString& cell : cells)
+        while (cell.endsWith(u' ')) cell.chop(1);
+    line = cells.join(u'\t');
+  }
+  return lines.join(u'\n');
+}
+
+// The widest cell of each column, with a gap behind it, in pixels of the screen.
+QList<double> ColumnsOf(const QString& text, const QFont& font) {
+  const QFontMetricsF metrics(font);
+  QList<double> columns;
+  for (const QString& line : text.split(u'\n')) {
+    const QStringList cells = line.split(u'\t');
+    if (cells.size() == 1) continue;
+    if (columns.size() < cells.size()) columns.resize(cells.size());
+    for (qsizetype i = 0; i < cells.size(); ++i)
+      columns[i] = std::max(columns[i], metrics.horizontalAdvance(cells[i]) + kCellGap);
+  }
+  return columns;
+}
+
+double PageWidth(const QPageLayout& page) {
+  return page.paintRect(QPageLayout::Inch).width() * QGuiApplication::primaryScreen()->logicalDotsPerInch();
+}
 
 // Lays the text out for the printer's pages.
-void LayOut(QTextDocument& document, QPrinter& printer, std::string_view text, bool columns) {
+void LayOut(QTextDocument& document, QPrinter& printer, std::string_view text, const QFont& font) {
   document.documentLayout()->setPaintDevice(&printer);
-  QFont font;
-  font.setPointSizeF(kPoints);
   document.setDefaultFont(font);
-  if (columns) {
-    // All columns of a grid fit the page side by side; the distance is in pixels of the screen.
-    QTextOption option = document.defaultTextOption();
-    const double page = printer.pageLayout().paintRect(QPageLayout::Inch).width() * 96;
-    option.setTabStopDistance(page / (kReportColumnCount + 0.5));
-    document.setDefaultTextOption(option);
-  }
-  document.setPlainText(ToQtLines(text));
+  const QString lines = Unpadded(text);
+  QTextOption option = document.defaultTextOption();
+  QList<QTextOption::Tab> stops;
+  const QList<double> columns = ColumnsOf(lines, font);
+  const double width = std::accumulate(columns.begin(), columns.end(), 0.0);
+  // On a page that is too narrow the columns stand closer, as far as their cells let them.
+  const double squeeze = std::min(1.0, PageWidth(printer.pageLayout()) / std::max(width, 1.0));
+  double left = 0;
+  for (const double column : columns) stops.append({left += column * squeeze, QTextOption::LeftTab});
+  option.setTabs(stops);
+  document.setDefaultTextOption(option);
+  document.setPlainText(lines);
   document.setPageSize(printer.pageRect(QPrinter::DevicePixel).size());
 }
 
@@ -44,12 +90,18 @@ bool PrintJob::PrintPicture(std::string_view svg) {
   return PaintPicture(painter_, page, svg) && printer_.printerState() != QPrinter::Error;
 }
 
+QPageLayout::Orientation PrintJob::SuggestedOrientation(std::string_view text) const {
+  const QList<double> columns = ColumnsOf(Unpadded(text), FontOf(style_));
+  QPageLayout upright = printer_.pageLayout();
+  upright.setOrientation(QPageLayout::Portrait);
+  return std::accumulate(columns.begin(), columns.end(), 0.0) <= PageWidth(upright) ? QPageLayout::Portrait
+                                                                                    : QPageLayout::Landscape;
+}
+
 bool PrintJob::Print(std::string_view text) {
-  const bool columns = text.find('\t') != std::string_view::npos;
-  if (columns) printer_.setPageOrientation(QPageLayout::Landscape);
   if (!Begin()) return false;
   QTextDocument document;
-  LayOut(document, printer_, text, columns);
+  LayOut(document, printer_, text, FontOf(style_));
   const QSizeF page = document.pageSize();
   for (int i = 0; i < document.pageCount(); ++i) {
     if (i > 0 && !printer_.newPage()) return false;

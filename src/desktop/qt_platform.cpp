@@ -14,6 +14,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
@@ -66,7 +67,11 @@ Answer AnswerOf(int button) {
   return button == QMessageBox::Discard ? Answer::No : Answer::Cancel;
 }
 
-QtPlatform::QtPlatform() = default;
+// Nothing is kept from one run to the next. Qt's file dialog would write the folders that were visited to a
+// file of its own, whichever way it is closed: it is given a folder where no file can be.
+QtPlatform::QtPlatform() {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
+}
 QtPlatform::~QtPlatform() = default;
 
 void QtPlatform::ShowChanges() const {
@@ -116,6 +121,13 @@ std::optional<std::string> QtPlatform::AskSavePath(std::string_view lastPath) {
                                              StartOf(lastPath)));
 }
 
+std::optional<std::string> QtPlatform::AskFirstSavePath() {
+  ShowChanges();
+  return Chosen(QFileDialog::getSaveFileName(
+      QApplication::activeWindow(),
+      QStringLiteral("Save As: a file name is needed, without one the program ends"), StartOf({})));
+}
+
 std::optional<std::string> QtPlatform::AskEntriesPath(FilePurpose purpose, std::string_view lastPath) {
   ShowChanges();
   const bool open = purpose == FilePurpose::OpenEntries;
@@ -139,24 +151,29 @@ std::string QtPlatform::DataFolder() {
 void QtPlatform::WriteFile(const std::string& path, std::string_view bytes) { WriteWholeFile(path, bytes); }
 
 void QtPlatform::Print(std::string_view text, bool selection) {
-  if (const auto print = AskAndPrint(text, selection)) print->Close();
+  if (const auto print = AskAndPrint(std::make_unique<PrintJob>(PrintStyle::Document), text, selection))
+    print->Close();
 }
 
 bool QtPlatform::PrintKeepingPageOpen(std::string_view text, bool selection) {
-  openPrint_ = AskAndPrint(text, selection);
+  openPrint_ = AskAndPrint(std::make_unique<PrintJob>(), text, selection);
   return openPrint_ != nullptr;
 }
 
 // What was printed, its last page still open; nothing if it went nowhere, which the user is told.
-std::unique_ptr<PrintJob> QtPlatform::AskAndPrint(std::string_view text, bool selection) {
+std::unique_ptr<PrintJob> QtPlatform::AskAndPrint(std::unique_ptr<PrintJob> print, std::string_view text,
+                                                  bool selection) {
   ShowChanges();
   openPrint_.reset();  // the next print lets the open page out
-  auto print = std::make_unique<PrintJob>();
   QPrinter& printer = print->Printer();
+  printer.setPageOrientation(orientation_.value_or(print->SuggestedOrientation(text)));
   QPrintDialog dialog(&printer, QApplication::activeWindow());
   dialog.setOption(QAbstractPrintDialog::PrintSelection, selection);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
-  dialog.exec();  // a cancelled dialog prints all the same
+  dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+  if (selection) dialog.setPrintRange(QAbstractPrintDialog::Selection);
+  // A cancelled dialog prints all the same.
+  if (dialog.exec() == QDialog::Accepted) orientation_ = printer.pageLayout().orientation();
   if (print->Print(text)) return print;
   TellNothingPrinted(printer);
   return nullptr;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMessageBox>
+#include <QPageLayout>
 #include <functional>
 #include <memory>
 
@@ -40,6 +41,7 @@ class QtPlatform : public Platform {
   std::optional<std::string> AskEntriesPath(FilePurpose purpose, std::string_view lastPath) override;
   std::string DataFolder() override;
   std::optional<std::string> AskSavePath(std::string_view lastPath) override;
+  std::optional<std::string> AskFirstSavePath() override;
   void WriteFile(const std::string& path, std::string_view bytes) override;
   void Print(std::string_view text, bool selection) override;
   bool PrintKeepingPageOpen(std::string_view text, bool selection) override;
@@ -52,13 +54,16 @@ class QtPlatform : public Platform {
   void Pause(int milliseconds) override;
 
  private:
-  std::unique_ptr<PrintJob> AskAndPrint(std::string_view text, bool selection);
+  std::unique_ptr<PrintJob> AskAndPrint(std::unique_ptr<PrintJob> print, std::string_view text,
+                                        bool selection);
   void Tell(const QString& text);
   void TellNothingPrinted(const QPrinter& printer);
   void ShowChanges() const;
 
   // A print whose last page waits for the next print or the end of the run.
   std::unique_ptr<PrintJob> openPrint_;
+  // As the user left it in the last dialog that was not cancelled.
+  std::optional<QPageLayout::Orientation> orientation_;
 };
 
 }  // namespace vicetoll

@@ -20,10 +20,13 @@ void Tell(const std::exception& cause, const std::string& rescued) {
     text = "Something went wrong inside the program (" + text + ").";
   text += "\n\nThe program cannot go on and ends now. ";
   if (rescued.empty())
-    text += "Results that were not saved are gone.";
+    text += "Results that were not saved are gone, and so is what you entered and did not save.";
   else
-    text += "What you entered is in the file \"" + rescued +
+    text += "Results that were not saved are gone. What you entered is in the file \"" + rescued +
             "\": open it with the button Open, or start with it.";
+  if (const auto* fault = dynamic_cast<const Fault*>(&cause))
+    text += "\n\n" + std::string(HowToAvoid(fault->Kind()));
+  text += "\n\nSave what you enter now and then, with the button Save: then little is ever lost.";
   const std::unique_ptr<QMessageBox> box =
       MakeMessageBox({}, QString::fromStdString(text), MessageButtons::Ok);
   box->setIcon(QMessageBox::Critical);

@@ -8,11 +8,13 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFontInfo>
 #include <QHelpEvent>
 #include <QMessageBox>
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -25,6 +27,7 @@
 #include "desktop/grid_view.h"
 #include "desktop/look.h"
 #include "desktop/printing.h"
+#include "desktop/qt_platform.h"
 #include "desktop/run_program.h"
 #include "desktop/text.h"
 #include "desktop/toolkit_messages.h"
@@ -87,6 +90,8 @@ TEST(Run, EndsAfterAFatalFaultThatItTells) {
   ASSERT_EQ(rescued.size(), 1);
   const QString file = data.filePath(rescued[0] + "/rescued.vicetoll");
   EXPECT_TRUE(told.contains(file)) << told.toStdString();
+  EXPECT_TRUE(told.contains("Results that were not saved are gone.")) << told.toStdString();
+  EXPECT_TRUE(told.contains("To avoid this, give each report a name")) << told.toStdString();
   const Entries entries = ReadEntries(ReadEntriesBytes(file.toStdString()));
   EXPECT_EQ(entries.sins.at(0).past.periods.size(), 1u);
 }
@@ -680,6 +685,77 @@ TEST(Printing, ALongReportRunsOverSeveralPages) {
   ASSERT_EQ(rows.size(), 200);
   EXPECT_EQ(rows.first(), "row 1");
   EXPECT_EQ(rows.last(), "row 200");
+}
+
+QString PagesOf(PrintJob& print, const QString& file, const std::string& text, const char* program) {
+  print.Printer().setOutputFormat(QPrinter::PdfFormat);
+  print.Printer().setOutputFileName(file);
+  EXPECT_TRUE(print.Print(text));
+  EXPECT_TRUE(print.Close());
+  QProcess reader;
+  QStringList arguments = {file};
+  if (qstrcmp(program, "pdftotext") == 0) arguments = {QStringLiteral("-layout"), file, QStringLiteral("-")};
+  reader.start(program, arguments);
+  EXPECT_TRUE(reader.waitForFinished());
+  return QString::fromUtf8(reader.readAllStandardOutput());
+}
+
+TEST(Printing, SuggestsAPageOnItsSideForATableThatIsTooWideUpright) {
+  const PrintJob print;
+  EXPECT_EQ(print.SuggestedOrientation("one\ttwo\r\nthree\tfour"), QPageLayout::Portrait);
+  const std::string wide(60, 'W');
+  EXPECT_EQ(print.SuggestedOrientation(wide + "\t" + wide), QPageLayout::Landscape);
+  // Words wrap, and the blanks that pad a cell are not printed.
+  EXPECT_EQ(print.SuggestedOrientation(wide + " " + wide + " " + wide), QPageLayout::Portrait);
+  EXPECT_EQ(print.SuggestedOrientation("one" + std::string(300, ' ') + "\ttwo"), QPageLayout::Portrait);
+}
+
+TEST(Printing, KeepsTheOrientationThatThePrinterHas) {
+  const QTemporaryDir room;
+  const std::string wide = std::string(60, 'W') + "\t" + std::string(60, 'W');
+  PrintJob upright;
+  upright.Printer().setPageOrientation(QPageLayout::Portrait);
+  PagesOf(upright, room.filePath("report.pdf"), wide, "pdfinfo");
+  EXPECT_EQ(upright.Printer().pageLayout().orientation(), QPageLayout::Portrait);
+}
+
+TEST(Printing, PrintsADocumentInItsOwnFont) {
+  const QTemporaryDir room;
+  PrintJob plain, document(PrintStyle::Document);
+  const QString plainFonts = PagesOf(plain, room.filePath("plain.pdf"), "Past Period 1", "pdffonts");
+  const QString documentFonts = PagesOf(document, room.filePath("document.pdf"), "Past Period 1", "pdffonts");
+  const QString own = QFontInfo(PrintedDocumentFont()).family().remove(u' ');
+  EXPECT_TRUE(documentFonts.contains(own)) << documentFonts.toStdString();
+  EXPECT_FALSE(plainFonts.contains(own)) << plainFonts.toStdString();
+  EXPECT_EQ(PrintedDocumentFont().pointSizeF(), 8.5);
+}
+
+// The heading stands over its figures: each in the column of its cell.
+TEST(Printing, SetsEachCellInTheColumnOfItsHeading) {
+  const QTemporaryDir room;
+  PrintJob print(PrintStyle::Document);
+  const QString text = PagesOf(print, room.filePath("report.pdf"),
+                               "Index\tEval.           \tSmoking Cost:      \r\n"
+                               "1 \tJun - 2016 \t$153.37        \r\n",
+                               "pdftotext");
+  const QStringList lines = text.split(u'\n');
+  EXPECT_EQ(lines[0].indexOf("Eval."), lines[1].indexOf("Jun")) << text.toStdString();
+  EXPECT_EQ(lines[0].indexOf("Smoking"), lines[1].indexOf("$153.37")) << text.toStdString();
+}
+
+// What Qt's own dialogs remember is not kept either.
+TEST(Dialogs, LeaveNoHistoryBehind) {
+  const QtPlatform platform;
+  const QTemporaryDir visited;
+  {
+    QFileDialog dialog;
+    dialog.setDirectory(visited.path());
+    dialog.setHistory({visited.path()});
+  }
+  EXPECT_EQ(QSettings(QSettings::UserScope, QStringLiteral("QtProject")).status(), QSettings::NoError);
+  const QDir settings(qEnvironmentVariable("XDG_CONFIG_HOME"));
+  EXPECT_TRUE(settings.entryList(QDir::Files | QDir::Hidden).isEmpty())
+      << settings.entryList(QDir::Files | QDir::Hidden).join(u' ').toStdString();
 }
 
 TEST(Printing, WithoutAPrinterAndAFileGoesNowhereAndSaysSo) {
