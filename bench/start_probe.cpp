@@ -15,6 +15,7 @@
 #include "desktop/form_window.h"
 #include "desktop/look.h"
 #include "desktop/qt_platform.h"
+#include "desktop/scale.h"
 
 namespace {
 
@@ -38,7 +39,7 @@ class PaintWatch : public QObject {
  public:
   void Arm(std::function<void()> painted) { painted_ = std::move(painted); }
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::Paint && painted_ && dynamic_cast<vicetoll::FormWindow*>(watched) != nullptr)
+    if (event->type() == QEvent::Paint && painted_ && dynamic_cast<vicetoll::Sheet*>(watched) != nullptr)
       QTimer::singleShot(0, this, std::exchange(painted_, nullptr));
     return QObject::eventFilter(watched, event);
   }

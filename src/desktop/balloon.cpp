@@ -6,12 +6,13 @@
 #include <algorithm>
 
 #include "desktop/balloon_place.h"
+#include "desktop/scale.h"
 #include "desktop/themes.h"
 
 namespace vicetoll {
 namespace {
 
-// Pixels at scale 1.
+// Pixels of the design.
 constexpr int kTextWidth = 80;
 constexpr int kPadding = 8;
 constexpr int kStem = 14;
@@ -34,6 +35,11 @@ BalloonWidget::BalloonWidget(const QString& text, QWidget* owner, QWidget* windo
                              std::optional<QPoint> pointer)
     : QWidget(window), text_(text), owner_(owner) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
+  setFont(owner->font());
+  const auto scaled = [scale = ScaleOf(owner)](int pixels) { return scale.Of(pixels); };
+  padding_ = scaled(kPadding);
+  stemWidth_ = scaled(kStemWidth);
+  const int stem = scaled(kStem);
   const auto placeOf = [window](const QWidget& widget) {
     return QRect(widget.mapTo(window, QPoint(0, 0)), widget.size());
   };
@@ -42,15 +48,15 @@ BalloonWidget::BalloonWidget(const QString& text, QWidget* owner, QWidget* windo
                     .target = placeOf(*owner),
                     .next = next == nullptr ? QRect() : placeOf(*next),
                     .pointer = pointer,
-                    .stem = kStem,
+                    .stem = stem,
                     .inset = kRadius + 2,
-                    .edge = kEdge,
-                    .narrowest = kTextWidth,
+                    .edge = scaled(kEdge),
+                    .narrowest = scaled(kTextWidth),
                     .bodyAt = [this](int width) {
-                      return TextSize(text_, font(), width) + QSize(2 * kPadding + 1, 2 * kPadding + 1);
+                      return TextSize(text_, font(), width) + QSize(2 * padding_ + 1, 2 * padding_ + 1);
                     }});
   setGeometry(spot.whole);
-  body_ = QRect(0, spot.under ? kStem : 0, spot.whole.width() - 1, spot.whole.height() - kStem - 1);
+  body_ = QRect(0, spot.under ? stem : 0, spot.whole.width() - 1, spot.whole.height() - stem - 1);
   point_ = spot.tip - spot.whole.topLeft();
   raise();
   show();
@@ -66,12 +72,12 @@ void BalloonWidget::paintEvent(QPaintEvent*) {
   QPainterPath stem;
   stem.moveTo(point_);
   stem.lineTo(point_.x() + 1, root);
-  stem.lineTo(point_.x() + 1 + kStemWidth, root);
+  stem.lineTo(point_.x() + 1 + stemWidth_, root);
   stem.closeSubpath();
   painter.setPen(QPen(Colour(Tone::Ink), 1));
   painter.setBrush(Colour(Tone::BalloonGround));
   painter.drawPath(path.united(stem));
-  painter.drawText(body_.adjusted(kPadding, kPadding, -kPadding, -kPadding), Qt::TextWordWrap, text_);
+  painter.drawText(body_.adjusted(padding_, padding_, -padding_, -padding_), Qt::TextWordWrap, text_);
 }
 
 }  // namespace vicetoll

@@ -10,8 +10,8 @@ namespace vicetoll {
 // and it is smooth on every screen; a window of its own would have black corners where no compositor runs.
 class BalloonWidget : public QWidget {
  public:
-  // The lines of the text end in LF and stay lines. `next` is the control that the user goes on to, nullptr if there is
-  // none; `pointer` is the mouse in pixels of the window, where it has called the balloon up.
+  // The lines of the text end in LF and stay lines. `next` is the control that the user goes on to, nullptr
+  // if there is none; `pointer` is the mouse in pixels of the window, where it has called the balloon up.
   BalloonWidget(const QString& text, QWidget* owner, QWidget* window, const QWidget* next,
                 std::optional<QPoint> pointer);
 
@@ -26,6 +26,7 @@ class BalloonWidget : public QWidget {
   const QWidget* owner_;
   QRect body_;    // without the stem
   QPoint point_;  // of the stem
+  int padding_ = 0, stemWidth_ = 0;
 };
 
 }  // namespace vicetoll

@@ -11,6 +11,7 @@
 #include "desktop/document_view.h"
 #include "desktop/grid_view.h"
 #include "desktop/look.h"
+#include "desktop/scale.h"
 #include "desktop/text.h"
 #include "desktop/widgets.h"
 
@@ -52,11 +53,12 @@ class ListView : public ViewOf<DropDownList, BlueList> {
 class BoxView : public ViewOf<TextBox, ResultBox> {
  public:
   BoxView(TextBox& box, QWidget* parent) : ViewOf(box, new ResultBox(parent)) {}
+  void TakeScale() override { widget_->Fit(); }
 
  protected:
   void UpdateContents() override {
     const QString text = ToQt(control_.Text());
-    if (widget_->text() != text) widget_->setText(text);
+    if (widget_->text() != text) widget_->SetText(text);
   }
 };
 
@@ -135,6 +137,7 @@ class TabView : public ViewOf<TabControl, TabPages> {
   }
   QWidget* Ground(int page) const override { return page == kAnyPage ? widget_ : widget_->Page(page); }
   QWidget* Hand() const override { return widget_->Bar(); }
+  void TakeScale() override { widget_->TakeScale(); }
 
  protected:
   void UpdateContents() override { widget_->SetTab(control_.Tab()); }
@@ -157,8 +160,8 @@ class TabView : public ViewOf<TabControl, TabPages> {
 void ControlView::Update() {
   UpdateContents();
   const Place& place = control_.GetPlace();
-  widget_->setGeometry(ToPixels(place.left), ToPixels(place.top), ToPixels(place.width),
-                       ToPixels(place.height));
+  const QRect room = ScaleOf(widget_).ToPixels(place.left, place.top, place.width, place.height);
+  widget_->setGeometry(room);
   if (toolTip_ != control_.ToolTip()) {
     toolTip_ = control_.ToolTip();
     widget_->setToolTip(ToQt(toolTip_));

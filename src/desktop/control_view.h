@@ -25,6 +25,8 @@ class ControlView {
 
   // Takes the colours of the theme in force, where the palette of the window does not bring them.
   virtual void TakeTheme() {}
+  // Takes the scale of its sheet, where place and font do not bring it.
+  virtual void TakeScale() {}
 
   // Brings the widget in step with the control.
   void Update();

@@ -1,7 +1,10 @@
 #include "desktop/desktop.h"
 
 #include <QApplication>
+#include <QKeyEvent>
+#include <QWheelEvent>
 
+#include "desktop/chart_widget.h"
 #include "desktop/form_window.h"
 #include "desktop/widgets.h"
 
@@ -22,25 +25,66 @@ class FlagWhile {
 
 }  // namespace
 
-// Hears what the system says to the whole application; windows with colours of their own are not told.
+// Hears what the system says to the whole application, of which windows with colours and fonts of their own
+// are not told; and the keys and the wheel that zoom, wherever the focus and the pointer are in a window.
 class SystemWatch : public QObject {
  public:
-  explicit SystemWatch(std::function<void()> onPalette) : onPalette_(std::move(onPalette)) {
-    qApp->installEventFilter(this);
-  }
+  explicit SystemWatch(Desktop& desktop) : desktop_(desktop) { qApp->installEventFilter(this); }
 
  protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::ApplicationPaletteChange) onPalette_();
-    return false;
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::ApplicationPaletteChange:
+        desktop_.TakeTheme();
+        return false;
+      case QEvent::ApplicationFontChange:
+        desktop_.TakeScale();
+        return false;
+      case QEvent::KeyPress:
+        return IsInWindow(watched) && TakeKey(*static_cast<QKeyEvent*>(event));
+      case QEvent::Wheel:
+        return IsInWindow(watched) && TakeWheel(*static_cast<QWheelEvent*>(event));
+      default:
+        return false;
+    }
   }
 
  private:
-  std::function<void()> onPalette_;
+  // A chart has a zoom of its own, in time, by the same keys and the same wheel.
+  static bool IsInWindow(QObject* watched) {
+    const auto* widget = qobject_cast<const QWidget*>(watched);
+    if (widget == nullptr || dynamic_cast<FormWindow*>(widget->window()) == nullptr) return false;
+    for (; widget != nullptr; widget = widget->parentWidget())
+      if (dynamic_cast<const ChartWidget*>(widget) != nullptr) return false;
+    return true;
+  }
+
+  bool TakeKey(QKeyEvent& key) {
+    if ((key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != Qt::ControlModifier) return false;
+    const bool plus = key.key() == Qt::Key_Plus || key.key() == Qt::Key_Equal;
+    if (!plus && key.key() != Qt::Key_Minus && key.key() != Qt::Key_0) return false;
+    desktop_.ZoomBy(plus ? 1 : key.key() == Qt::Key_Minus ? -1 : 0);
+    key.accept();
+    return true;
+  }
+
+  // A touch pad turns the wheel by fractions of a notch.
+  bool TakeWheel(QWheelEvent& wheel) {
+    constexpr int kNotch = 120;
+    if (wheel.modifiers() != Qt::ControlModifier) return false;
+    turned_ += wheel.angleDelta().y();
+    const int steps = turned_ / kNotch;
+    turned_ -= steps * kNotch;
+    if (steps != 0) desktop_.ZoomBy(steps);
+    wheel.accept();
+    return true;
+  }
+
+  Desktop& desktop_;
+  int turned_ = 0;  // of the wheel, not yet a notch
 };
 
-Desktop::Desktop(Program& program)
-    : program_(program), watch_(std::make_unique<SystemWatch>([this] { TakeTheme(); })) {
+Desktop::Desktop(Program& program) : program_(program), watch_(std::make_unique<SystemWatch>(*this)) {
   program_.onWindowCreated = [this](Form& form) { Listen(form); };
   for (Form* form : program_.Windows()) Listen(*form);
   Flush();
@@ -112,6 +156,16 @@ void Desktop::PressEverywhere(std::string_view keys) {
 
 void Desktop::TakeTheme() {
   for (const auto& window : windows_) window->TakeTheme();
+}
+
+// Hidden windows take their scale when they come up.
+void Desktop::TakeScale() {
+  for (const auto& window : windows_)
+    if (window->isVisible()) window->TakeScale();
+}
+
+void Desktop::ZoomBy(int steps) {
+  if (scaling_.ZoomBy(steps)) TakeScale();
 }
 
 void Desktop::UpdateForms() {

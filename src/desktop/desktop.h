@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "desktop/scale.h"
 #include "shell/program.h"
 
 namespace vicetoll {
@@ -65,6 +66,15 @@ class Desktop : public FormListener {
   // All windows ever shown, in the order they were made.
   const std::vector<std::unique_ptr<FormWindow>>& Windows() const { return windows_; }
 
+  // What decides how large the windows are, and the user's step to larger or smaller ones (0: back to 100
+  // percent), for those that are open and those to come.
+  const Scaling& GetScaling() const { return scaling_; }
+  Scaling& GetScaling() { return scaling_; }
+  void ZoomBy(int steps);
+  // The system has other colours, or another font.
+  void TakeTheme();
+  void TakeScale();
+
   // The run has failed; nothing enters the core any more. By default nothing happens.
   std::function<void(const std::exception&)> onFault;
   // The last window is gone.
@@ -80,9 +90,9 @@ class Desktop : public FormListener {
   void UpdateForms();
   void KeepBeforeWorkspace();
   void UpdateControls();
-  void TakeTheme();
 
   Program& program_;
+  Scaling scaling_;
   std::unique_ptr<SystemWatch> watch_;
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::unordered_map<const Form*, FormWindow*> windowOf_;

@@ -8,6 +8,7 @@
 #include <QTextDocument>
 
 #include "desktop/desktop.h"
+#include "desktop/scale.h"
 #include "desktop/text.h"
 #include "desktop/themes.h"
 #include "shell/info_window.h"
@@ -15,8 +16,10 @@
 namespace vicetoll {
 namespace {
 
+// Pixels of the design; 8.5 points are 11.33 of them.
 constexpr double kDocumentPoints = 8.5;
-constexpr double kNarrowestColumn = 80, kWidestColumn = 160, kColumnGap = 6;  // pixels
+constexpr double kDocumentLetters = kDocumentPoints * 96 / 72;
+constexpr double kNarrowestColumn = 80, kWidestColumn = 160, kColumnGap = 6;
 constexpr int kTableLinesRead = 40;
 constexpr int kPictureEdge = 20;  // pixels: a scroll bar may come
 
@@ -29,18 +32,25 @@ QFont DocumentFont() {
   return font;
 }
 
+// On the screen its letters come in whole pixels, like all others.
+QFont DocumentFont(const Scale& scale) {
+  QFont font = DocumentFont();
+  font.setPixelSize(std::max(static_cast<int>(kDocumentLetters * scale.Factor()), 1));
+  return font;
+}
+
 // The distance of tab stops at which each cell of the text's table stays in its own column: the widest cell
 // of its first lines, headings among them.
-double TabDistance(const QString& text, const QFontMetricsF& metrics) {
-  double widest = kNarrowestColumn;
+double TabDistance(const QString& text, const QFontMetricsF& metrics, const Scale& scale) {
+  double widest = kNarrowestColumn * scale.Factor();
   int lines = 0;
   for (const QStringView line : QStringView(text).split(u'\n')) {
     if (!line.contains(u'\t')) continue;
     for (const QStringView cell : line.split(u'\t'))
-      widest = std::max(widest, metrics.horizontalAdvance(cell.toString()) + kColumnGap);
+      widest = std::max(widest, metrics.horizontalAdvance(cell.toString()) + kColumnGap * scale.Factor());
     if (++lines == kTableLinesRead) break;
   }
-  return std::min(widest, kWidestColumn);
+  return std::min(widest, kWidestColumn * scale.Factor());
 }
 
 }  // namespace
@@ -48,7 +58,7 @@ double TabDistance(const QString& text, const QFontMetricsF& metrics) {
 QFont PrintedDocumentFont() { return DocumentFont(); }
 
 DocumentEdit::DocumentEdit(QWidget* parent) : QPlainTextEdit(parent) {
-  setFont(DocumentFont());
+  setFont(DocumentFont(ScaleOf(parent)));
   setTabChangesFocus(true);
   setContextMenuPolicy(Qt::NoContextMenu);
 }
@@ -95,7 +105,9 @@ void DocumentEdit::SetText(const std::string& text) {
   if (text == shown_) return;
   shown_ = text;
   const QString shown = ToQtLines(text);
-  setTabStopDistance(TabDistance(shown, QFontMetricsF(font())));
+  // The lines of a table are as long as they are: one scrolls to their ends.
+  setLineWrapMode(shown.contains(u'\t') ? NoWrap : WidgetWidth);
+  SetColumns(shown);
   setPlainText(shown);
 }
 
@@ -114,6 +126,15 @@ void DocumentEdit::Edit(const std::string& text) {
   cursor.setPosition(static_cast<int>(head));
   cursor.setPosition(static_cast<int>(before.size() - tail), QTextCursor::KeepAnchor);
   cursor.insertText(after.mid(head, after.size() - head - tail));
+}
+
+void DocumentEdit::TakeScale() {
+  setFont(DocumentFont(ScaleOf(this)));
+  SetColumns(toPlainText());
+}
+
+void DocumentEdit::SetColumns(const QString& text) {
+  setTabStopDistance(TabDistance(text, QFontMetricsF(font()), ScaleOf(this)));
 }
 
 std::string DocumentEdit::Text() const { return WithLineEnds(FromQt(toPlainText())); }
@@ -201,6 +222,7 @@ class EditView : public ControlView {
     for (const auto signal : {&QPlainTextEdit::selectionChanged, &QPlainTextEdit::cursorPositionChanged})
       QObject::connect(&edit_, signal, [this, &desktop] { desktop.Enter([this] { TakeSelection(); }); });
   }
+  void TakeScale() override { edit_.TakeScale(); }
 
  protected:
   void UpdateContents() override {

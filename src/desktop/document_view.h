@@ -23,6 +23,8 @@ class DocumentEdit : public QPlainTextEdit {
   void SetText(const std::string& text);
   // The same text with something replaced in it, which the user can undo.
   void Edit(const std::string& text);
+  // Takes the scale of its sheet: the font, and the columns of a table.
+  void TakeScale();
   // The control has taken what was typed. It is shown already, but for characters that the program's texts
   // cannot hold, which give way to "?".
   void KeepTyped(const std::string& text);
@@ -41,6 +43,7 @@ class DocumentEdit : public QPlainTextEdit {
  private:
   int ControlPosition(int position) const;
   int EditorPosition(int position) const;
+  void SetColumns(const QString& text);
 
   std::string shown_;
 };

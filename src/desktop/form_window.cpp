@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QScreen>
+#include <QScrollArea>
 #include <QToolTip>
 #include <QWindow>
 #include <algorithm>
@@ -32,9 +33,13 @@ namespace {
 // is dragged: sizes are taken when none has come for so long.
 constexpr int kSettleMilliseconds = 60;
 
-// What is typed on the bare window: bold, 30 points, narrow enough for the longest line.
-constexpr int kCanvasPoints = 30;
+// What is typed on the bare window: bold, 30 points (40 pixels of the design), narrow enough for the longest
+// line.
+constexpr int kCanvasPixels = 40;
 constexpr int kCanvasStretch = 72;
+
+// Pixels that a window's title takes before the window manager has said so.
+constexpr int kTitleHeight = 28;
 
 constexpr int kEveryPage = 3;  // of a button that stands on no tab
 
@@ -93,6 +98,7 @@ FormWindow::FormWindow(Form& form, Desktop& desktop) : form_(form), desktop_(des
   setObjectName(ToQt(form.Name()));
   setWindowFlags(FlagsFor(form));
   setPalette(ThemePalette(CurrentTheme()));
+  MakeSheet();
   MakeControls();
   MakeSpokenTexts();
   GiveAccessKeys();
@@ -114,13 +120,31 @@ FormWindow::FormWindow(Form& form, Desktop& desktop) : form_(form), desktop_(des
 
 FormWindow::~FormWindow() = default;
 
+void FormWindow::MakeSheet() {
+  area_ = new QScrollArea(this);
+  area_->setFrameShape(QFrame::NoFrame);
+  area_->setFocusPolicy(Qt::NoFocus);
+  area_->setAlignment(Qt::AlignCenter);
+  sheet_ = new Sheet;
+  sheet_->onPaint = [this] { PaintGround(); };
+  area_->setWidget(sheet_);
+  sheet_->setAutoFillBackground(false);
+  for (const auto& control : form_.Controls()) {
+    const ControlKind kind = control->Kind();
+    flows_ = flows_ || kind == ControlKind::Grid || kind == ControlKind::DocumentText ||
+             kind == ControlKind::Chart;
+  }
+  design_ = Twips();
+  Rescale();
+}
+
 void FormWindow::MakeControls() {
   for (const auto& control : form_.Controls()) {
     if (auto* entry = dynamic_cast<MenuEntry*>(control.get())) {
       MakeMenuEntry(*entry);
       continue;
     }
-    QWidget* ground = this;
+    QWidget* ground = sheet_;
     if (const Control* container = control->Container())
       ground = viewOf_.at(container)->Ground(control->Page());
     views_.push_back(MakeView(*control, ground, desktop_));
@@ -184,15 +208,15 @@ void FormWindow::GiveAccessKeys(QString (&taken)[4], const Picks& picks) {
 }
 
 void FormWindow::MakeSpokenTexts() {
-  foot_ = new SpokenText(this, QAccessible::StaticText);
-  canvas_ = new SpokenText(this, QAccessible::StaticText);
-  news_ = new SpokenText(this, QAccessible::Notification);
+  foot_ = new SpokenText(sheet_, QAccessible::StaticText);
+  canvas_ = new SpokenText(sheet_, QAccessible::StaticText);
+  news_ = new SpokenText(sheet_, QAccessible::Notification);
 }
 
 void FormWindow::UpdateSpokenTexts() {
   QStringList lines;
   for (const CanvasLine& line : form_.Canvas()) lines << ToQt(line.text);
-  canvas_->Show(lines.join(u'\n').trimmed(), rect());
+  canvas_->Show(lines.join(u'\n').trimmed(), sheet_->rect());
   foot_->Show(lines.isEmpty() ? FootText() : QString(), RoomOfHint());
 
   QStringList news;
@@ -218,13 +242,63 @@ QAction* FormWindow::MenuEntryOf(const Control& control) const {
   return action == menu_.end() ? nullptr : action->second;
 }
 
+// ---- Scale ----
+
+// The client area that a window can have on its screen. Its sides may hang over by the pixel or two that a
+// frame takes.
+QSize FormWindow::FreeRoom() const {
+  const int title = isVisible() ? frameGeometry().height() - height() : 0;
+  return desktop_.GetScaling().FreeArea(*this) - QSize(0, std::max(title, kTitleHeight));
+}
+
+// Takes the scale that goes with the font, the zoom and the room of now.
+void FormWindow::Rescale() {
+  const Scaling& scaling = desktop_.GetScaling();
+  filling_ = FillsScreen() && !flows_;
+  const Scale scale = filling_ ? scaling.Filling(Twips(), size(), devicePixelRatioF())
+                               : scaling.Opening(flows_ ? design_ : Twips(), FreeRoom(), devicePixelRatioF());
+  const QFont letters = scaling.FontAt(scale);
+  if (scale == GetScale() && sheet_->font() == letters) return;
+  HideBalloon();
+  told_ = QSize();
+  sheet_->SetScale(scale);
+  sheet_->setFont(letters);
+  for (const auto& view : views_) {
+    view->Update();
+    view->TakeScale();
+  }
+}
+
+void FormWindow::TakeScale() {
+  Rescale();
+  // Where the text flows the window keeps its size, and has room for more or less of it.
+  if (flows_) TellSize();
+  FitToForm();
+}
+
+// The sheet is as large as the form. So is the window, unless it is maximised or the screen has no room.
+void FormWindow::FitToForm() {
+  const QSize pixels = Pixels();
+  sheet_->resize(pixels);
+  sheet_->update();
+  if (!FillsScreen() && !isMinimized()) {
+    asked_ = pixels.boundedTo(FreeRoom().expandedTo(resizing_ ? size() : QSize()));
+    if (asked_ != size()) resize(asked_);
+  }
+  if (flows_ && pixels != size() && told_ != size()) settled_.start();
+}
+
+void FormWindow::TellSize() {
+  told_ = size();
+  TakeSize(GetScale().ToTwips(width()), GetScale().ToTwips(height()));
+}
+
 void FormWindow::UpdateForm() {
   setWindowTitle(ToQt(form_.Caption()));
-  const QSize size(ToPixels(form_.Width()), ToPixels(form_.Height()));
-  if (size != this->size()) {
-    // A maximised window keeps its size, and tells the form of it.
-    form_.GetWindowState() == WindowState::Normal ? resize(size) : settled_.start();
-  }
+  const bool comesUp = form_.Shown() && !isVisible();
+  if (comesUp || (Twips() != known_ && !resizing_)) Rescale();
+  known_ = Twips();
+  FitToForm();
   if (form_.Shown() && (!isVisible() || broughtUp_ != form_.TimesShown())) {
     broughtUp_ = form_.TimesShown();
     if (!isVisible()) ComeInPlaceOfAnother();
@@ -246,7 +320,6 @@ void FormWindow::UpdateForm() {
   }
   keys_->UpdateStops();
   UpdateSpokenTexts();
-  update();
 }
 
 Control* FormWindow::FocusedControl() const {
@@ -315,7 +388,10 @@ void FormWindow::ComeBeside(const FormWindow& owner) {
 void FormWindow::ComeInPlaceOfAnother() {
   if (!form_.SharesPlace()) return;
   for (const auto& other : desktop_.Windows())
-    if (other->isVisible() && other->form_.SharesPlace()) move(other->pos());
+    if (other->isVisible() && other->form_.SharesPlace()) {
+      move(other->pos());
+      if (other->FillsScreen()) setWindowState(other->windowState());
+    }
 }
 
 void FormWindow::UpdateControl(Control& control) {
@@ -354,14 +430,25 @@ void FormWindow::UpdateDescription(const ControlView& view) {
 
 void FormWindow::TakeSettledSize() {
   TakeState();
+  if (isMinimized()) return;
   // A size of whole pixels stands for all twips that round to it.
-  const QSize known(ToPixels(form_.Width()), ToPixels(form_.Height()));
-  if (size() != known) TakeSize(ToTwips(width()), ToTwips(height()));
+  const bool usersDoing = flows_ ? size() != Pixels() && size() != told_ : !FillsScreen() && size() != asked_;
+  const bool tooHigh = newOnScreen_ && asked_.height() > FreeRoom().height();
+  newOnScreen_ = false;
+  if (filling_ || tooHigh || (FillsScreen() && !flows_)) {
+    Rescale();
+    FitToForm();
+  } else if (usersDoing) {
+    TellSize();
+    FitToForm();
+  }
 }
 
 void FormWindow::TakeSize(int width, int height) {
   settled_.stop();
+  resizing_ = true;
   desktop_.Enter([&] { form_.UserResizes(width, height); });
+  resizing_ = false;
 }
 
 void FormWindow::TakeState() {
@@ -371,10 +458,17 @@ void FormWindow::TakeState() {
   if (state != form_.GetWindowState()) desktop_.Enter([&] { form_.SetWindowState(state); });
 }
 
+void FormWindow::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (!newOnScreen_) return;
+  connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::TakeScale);
+  settled_.start();
+}
+
 void FormWindow::resizeEvent(QResizeEvent*) {
   HideBalloon();
-  const QSize known(ToPixels(form_.Width()), ToPixels(form_.Height()));
-  if (isVisible() && (size() != known || isMaximized())) settled_.start();
+  area_->resize(size());
+  if (isVisible() && (size() != asked_ || FillsScreen())) settled_.start();
 }
 
 void FormWindow::changeEvent(QEvent* event) {
@@ -417,6 +511,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
   Control& control = *found->second;
   switch (event->type()) {
     case QEvent::FocusIn: {
+      if (!FillsWindow(control)) area_->ensureWidgetVisible(static_cast<QWidget*>(watched), 0, 0);
       // The focus comes back by itself with the window, and from a list's own popup: that is no arrival.
       const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
       if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
@@ -461,7 +556,10 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 bool FormWindow::ShowHover(QWidget* widget, const Control& control, QPoint pointer) {
   if (balloon_ != nullptr && balloon_->Owner() == widget) return true;
   HideBalloon();
-  const std::string text = HoverText(form_, control);
+  std::string text = HoverText(form_, control);
+  // A number that is cut is told in full.
+  if (const auto* box = dynamic_cast<const ResultBox*>(widget); box != nullptr && box->IsCut())
+    text = FromQt(box->text()) + (text.empty() ? "" : "\r\n") + text;
   if (text.empty()) return control.ToolTip().empty();
   ShowBalloon(control, text, widget, mapFromGlobal(pointer));
   return true;
@@ -511,11 +609,13 @@ void FormWindow::HideBalloon() {
 
 // At the foot, two lines high, up to the first control that stands there.
 QRect FormWindow::RoomOfHint() const {
-  QRect room(8, height() - 36, width() - 16, 34);
+  const Scale& scale = GetScale();
+  const int margin = scale.Of(8);
+  QRect room(margin, sheet_->height() - scale.Of(36), sheet_->width() - 2 * margin, scale.Of(34));
   for (const auto& view : views_)
     if (const QWidget* widget = view->Widget();
-        widget->parentWidget() == this && !widget->isHidden() && widget->geometry().intersects(room))
-      room.setRight(std::max(room.left(), widget->x() - 8));
+        widget->parentWidget() == sheet_ && !widget->isHidden() && widget->geometry().intersects(room))
+      room.setRight(std::max(room.left(), widget->x() - margin));
   return room;
 }
 
@@ -525,21 +625,19 @@ QString FormWindow::FootText() const {
   return status.isEmpty() || hint.isEmpty() ? status + hint : status + QStringLiteral("  |  ") + hint;
 }
 
-void FormWindow::paintEvent(QPaintEvent*) {
+void FormWindow::PaintGround() {
+  QPainter painter(sheet_);
   const QString foot = FootText();
   if (!foot.isEmpty() && form_.Canvas().empty()) {
-    QPainter painter(this);
     painter.setPen(Colour(Tone::Hint));
-    DrawFitted(painter, RoomOfHint(), Qt::AlignLeft | Qt::AlignVCenter, foot, font());
+    DrawFitted(painter, RoomOfHint(), Qt::AlignLeft | Qt::AlignVCenter, foot, sheet_->font());
   }
-  PaintCanvas();
+  if (!form_.Canvas().empty()) PaintCanvas(painter);
 }
 
-void FormWindow::PaintCanvas() {
-  if (form_.Canvas().empty()) return;
-  QPainter painter(this);
-  QFont letters = font();
-  letters.setPointSize(kCanvasPoints);
+void FormWindow::PaintCanvas(QPainter& painter) {
+  QFont letters = sheet_->font();
+  letters.setPixelSize(GetScale().Of(kCanvasPixels));
   letters.setBold(true);
   letters.setStretch(kCanvasStretch);
   painter.setFont(letters);
@@ -547,7 +645,7 @@ void FormWindow::PaintCanvas() {
   const int step = painter.fontMetrics().height();
   int baseline = painter.fontMetrics().ascent();
   for (const CanvasLine& line : form_.Canvas()) {
-    painter.drawText(ToPixels(line.left), baseline, ToQt(line.text));
+    painter.drawText(GetScale().ToPixels(line.left), baseline, ToQt(line.text));
     baseline += step;
   }
 }

@@ -12,8 +12,11 @@
 
 #include "controls/form.h"
 #include "desktop/control_view.h"
+#include "desktop/scale.h"
 
 class QAction;
+class QPainter;
+class QScrollArea;
 
 namespace vicetoll {
 
@@ -35,6 +38,8 @@ class FormWindow : public QWidget {
   void BelongTo(FormWindow& owner);
   // Takes the colours of the theme in force.
   void TakeTheme();
+  // Takes the scale that the font, the zoom and the screen of now ask for.
+  void TakeScale();
 
   // The widget or menu entry of a control of this window.
   QWidget* WidgetOf(const Control& control) const;
@@ -52,6 +57,10 @@ class FormWindow : public QWidget {
   void KeepFocus(Control* before);
 
   Form& Model() const { return form_; }
+  // What the window shows, as large as the form in the scale in force; the window scrolls it where the screen
+  // is too small.
+  Sheet& GetSheet() const { return *sheet_; }
+  const Scale& GetScale() const { return sheet_->GetScale(); }
   const BalloonWidget* ShownBalloon() const { return balloon_; }
 
  protected:
@@ -60,7 +69,7 @@ class FormWindow : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void MakeControls();
@@ -70,6 +79,14 @@ class FormWindow : public QWidget {
   void ComeInPlaceOfAnother();
   void UpdateName(const ControlView& view);
   void UpdateDescription(const ControlView& view);
+  void MakeSheet();
+  QSize Twips() const { return {form_.Width(), form_.Height()}; }
+  QSize Pixels() const { return GetScale().ToPixels(0, 0, form_.Width(), form_.Height()).size(); }
+  bool FillsScreen() const { return isMaximized() || isFullScreen(); }
+  QSize FreeRoom() const;
+  void Rescale();
+  void FitToForm();
+  void TellSize();
   void TakeSettledSize();
   void TakeState();
   void GiveAccessKeys();
@@ -86,10 +103,21 @@ class FormWindow : public QWidget {
   QPoint CurrentPlace(const QPoint& otherwise) const;
   QRect RoomOfHint() const;
   QString FootText() const;
-  void PaintCanvas();
+  void PaintGround();
+  void PaintCanvas(QPainter& painter);
 
   Form& form_;
   Desktop& desktop_;
+  QScrollArea* area_;
+  Sheet* sheet_;
+  bool flows_ = false;       // what the window shows makes use of all room that it gets
+  QSize design_;             // of what flows, in twips: the scale is reckoned for it
+  QSize known_;              // twips of the form when it was last shown
+  QSize asked_;              // the window's size as the form has it; another one is the user's doing
+  QSize told_;               // the window's size that the form was last told of
+  bool resizing_ = false;    // the form is being told of a size
+  bool filling_ = false;     // the scale is that of a maximised window
+  bool newOnScreen_ = true;  // what the window manager adds to the window is not known yet
   std::vector<std::unique_ptr<ControlView>> views_;
   std::unordered_map<const Control*, ControlView*> viewOf_;
   std::unordered_map<const QObject*, Control*> controlOf_;

@@ -7,13 +7,14 @@
 
 #include "desktop/desktop.h"
 #include "desktop/grid_model.h"
-#include "desktop/look.h"
+#include "desktop/scale.h"
 #include "desktop/text.h"
 
 namespace vicetoll {
 namespace {
 
 constexpr int kCellPadding = 6;   // pixels on each side of a cell's text
+constexpr int kRowPadding = 5;    // pixels of a row beyond the height of its text
 constexpr int kEmptyColumn = 40;  // pixels of a column without heading
 
 }  // namespace
@@ -30,15 +31,24 @@ GridWidget::GridWidget(QWidget* parent, Grid& grid)
   verticalHeader()->hide();
   // Heights that follow from contents would be reckoned row by row.
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 5);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
   horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
   horizontalHeader()->setHighlightSections(false);
   setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
 }
 
+void GridWidget::TakeScale() {
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
+  FitColumns();
+  horizontalHeader()->setFixedHeight(HeadingPixels());
+}
+
+void GridWidget::FitColumns() {
+  for (int c = 0; c < grid_.ColumnCount(); ++c) horizontalHeader()->resizeSection(c, ColumnPixels(c));
+}
+
 void GridWidget::Show() {
-  if (model_->Follow())
-    for (int c = 0; c < grid_.ColumnCount(); ++c) horizontalHeader()->resizeSection(c, ColumnPixels(c));
+  if (model_->Follow()) FitColumns();
   horizontalHeader()->setFixedHeight(HeadingPixels());
   horizontalHeader()->setVisible(grid_.HasHeading());
   ShowSelection();
@@ -52,7 +62,7 @@ int GridWidget::ColumnPixels(int column) const {
   for (const QString& word : own ? QStringList(heading) : heading.split(u' '))
     widest = std::max(widest, fontMetrics().horizontalAdvance(word));
   const int needed = widest == 0 ? kEmptyColumn : widest + 2 * kCellPadding;
-  return own ? needed : std::max(needed, ToPixels(grid_.ColumnWidth(column)));
+  return own ? needed : std::max(needed, ScaleOf(this).ToPixels(grid_.ColumnWidth(column)));
 }
 
 int GridWidget::HeadingPixels() const {
@@ -63,7 +73,7 @@ int GridWidget::HeadingPixels() const {
     needed = std::max(needed, fontMetrics().boundingRect(room, Qt::TextWordWrap, heading).height() + 8);
   }
   if (grid_.HeadingHeight() == Grid::kOwnSize) return needed;
-  return std::max(needed, ToPixels(grid_.HeadingHeight()));
+  return std::max(needed, ScaleOf(this).ToPixels(grid_.HeadingHeight()));
 }
 
 void GridWidget::mousePressEvent(QMouseEvent* event) {
@@ -121,6 +131,8 @@ class GridView : public ControlView {
         widget_.selectionModel(), &QItemSelectionModel::selectionChanged, &widget_,
         [this, &desktop] { desktop.Enter([this] { TakeSelection(); }); }, Qt::QueuedConnection);
   }
+
+  void TakeScale() override { widget_.TakeScale(); }
 
  protected:
   void UpdateContents() override { widget_.Show(); }

@@ -23,6 +23,8 @@ class GridWidget : public QTableView {
 
   // Brings the table in step with the grid.
   void Show();
+  // Takes the scale of its sheet: the heights of rows, the widths of columns.
+  void TakeScale();
   GridModel& Cells() const { return *model_; }
   // The selection by the grid's numbers. The cell that moves with the pointer is the second.
   CellRange SelectedCells() const;
@@ -37,6 +39,7 @@ class GridWidget : public QTableView {
   void mousePressEvent(QMouseEvent* event) override;
 
  private:
+  void FitColumns();
   void ShowSelection();
 
   Grid& grid_;

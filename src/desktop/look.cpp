@@ -13,7 +13,7 @@
 namespace vicetoll {
 namespace {
 
-constexpr double kSmallestPoints = 6;
+constexpr int kSmallestPart = 66;  // percent of its size to which a text shrinks to fit
 
 class DesktopStyle : public QProxyStyle {
  public:
@@ -30,7 +30,7 @@ class DesktopStyle : public QProxyStyle {
 bool Fits(const QString& text, QSize room, const QFont& font) {
   const QFontMetrics metrics(font);
   // What is drawn may be a fraction wider than what was measured.
-  room.rwidth() -= 3;
+  room.rwidth() -= 1;
   if (metrics.height() > room.height()) return false;
   if (!text.contains(u'\n') && metrics.horizontalAdvance(text) <= room.width()) return true;
   const QRect taken =
@@ -47,11 +47,17 @@ void ApplyLook(QApplication& application) {
 
 QFont FittedFont(const QString& text, const QSize& room, const QFont& font) {
   QFont fitted = font;
-  double points = font.pointSizeF();
-  while (points > kSmallestPoints && !Fits(text, room, fitted)) {
-    points -= 0.5;
-    fitted.setPointSizeF(points);
-  }
+  const int smallest = font.pixelSize() * kSmallestPart / 100;
+  for (int pixels = font.pixelSize(); pixels > smallest && !Fits(text, room, fitted);)
+    fitted.setPixelSize(--pixels);
+  return fitted;
+}
+
+QFont FittedLine(const QString& text, int width, const QFont& font, int smallest) {
+  QFont fitted = font;
+  for (int pixels = font.pixelSize();
+       pixels > smallest && QFontMetricsF(fitted).horizontalAdvance(text) > width;)
+    fitted.setPixelSize(--pixels);
   return fitted;
 }
 

@@ -14,23 +14,21 @@ class QWidget;
 
 namespace vicetoll {
 
-// 15 twips are a pixel at 96 dots to the inch.
-inline constexpr int kTwipsPerPixel = 15;
-constexpr int ToPixels(int twips) { return (twips + (twips < 0 ? -7 : 7)) / kTwipsPerPixel; }
-constexpr int ToTwips(int pixels) { return pixels * kTwipsPerPixel; }
-
 // The style of the whole program: the same look on any desktop, in the colours of the system.
 void ApplyLook(QApplication& application);
 
 // What is disabled is drawn in its colours with this alpha.
 inline constexpr int kFaint = 110;
 
-// The font in which the text, wrapped at words, fits the room: the given one, or a smaller one where a
-// large system font would be cut off.
+// The font in which the text, wrapped at words, fits the room: the given one, whose size is in pixels, or a
+// smaller one where it would be cut off.
 QFont FittedFont(const QString& text, const QSize& room, const QFont& font);
 
 // Draws the text wrapped and fitted. `text` may mark its access key by "&".
 void DrawFitted(QPainter& painter, const QRect& room, int alignment, const QString& text, const QFont& font);
+
+// The same for a text in one line, down to `smallest` pixels.
+QFont FittedLine(const QString& text, int width, const QFont& font, int smallest);
 
 // The ring around the control that has the focus.
 void DrawFocusRing(QPainter& painter, const QRect& room);

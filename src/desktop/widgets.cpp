@@ -8,25 +8,48 @@
 #include <QPainter>
 #include <QShortcutEvent>
 #include <QStyleOptionButton>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
+#include <QtMath>
 
 #include "controls/typed_search.h"
 #include "desktop/look.h"
+#include "desktop/scale.h"
 #include "desktop/text.h"
 #include "desktop/themes.h"
 
 namespace vicetoll {
 namespace {
 
-constexpr int kArrowRoom = 20;      // pixels at the right end of a list
-constexpr int kBoxMargin = 3;       // pixels between a box's line and its text
-constexpr int kIndicatorRoom = 20;  // pixels in front of the caption of a choice
-constexpr int kPopupRows = 18;
-constexpr int kTypingPause = 1500;  // milliseconds after which typing in a list begins anew
+// Pixels of the design.
+constexpr int kArrowRoom = 20;      // at the right end of a list
+constexpr int kListMargin = 7;      // between a list's left end and its text
+constexpr int kButtonMargin = 5;    // between a button's sides and its caption
+constexpr int kBoxMargin = 1;       // between a box's line and its text
+constexpr int kIndicatorRoom = 20;  // in front of the caption of a choice
 constexpr int kCorner = 3;          // the radius of corners
-constexpr int kIndicator = 14;      // pixels across the mark of a choice
+constexpr int kIndicator = 14;      // across the mark of a choice
 constexpr int kTabHeight = 46, kTabTop = 8, kTabLeft = 8;
 constexpr int kTabWidth = 96, kTabPadding = 9;
+
+constexpr int kPopupRows = 18;
+constexpr int kTypingPause = 1500;  // milliseconds after which typing in a list begins anew
+constexpr double kRowHeight = 1.6;  // of an entry in a popup, in heights of its text
+
+// Pixels of a figure in a box below which it is cut rather than made smaller, and what stands for the rest.
+constexpr int kSmallestFigure = 7;
+constexpr int kLineEditMargin = 2;  // that Qt keeps free at both ends
+constexpr int kCaretWidth = 1;
+
+// Rows that a finger or an unsteady hand can hit.
+class RowDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QSize size = QStyledItemDelegate::sizeHint(option, index);
+    return {size.width(), std::max(size.height(), qCeil(option.fontMetrics.height() * kRowHeight))};
+  }
+};
 
 }  // namespace
 
@@ -106,6 +129,8 @@ QString BlueList::ShownText() const { return isEditable() ? lineEdit()->text() :
 
 void BlueList::showPopup() {
   // The popup is made at its first use; making it earlier would cost every list of a window.
+  if (dynamic_cast<RowDelegate*>(view()->itemDelegate()) == nullptr)
+    view()->setItemDelegate(new RowDelegate(view()));
   view()->setPalette(palette());
   view()->setFont(font());
   view()->setAccessibleName(accessibleName());
@@ -115,14 +140,16 @@ void BlueList::showPopup() {
 
 void BlueList::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  const Scale scale = ScaleOf(this);
+  const int arrowRoom = scale.Of(kArrowRoom);
   const QColor ground = palette().color(QPalette::Base);
   DrawBox(painter, rect(), ground, isEnabled() ? Colour(Tone::ListLine) : ground, kCorner);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(palette().color(QPalette::Text));
   if (!isEditable())
-    DrawFitted(painter, rect().adjusted(7, 1, -kArrowRoom, -1), Qt::AlignLeft | Qt::AlignVCenter,
-               AsItStands(text_), font());
-  PaintArrow(painter, QRect(width() - kArrowRoom, 0, kArrowRoom, height()));
+    DrawFitted(painter, rect().adjusted(scale.Of(kListMargin), 1, -arrowRoom, -1),
+               Qt::AlignLeft | Qt::AlignVCenter, AsItStands(text_), font());
+  PaintArrow(painter, QRect(width() - arrowRoom, 0, arrowRoom, height()));
   if (hasFocus()) {
     DrawFocusRing(painter, rect());
     painter.setPen(Colour(Tone::FocusGap));
@@ -133,7 +160,8 @@ void BlueList::paintEvent(QPaintEvent*) {
 
 void BlueList::PaintArrow(QPainter& painter, const QRect& room) const {
   const QPointF c = QRectF(room).center();
-  const QPolygonF arrow({c + QPointF(-4, -2), c + QPointF(4, -2), c + QPointF(0, 3)});
+  const double part = room.width() / static_cast<double>(kArrowRoom);
+  const QPolygonF arrow({c + part * QPointF(-4, -2), c + part * QPointF(4, -2), c + part * QPointF(0, 3)});
   painter.setBrush(palette().color(QPalette::Text));
   painter.setPen(Qt::NoPen);
   painter.drawPolygon(arrow);
@@ -197,10 +225,47 @@ ResultBox::ResultBox(QWidget* parent) : QLineEdit(parent) {
   setFocusPolicy(Qt::StrongFocus);
 }
 
+void ResultBox::SetText(const QString& text) {
+  setText(text);
+  setCursorPosition(0);  // what is cut is cut at the end
+  Fit();
+}
+
+void ResultBox::Fit() {
+  if (fitting_) return;
+  fitting_ = true;
+  setFont(QFont());  // the sheet's, as all have it
+  const int room = width() - 2 * (kBoxMargin + kLineEditMargin) - kCaretWidth;
+  const int smallest = std::min(kSmallestFigure, font().pixelSize());
+  const QFont fitted = FittedLine(text(), room, font(), smallest);
+  if (fitted.pixelSize() != font().pixelSize()) setFont(fitted);
+  cut_ = QFontMetricsF(fitted).horizontalAdvance(text()) > room;
+  fitting_ = false;
+  update();
+}
+
+void ResultBox::resizeEvent(QResizeEvent* event) {
+  QLineEdit::resizeEvent(event);
+  Fit();
+}
+
+void ResultBox::changeEvent(QEvent* event) {
+  QLineEdit::changeEvent(event);
+  if (event->type() == QEvent::FontChange) Fit();
+}
+
 void ResultBox::paintEvent(QPaintEvent* event) {
-  QLineEdit::paintEvent(event);
+  const bool marked = cut_ && !hasFocus();
+  if (!marked) QLineEdit::paintEvent(event);
   QPainter painter(this);
-  DrawBox(painter, rect(), Qt::transparent, Colour(Tone::FrameLine), kCorner);
+  DrawBox(painter, rect(), marked ? palette().color(QPalette::Base) : QColor(Qt::transparent),
+          Colour(Tone::FrameLine), kCorner);
+  if (marked) {
+    const QRect room = rect().adjusted(kLineEditMargin, 0, -kLineEditMargin, 0);
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+  }
   if (hasFocus()) DrawFocusRing(painter, rect());
 }
 
@@ -232,7 +297,8 @@ void CaptionButton::paintEvent(QPaintEvent*) {
   if (!isEnabled()) line.setAlpha(kFaint);
   DrawBox(painter, rect(), Colour(ground), line, kCorner);
   painter.setPen(palette().color(QPalette::ButtonText));
-  DrawFitted(painter, rect().adjusted(5, 2, -5, -2), Qt::AlignCenter, text(), font());
+  const int across = ScaleOf(this).Of(kButtonMargin), down = across / 2;
+  DrawFitted(painter, rect().adjusted(across, down, -across, -down), Qt::AlignCenter, text(), font());
   if (hasFocus()) DrawFocusRing(painter, rect());
 }
 
@@ -256,8 +322,9 @@ void CaptionChoice<Base>::paintEvent(QPaintEvent*) {
   QStyleOptionButton option;
   this->initStyleOption(&option);
   constexpr bool isRadio = std::is_same_v<Base, QRadioButton>;
-  DrawIndicator(painter, QRect(2, (this->height() - kIndicator) / 2, kIndicator, kIndicator), isRadio,
-                option);
+  const Scale scale = ScaleOf(this);
+  const int mark = scale.Of(kIndicator);
+  DrawIndicator(painter, QRect(2, (this->height() - mark) / 2, mark, mark), isRadio, option);
   QColor ink = this->palette().color(QPalette::WindowText);
   if (colour_ != -1) {
     ink = Readable(QColor(colour_ & 0xFF, colour_ >> 8 & 0xFF, colour_ >> 16 & 0xFF),
@@ -265,8 +332,8 @@ void CaptionChoice<Base>::paintEvent(QPaintEvent*) {
     if (!this->isEnabled()) ink.setAlpha(kFaint);
   }
   painter.setPen(ink);
-  DrawFitted(painter, this->rect().adjusted(kIndicatorRoom, 0, -2, 0), Qt::AlignLeft | Qt::AlignVCenter,
-             this->text(), this->font());
+  DrawFitted(painter, this->rect().adjusted(scale.Of(kIndicatorRoom), 0, -2, 0),
+             Qt::AlignLeft | Qt::AlignVCenter, this->text(), this->font());
   if (this->hasFocus()) DrawFocusRing(painter, this->rect());
 }
 
@@ -289,6 +356,7 @@ void CaptionLabel::paintEvent(QPaintEvent*) {
 void CaptionFrame::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   DrawBox(painter, rect(), Colour(Tone::FrameGround), Colour(Tone::FrameLine), kCorner);
+  const Scale scale = ScaleOf(this);
   int contents = height();
   for (const QObject* child : children())
     if (const auto* widget = qobject_cast<const QWidget*>(child)) contents = std::min(contents, widget->y());
@@ -297,7 +365,8 @@ void CaptionFrame::paintEvent(QPaintEvent*) {
   QColor ink = Colour(Tone::Ink);
   if (!isEnabled()) ink.setAlpha(kFaint);
   painter.setPen(ink);
-  DrawFitted(painter, QRect(8, 3, width() - 12, contents - 3), Qt::AlignLeft | Qt::AlignTop, title(), bold);
+  DrawFitted(painter, QRect(scale.Of(8), scale.Of(3), width() - scale.Of(12), contents - scale.Of(3)),
+             Qt::AlignLeft | Qt::AlignTop, title(), bold);
 }
 
 void PanelWidget::mousePressEvent(QMouseEvent* event) {
@@ -320,8 +389,9 @@ class TallTabBar : public QTabBar {
 
  protected:
   QSize tabSizeHint(int index) const override {
+    const Scale scale = ScaleOf(this);
     const int text = fontMetrics().horizontalAdvance(WithoutAccessKey(tabText(index)));
-    return {std::max(text + 2 * kTabPadding, kTabWidth), kTabHeight};
+    return {std::max(text + 2 * scale.Of(kTabPadding), scale.Of(kTabWidth)), scale.Of(kTabHeight)};
   }
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
@@ -349,7 +419,7 @@ class TallTabBar : public QTabBar {
 
 TabPages::TabPages(const std::vector<std::string>& captions, QWidget* parent)
     : QWidget(parent), bar_(new TallTabBar(this)) {
-  QFont bold = bar_->font();
+  QFont bold;  // all but its weight is the sheet's
   bold.setBold(true);
   bar_->setFont(bold);
   bar_->setDrawBase(false);
@@ -361,7 +431,6 @@ TabPages::TabPages(const std::vector<std::string>& captions, QWidget* parent)
     bar_->addTab(ToQt(caption));
     pages_.push_back(new QWidget(this));
   }
-  bar_->move(kTabLeft, kTabTop);
   bar_->raise();
   SetTab(0);
 }
@@ -371,15 +440,21 @@ void TabPages::SetTab(int tab) {
   for (std::size_t i = 0; i < pages_.size(); ++i) pages_[i]->setVisible(static_cast<int>(i) == tab);
 }
 
+void TabPages::TakeScale() {
+  bar_->setTabText(0, bar_->tabText(0));  // reckons the sizes of the tabs anew
+  const Scale scale = ScaleOf(this);
+  bar_->setGeometry({{scale.Of(kTabLeft), scale.Of(kTabTop)}, bar_->sizeHint()});
+}
+
 void TabPages::resizeEvent(QResizeEvent*) {
-  bar_->resize(bar_->sizeHint());
+  TakeScale();
   for (QWidget* page : pages_) page->setGeometry(rect());
 }
 
 void TabPages::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  DrawBox(painter, rect().adjusted(2, kTabTop + kTabHeight - 2, -2, 0), Colour(Tone::PanelGround),
-          Colour(Tone::FrameLine), kCorner);
+  DrawBox(painter, rect().adjusted(2, ScaleOf(this).Of(kTabTop + kTabHeight) - 2, -2, 0),
+          Colour(Tone::PanelGround), Colour(Tone::FrameLine), kCorner);
 }
 
 }  // namespace vicetoll

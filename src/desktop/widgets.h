@@ -53,12 +53,25 @@ class BlueList : public QComboBox {
 };
 
 // A box that shows a result: right-aligned, to be read, selected and copied, not to be typed into.
+// A number is never shown in part: its letters shrink, and if that is not enough its end gives way to a mark.
 class ResultBox : public QLineEdit {
  public:
   explicit ResultBox(QWidget* parent);
 
+  void SetText(const QString& text);
+  // Gives the letters the size at which the number fits.
+  void Fit();
+  // Whether the text is cut, and marked so.
+  bool IsCut() const { return cut_; }
+
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  bool cut_ = false;
+  bool fitting_ = false;
 };
 
 class CaptionButton : public QPushButton {
@@ -144,6 +157,8 @@ class TabPages : public QWidget {
   QTabBar* Bar() const { return bar_; }
   QWidget* Page(int page) const { return pages_.at(page); }
   void SetTab(int tab);
+  // Sizes the bar to the scale of its sheet.
+  void TakeScale();
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -361,7 +361,7 @@ constexpr Row kSummaryRows[] = {
         .OnlyOn(Side::Future).Fades(11),
     Row(Label,  kSummaryOutOfPocket,                kSummary,           { 2310,  255,  2175,  315}, "Out of Pocket Expense").Aligned(kRight).Fades(16),
     Row(Label,  kSummaryCumulative,                 kSummary,           { 4605,  255,  1725,  315}, "Cumulative Cost").Aligned(kRight).Fades(17),
-    Row(Label,  "lblResultsPeriod{Fut}",            kSummary,           {  180,  570,  2520,  375}, "Period {n}: {Future} {title}")
+    Row(Label,  "lblResultsPeriod{Fut}",            kSummary,           {  180,  570,  2565,  375}, "Period {n}: {Future} {title}")
         .Array(5, 4, 0, 405),
     Row(Text,   "txtResultsPeriod{Fut}",            kSummary,           { 2760,  570,  1725,  375})
         .Array(5, 4, 0, 405).Is<&C::txtResultsPeriod>().Disabled().Hidden()
@@ -375,7 +375,7 @@ constexpr Row kSummaryRows[] = {
         .Array({1, 5}, 4, 0, 405).Is<&W::lblTo>().Aligned(kCentre).Fades(23),
     Row(Label,  "lblLastDate{Fut}",                 kSummary,           { 8040,  570,  1050,  375}, {"Jan - 2007", "Jan - 2020"})
         .Array(1, 4, 0, 405).Is<&C::lblLastDate>().Fades(24),
-    Row(Label,  "lblResultsTotalSummary{Fut}",      kSummary,           {  180, 2205,  2520,  375}, "Total: {Future} {title}").Fades(13),
+    Row(Label,  "lblResultsTotalSummary{Fut}",      kSummary,           {  180, 2205,  2565,  375}, "Total: {Future} {title}").Fades(13),
     Row(Text,   "txtResultsTotalSummary{Fut}",      kSummary,           { 2760, 2205,  1725,  375})
         .Is<&C::txtResultsTotalSummary>().NamedBy("lblResultsTotalSummary{Fut}", kSummaryOutOfPocket)
         .Balloon(14, kTotalHelp).Fades(15),
@@ -388,10 +388,10 @@ constexpr Row kSummaryRows[] = {
 
 constexpr Row kTotalRows[] = {
     Row(Frame,  "frmSummarytot",                    kPanel,             {  120, 5580,  5670, 2370}, &SinRow::totalFrame).Fades(302, 320),
-    Row(Label,  "lblResultsTotalSummaryTot",        "frmSummarytot",    {  180,  330,  3105,  405}, "TOTAL {title} (Out of Pocket)").Fades(303),
+    Row(Label,  "lblResultsTotalSummaryTot",        "frmSummarytot",    {  180,  330,  3180,  405}, "TOTAL {title} (Out of Pocket)").Fades(303),
     Row(Text,   "txtResultsTotalSummaryTot",        "frmSummarytot",    { 3375,  330,  2175,  405})
         .Is<&W::txtResultsTotalSummaryTot>().NamedBy("lblResultsTotalSummaryTot").Balloon(24, kTotOutOfPocketHelp).Fades(305),
-    Row(Label,  "lblCumulativeResultsTotalSummaryTot", "frmSummarytot", {  180,  780,  3105,  405}, "TOTAL {title} (Cumulative)").Fades(304),
+    Row(Label,  "lblCumulativeResultsTotalSummaryTot", "frmSummarytot", {  180,  780,  3180,  405}, "TOTAL {title} (Cumulative)").Fades(304),
     Row(Text,   "txtCumulativeResultsTotalSummaryTot", "frmSummarytot", { 3375,  780,  2175,  405})
         .Is<&W::txtCumulativeResultsTotalSummaryTot>().NamedBy("lblCumulativeResultsTotalSummaryTot").Balloon(24, kTotCumulativeHelp).Fades(306),
     Row(Label,  "lblSummaryButtonsTot",             "frmSummarytot",    {  180, 1230,  5370,  330}, {"Detailed Results on (Past + Future) {sin}", &SinRow::summaryTotWord}).Fades(307),

@@ -1,5 +1,6 @@
-// window-pictures FOLDER [--font POINTS] [--theme light|dark|contrast]: draws every window and tab to PNG
-// files, to be looked at. POINTS is the size of the system font to try. The scale is Qt's: QT_SCALE_FACTOR=2.
+// window-pictures FOLDER [--screen WIDTHxHEIGHT] [--font POINTS] [--theme light|dark|contrast]: draws every
+// window and tab to PNG files, to be looked at, as they are on such a screen (1920x1080 if none is told) with
+// that size of the system font. Screens of more dots to a pixel are Qt's: QT_SCALE_FACTOR=2.
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCommandLineParser>
@@ -293,7 +294,8 @@ int main(int argc, char** argv) {
   QCommandLineParser parser;
   const QCommandLineOption font("font", "Size of the system font.", "POINTS");
   const QCommandLineOption theme("theme", "light, dark or contrast.", "NAME");
-  parser.addOptions({font, theme});
+  const QCommandLineOption screen("screen", "Size of the screen, in its own pixels.", "SIZE", "1920x1080");
+  parser.addOptions({font, theme, screen});
   parser.process(application);
   if (parser.positionalArguments().size() != 1) return 2;
   ApplyLook(application);
@@ -304,6 +306,10 @@ int main(int argc, char** argv) {
   PicturePlatform platform([](const std::string&) {});
   Program program(platform);
   Desktop desktop(program);
+  const QStringList size = parser.value(screen).split(u'x');
+  desktop.GetScaling().screen =
+      QSize(size.value(0).toInt(), size.value(1).toInt()) / application.devicePixelRatio();
+  desktop.TakeScale();
   Pictures(platform, program, desktop, folder).All();
   return 0;
 }

@@ -167,7 +167,7 @@ UserOutcome WidgetStage::Type(Control& control, std::string_view text) {
 UserOutcome WidgetStage::Resize(Form& form, int width, int height) {
   FormWindow& window = Window(form);
   if (!window.isVisible()) return UserOutcome::Refused;
-  window.resize(ToPixels(width), ToPixels(height));
+  window.resize(window.GetScale().ToPixels(0, 0, width, height).size());
   // The window tells when sizes have settled; the scenario's is settled, to the twip.
   window.TakeSize(width, height);
   return Done();
@@ -240,11 +240,15 @@ ChartContents WidgetStage::Plotted(Chart& chart) { return Widget<ChartWidget>(ch
 
 FormState WidgetStage::Read(Form& form) {
   const FormWindow& window = Window(form);
-  FormState state{FromQt(window.windowTitle()), window.isVisible(), ToTwips(window.width()),
-                  ToTwips(window.height())};
-  // A pixel is 15 twips: the form knows which of them.
-  if (ToPixels(form.Width()) == window.width()) state.width = form.Width();
-  if (ToPixels(form.Height()) == window.height()) state.height = form.Height();
+  // What the window shows is as large as the form, also where the screen has less room.
+  const QWidget& shown = window.GetSheet();
+  const Scale& scale = window.GetScale();
+  FormState state{FromQt(window.windowTitle()), window.isVisible(), scale.ToTwips(shown.width()),
+                  scale.ToTwips(shown.height())};
+  // A pixel is many twips: the form knows which of them.
+  const QSize size = scale.ToPixels(0, 0, form.Width(), form.Height()).size();
+  if (size.width() == shown.width()) state.width = form.Width();
+  if (size.height() == shown.height()) state.height = form.Height();
   return state;
 }
 

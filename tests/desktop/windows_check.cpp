@@ -28,6 +28,7 @@
 #include "desktop/printing.h"
 #include "desktop/qt_platform.h"
 #include "desktop/run_program.h"
+#include "desktop/scale.h"
 #include "desktop/text.h"
 #include "desktop/toolkit_messages.h"
 #include "desktop/widgets.h"
@@ -146,15 +147,20 @@ TEST_F(Windows, SnapBackFromASizeThatIsTooLarge) {
   QTRY_COMPARE_WITH_TIMEOUT(Of(Smoking()).size(), QSize(800, 750), 2000);
   Of(Smoking()).resize(900, 800);
   QTRY_COMPARE_WITH_TIMEOUT(Smoking().Height(), 12000, 2000);
-  EXPECT_EQ(Widget(Smoking(), "cmdExit").y(), ToPixels(12000 - 875 - 600));
+  EXPECT_EQ(Widget(Smoking(), "cmdExit").y(), Scale().ToPixels(12000 - 875 - 600));
 }
 
 // ---- Layout ----
 
+// By the scale in force, as the widgets have it.
 QRect RoomForText(const QWidget& widget) {
-  if (dynamic_cast<const CaptionButton*>(&widget)) return widget.rect().adjusted(5, 2, -5, -2);
-  if (qobject_cast<const QAbstractButton*>(&widget)) return widget.rect().adjusted(20, 0, -2, 0);
-  if (dynamic_cast<const BlueList*>(&widget)) return widget.rect().adjusted(7, 1, -20, -1);
+  const Scale scale = ScaleOf(&widget);
+  const int five = scale.Of(5);
+  if (dynamic_cast<const CaptionButton*>(&widget))
+    return widget.rect().adjusted(five, five / 2, -five, -five / 2);
+  if (qobject_cast<const QAbstractButton*>(&widget)) return widget.rect().adjusted(scale.Of(20), 0, -2, 0);
+  if (dynamic_cast<const BlueList*>(&widget))
+    return widget.rect().adjusted(scale.Of(7), 1, -scale.Of(20), -1);
   return widget.rect();
 }
 
@@ -166,8 +172,8 @@ QString ShownText(const QWidget& widget) {
   return {};
 }
 
-// No visible widget lies over another or leaves its container, and no text needs a font below `smallest`.
-void CheckLayout(FormWindow& window, const Form& form, double smallest) {
+// No visible widget lies over another or leaves its container, and no text is smaller than the others.
+void CheckLayout(FormWindow& window, const Form& form) {
   std::vector<const QWidget*> seen;
   for (const auto& control : form.Controls()) {
     const QWidget* widget = window.WidgetOf(*control);
@@ -185,17 +191,28 @@ void CheckLayout(FormWindow& window, const Form& form, double smallest) {
     seen.push_back(widget);
     const QString text = ShownText(*widget);
     const QFont font = FittedFont(text, RoomForText(*widget).size(), widget->font());
-    EXPECT_GE(font.pointSizeF(), smallest) << name << ": " << text.toStdString();
+    EXPECT_EQ(font.pixelSize(), widget->font().pixelSize()) << name << ": " << text.toStdString();
   }
 }
 
-class Layout : public Windows, public testing::WithParamInterface<int> {
+// A system's font, a screen, and the user's steps of zoom.
+struct Surroundings {
+  int points;
+  QSize screen;
+  int zoom;
+};
+
+class Layout : public Windows, public testing::WithParamInterface<Surroundings> {
  protected:
   Layout() {
+    const Surroundings& now = GetParam();
     QFont font = QApplication::font();
     usual_ = font.pointSize();
-    font.setPointSize(GetParam());
+    font.setPointSize(now.points);
     QApplication::setFont(font);
+    desktop.GetScaling().screen = now.screen;
+    desktop.TakeScale();
+    desktop.ZoomBy(now.zoom);
   }
   ~Layout() override {
     QFont font = QApplication::font();
@@ -203,18 +220,28 @@ class Layout : public Windows, public testing::WithParamInterface<int> {
     QApplication::setFont(font);
   }
 
+  void Check(Form& form) {
+    CheckLayout(Of(form), form);
+    const QSize room = GetParam().screen;
+    EXPECT_LE(Of(form).width(), room.width()) << form.Name();
+    EXPECT_LT(Of(form).height(), room.height()) << form.Name();
+    if (GetParam().zoom == 0) {
+      // All of it is in view, in letters of nine pixels and more.
+      EXPECT_EQ(Of(form).size(), Of(form).GetSheet().size()) << form.Name();
+      EXPECT_GE(Of(form).GetSheet().font().pixelSize(), 9) << form.Name();
+    }
+  }
+
  private:
   int usual_;
 };
 
 TEST_P(Layout, CutsNothingOffAndOverlapsNothing) {
-  // The usual font stays as it is, but for a caption or two; a large one shrinks where it must.
-  const double smallest = GetParam() == 9 ? 8.5 : 8;
   for (int sin = 0; sin < kSinCount; ++sin) {
     SinWorkspace& ws = Visit(sin);
     for (const int tab : {kPastTab, kFutureTab, kTotalTab}) {
       Open(ws, tab);
-      CheckLayout(Of(ws), ws, smallest);
+      Check(ws);
     }
     for (Side side : kSides) {
       Open(ws, side == Side::Past ? kPastTab : kFutureTab);
@@ -222,18 +249,32 @@ TEST_P(Layout, CutsNothingOffAndOverlapsNothing) {
       if (ws.Of(side).OptCigInitialFinalCostIncrease != nullptr)
         desktop.Enter([&] { ws.Of(side).OptCigInitialFinalCostIncrease->UserClicks(); });
       desktop.Enter([&] { ws.Of(side).secondUnit->UserClicks(); });
-      CheckLayout(Of(ws), ws, smallest);
+      Check(ws);
     }
     Open(ws, kTotalTab);
-    CheckLayout(Of(ws), ws, smallest);
+    Check(ws);
   }
   desktop.Enter([&] { program.Combined().Show(); });
-  CheckLayout(Of(program.Combined()), program.Combined(), smallest);
+  Check(program.Combined());
   desktop.Enter([&] { program.Chooser().Show(); });
-  CheckLayout(Of(program.Chooser()), program.Chooser(), smallest);
+  Check(program.Chooser());
 }
 
-INSTANTIATE_TEST_SUITE_P(Fonts, Layout, testing::Values(9, 12), testing::PrintToStringParamName());
+// The design itself, small screens, large letters, and zoom beyond the screen.
+INSTANTIATE_TEST_SUITE_P(Surroundings, Layout,
+                         testing::Values(Surroundings{9, {1920, 1080}, 0}, Surroundings{9, {1024, 600}, 0},
+                                         Surroundings{9, {1280, 720}, 0}, Surroundings{14, {1366, 768}, 0},
+                                         Surroundings{14, {3840, 2160}, 0}, Surroundings{18, {1920, 1080}, 0},
+                                         Surroundings{18, {3840, 2160}, 0}, Surroundings{9, {1366, 768}, 3},
+                                         Surroundings{9, {1920, 1080}, -3}),
+                         [](const auto& row) {
+                           const Surroundings& now = row.param;
+                           return "Font" + std::to_string(now.points) + "Screen" +
+                                  std::to_string(now.screen.width()) +
+                                  (now.zoom < 0   ? "ZoomedOut"
+                                   : now.zoom > 0 ? "ZoomedIn"
+                                                  : "");
+                         });
 
 // ---- In step with the controls ----
 
@@ -619,9 +660,11 @@ TEST_F(Windows, ShiftedReturnEndsALineAsReturnDoes) {
   EXPECT_EQ(text.SelText(), "gh");
 }
 
-TEST_F(Windows, AMaximisedWorkspaceComesBackWithItsBottomRowBelow) {
-  SinWorkspace& smoking = program.At(0);
-  FormWindow& window = desktop.WindowOf(smoking);
+TEST_F(Windows, AMaximisedWorkspaceIsShownLargerAndInItsProportions) {
+  SinWorkspace& smoking = Smoking();
+  FormWindow& window = Of(smoking);
+  Open(smoking, kFutureTab);  // the euro button goes
+  const Place row = smoking.cmdSwitchSins->GetPlace();
   window.showMaximized();
   QTest::qWait(200);  // sizes are taken when they have settled
   for (const int sin : {1, 0}) {
@@ -629,8 +672,19 @@ TEST_F(Windows, AMaximisedWorkspaceComesBackWithItsBottomRowBelow) {
     QTest::qWait(200);
   }
   ASSERT_TRUE(window.isMaximized());
-  const Place place = smoking.cmdSwitchSins->GetPlace();
-  EXPECT_NEAR(place.top, window.height() * 15 - place.height - 600, 15);
+  // The form keeps its twips, and what it places by them.
+  EXPECT_EQ(QSize(smoking.Width(), smoking.Height()), QSize(12000, 10500));
+  EXPECT_EQ(smoking.cmdSwitchSins->GetPlace().top, row.top);
+  const QWidget& sheet = window.GetSheet();
+  const double across = sheet.width() / 12000.0, down = sheet.height() / 10500.0;
+  EXPECT_NEAR(across, down, 0.001);
+  EXPECT_TRUE(sheet.width() == window.width() || sheet.height() == window.height());
+  // As much ground on the left as on the right, above as below.
+  const QRect place(sheet.mapTo(&window, QPoint(0, 0)), sheet.size());
+  EXPECT_NEAR(place.center().x(), window.rect().center().x(), 1);
+  EXPECT_NEAR(place.center().y(), window.rect().center().y(), 1);
+  window.showNormal();
+  QTRY_COMPARE_WITH_TIMEOUT(window.size(), QSize(800, 700), 2000);
 }
 
 TEST_F(Windows, AShownWindowComesToTheFrontWhenItIsAskedForAgain) {

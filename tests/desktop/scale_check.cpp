@@ -1,0 +1,180 @@
+// How large the windows are: what zoom does, that no figure is shown in part, that a small screen scrolls and
+// a report makes use of its room.
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+#include <QWheelEvent>
+
+#include "desktop/desktop.h"
+#include "desktop/document_view.h"
+#include "desktop/form_window.h"
+#include "desktop/look.h"
+#include "desktop/widgets.h"
+#include "scenario/scripted_platform.h"
+
+namespace vicetoll {
+namespace {
+
+TEST(Scales, TwipsBecomePixelsAndBack) {
+  EXPECT_EQ(Scale().ToPixels(12000), 800);
+  EXPECT_EQ(Scale(1.5).ToPixels(12000), 1200);
+  EXPECT_EQ(Scale(1.5).ToTwips(1200), 12000);
+  // Neighbours that touch in twips touch in pixels.
+  for (const double factor : {0.5, 0.77, 1.0, 1.33, 2.9}) {
+    const Scale scale(factor);
+    const QRect left = scale.ToPixels(0, 0, 2550, 800), right = scale.ToPixels(2550, 0, 2500, 800);
+    EXPECT_EQ(left.x() + left.width(), right.x()) << factor;
+  }
+}
+
+class Sizes : public testing::Test {
+ protected:
+  Sizes() { SetScreen({1920, 1080}); }
+
+  void SetScreen(const QSize& screen) {
+    desktop.GetScaling().screen = screen;
+    desktop.TakeScale();
+  }
+  FormWindow& Of(Form& form) { return desktop.WindowOf(form); }
+  SinWorkspace& Smoking() { return program.At(0); }
+  void TurnWheel(QWidget& widget, int delta) {
+    QWheelEvent wheel({5, 5}, widget.mapToGlobal(QPointF(5, 5)), {}, {0, delta}, Qt::NoButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &wheel);
+  }
+
+  ScriptedPlatform platform{[](const std::string&) {}};
+  Program program{platform};
+  Desktop desktop{program};
+};
+
+TEST_F(Sizes, KeysAndWheelZoomEveryWindow) {
+  FormWindow& window = Of(Smoking());
+  QTest::keyClick(&window, Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_EQ(window.size(), QSize(880, 825));
+  EXPECT_EQ(window.GetSheet().font().pixelSize(), 13);
+  QTest::keyClick(&window, Qt::Key_Minus, Qt::ControlModifier);
+  QTest::keyClick(&window, Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_EQ(window.size(), QSize(720, 675));
+  EXPECT_EQ(Smoking().Width(), 12000);
+  QTest::keyClick(&window, Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(window.size(), QSize(800, 750));
+  TurnWheel(*window.WidgetOf(*Smoking().Find("comInterestRate1Past")), 60);
+  EXPECT_EQ(desktop.GetScaling().Zoom(), 100);  // half a notch
+  TurnWheel(*window.WidgetOf(*Smoking().Find("comInterestRate1Past")), 60);
+  EXPECT_EQ(desktop.GetScaling().Zoom(), 110);
+  EXPECT_EQ(Smoking().Of(Side::Past).comInterestRate1->Text(), "5%");
+  // The next window of the run takes it over.
+  desktop.Enter([&] { program.Chooser().Show(); });
+  EXPECT_EQ(Of(program.Chooser()).GetScale().Factor(), 1.1);
+}
+
+TEST_F(Sizes, ZoomEndsAtHalfAndAtThreeTimes) {
+  desktop.ZoomBy(-20);
+  EXPECT_EQ(desktop.GetScaling().Zoom(), 50);
+  desktop.ZoomBy(20);
+  EXPECT_EQ(desktop.GetScaling().Zoom(), 300);
+  // Larger than the screen, the window scrolls.
+  FormWindow& window = Of(Smoking());
+  EXPECT_EQ(window.GetSheet().size(), QSize(2400, 2250));
+  EXPECT_LE(window.width(), 1920);
+  EXPECT_LT(window.height(), 1080);
+  QApplication::processEvents();
+  EXPECT_GT(window.findChild<QScrollArea*>()->verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(Sizes, ReportsKeepTheirWindowAndZoomTheirText) {
+  desktop.Enter([&] { program.Info().ShowHelpFile(); });
+  FormWindow& help = Of(program.Info());
+  const QSize size = help.size();
+  const QWidget& text = *help.WidgetOf(*program.Info().Find("rtfInfo"));
+  const int letters = text.font().pixelSize();
+  const int twips = program.Info().Width();
+  desktop.ZoomBy(4);  // 175 percent
+  EXPECT_EQ(help.size(), size);
+  EXPECT_EQ(text.font().pixelSize(), letters * 175 / 100);
+  EXPECT_NEAR(program.Info().Width(), twips / 1.75, 15);
+  EXPECT_TRUE(help.rect().contains(QRect(text.mapTo(&help, QPoint(0, 0)), text.size())));
+}
+
+TEST_F(Sizes, AScreenTooSmallForReadableLettersScrolls) {
+  SetScreen({640, 400});
+  FormWindow& window = Of(Smoking());
+  EXPECT_EQ(window.GetSheet().font().pixelSize(), 9);
+  EXPECT_LE(window.width(), 640);
+  EXPECT_LT(window.height(), 400);
+  EXPECT_EQ(Smoking().Width(), 12000);
+  QApplication::processEvents();
+  EXPECT_GT(window.findChild<QScrollArea*>()->verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(Sizes, TheTableOverAllSinsFitsASmallScreen) {
+  SetScreen({1024, 600});
+  desktop.Enter([&] { program.Combined().Show(); });
+  EXPECT_LE(Of(program.Combined()).width(), 1024);
+  EXPECT_EQ(Of(program.Combined()).size(), Of(program.Combined()).GetSheet().size());
+}
+
+// ---- Figures ----
+
+// Every box with 15 digits: the whole number in letters that fit, or a mark and the number as its tip.
+TEST_F(Sizes, ABoxShowsItsWholeNumberOrMarksItAsCut) {
+  const char* const kNumber = "$999,999,999,999,999";
+  desktop.Enter([&] { program.Combined().Show(); });
+  for (const int zoom : {-20, 3, 3, 20}) {
+    desktop.ZoomBy(zoom);
+    for (Form* form : {static_cast<Form*>(&Smoking()), static_cast<Form*>(&program.Combined())})
+      for (const auto& control : form->Controls()) {
+        auto* model = dynamic_cast<TextBox*>(control.get());
+        if (model == nullptr) continue;
+        desktop.Enter([&] { model->SetText(kNumber); });
+        auto& box = dynamic_cast<ResultBox&>(*Of(*form).WidgetOf(*model));
+        const int wide = QFontMetrics(box.font()).horizontalAdvance(box.text());
+        EXPECT_EQ(box.text(), kNumber);
+        // Two pixels at each end are Qt's, one is the line's, one the caret's.
+        EXPECT_EQ(box.IsCut(), wide > box.width() - 7)
+            << model->FullName() << " at " << desktop.GetScaling().Zoom();
+        EXPECT_GE(box.font().pixelSize(), std::min(7, Of(*form).GetSheet().font().pixelSize()));
+        EXPECT_FALSE(box.IsCut() && desktop.GetScaling().Zoom() >= 100) << model->FullName();
+      }
+  }
+}
+
+TEST_F(Sizes, FiguresOfTheirUsualLengthKeepTheirLetters) {
+  TextBox& model = *Smoking().Of(Side::Past).txtResultsTotal;
+  desktop.Enter([&] { model.SetText("$1,269,334"); });
+  const auto& box = dynamic_cast<ResultBox&>(*Of(Smoking()).WidgetOf(model));
+  EXPECT_EQ(box.font().pixelSize(), Of(Smoking()).GetSheet().font().pixelSize());
+  desktop.Enter([&] { model.SetText("$28,969,949,504"); });
+  EXPECT_FALSE(box.IsCut());
+}
+
+// ---- Texts and lists ----
+
+TEST_F(Sizes, ATableOfADocumentScrollsSideways) {
+  DocWindow& window = program.Doc();
+  desktop.Enter([&] {
+    window.Text().SetText("one\ttwo\r\n1\t2");
+    window.Show();
+  });
+  const auto& edit = dynamic_cast<DocumentEdit&>(*Of(window).WidgetOf(window.Text()));
+  EXPECT_EQ(edit.lineWrapMode(), QPlainTextEdit::NoWrap);
+  desktop.Enter([&] { window.Text().SetText("words"); });
+  EXPECT_EQ(edit.lineWrapMode(), QPlainTextEdit::WidgetWidth);
+}
+
+TEST_F(Sizes, RowsOfAPopupAreEasilyHit) {
+  auto& list = dynamic_cast<BlueList&>(*Of(Smoking()).WidgetOf(*Smoking().Find("comInterestRate1Past")));
+  list.showPopup();
+  QApplication::processEvents();
+  const QRect row = list.view()->visualRect(list.model()->index(list.currentIndex(), 0));
+  EXPECT_GE(row.height(), 1.6 * list.fontMetrics().height());
+  list.hidePopup();
+}
+
+}  // namespace
+}  // namespace vicetoll
