@@ -79,7 +79,7 @@ UserOutcome Form::UserResizes(int width, int height) {
 UserOutcome Form::UserCloses() {
   if (!shown_) return UserOutcome::Refused;
   if (Button* const button = CloseButton()) return button->UserClicks();
-  Say("Use Exit to close this window");
+  Say("Use Exit to close \"" + ToUtf8(caption_) + "\"");
   Acted(nullptr);
   return UserOutcome::Refused;
 }

@@ -4,6 +4,8 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTextBlockFormat>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextOption>
 #include <algorithm>
@@ -39,40 +41,45 @@ QString Unpadded(std::string_view text) {
   return lines.join(u'\n');
 }
 
-// The widest cell of each column, with a gap behind it, in pixels of the screen.
-QList<double> ColumnsOf(const QString& text, const QFont& font) {
-  const QFontMetricsF metrics(font);
+double ScreenDots() { return QGuiApplication::primaryScreen()->logicalDotsPerInch(); }
+
+// The widest cell of each column, with a gap behind it, in pixels of the screen; measured as it is printed,
+// for a screen rounds the widths of letters.
+QList<double> ColumnsOf(const QString& text, const QFont& font, const QPrinter& printer) {
+  const QFontMetricsF metrics(font, &printer);
+  const double pixels = ScreenDots() / printer.logicalDpiX();
   QList<double> columns;
   for (const QString& line : text.split(u'\n')) {
     const QStringList cells = line.split(u'\t');
     if (cells.size() == 1) continue;
     if (columns.size() < cells.size()) columns.resize(cells.size());
     for (qsizetype i = 0; i < cells.size(); ++i)
-      columns[i] = std::max(columns[i], metrics.horizontalAdvance(cells[i]) + kCellGap);
+      columns[i] = std::max(columns[i], metrics.horizontalAdvance(cells[i]) * pixels + kCellGap);
   }
   return columns;
 }
 
-double PageWidth(const QPageLayout& page) {
-  return page.paintRect(QPageLayout::Inch).width() * QGuiApplication::primaryScreen()->logicalDotsPerInch();
-}
+double PageWidth(const QPageLayout& page) { return page.paintRect(QPageLayout::Inch).width() * ScreenDots(); }
 
 // Lays the text out for the printer's pages.
 void LayOut(QTextDocument& document, QPrinter& printer, std::string_view text, const QFont& font) {
   document.documentLayout()->setPaintDevice(&printer);
   document.setDefaultFont(font);
   const QString lines = Unpadded(text);
-  QTextOption option = document.defaultTextOption();
   QList<QTextOption::Tab> stops;
-  const QList<double> columns = ColumnsOf(lines, font);
+  const QList<double> columns = ColumnsOf(lines, font, printer);
   const double width = std::accumulate(columns.begin(), columns.end(), 0.0);
   // On a page that is too narrow the columns stand closer, as far as their cells let them.
   const double squeeze = std::min(1.0, PageWidth(printer.pageLayout()) / std::max(width, 1.0));
   double left = 0;
   for (const double column : columns) stops.append({left += column * squeeze, QTextOption::LeftTab});
-  option.setTabs(stops);
-  document.setDefaultTextOption(option);
   document.setPlainText(lines);
+  // Stops of the document as a whole would give way to those of its lines, which have none.
+  QTextBlockFormat format;
+  format.setTabPositions(stops);
+  QTextCursor all(&document);
+  all.select(QTextCursor::Document);
+  all.mergeBlockFormat(format);
   document.setPageSize(printer.pageRect(QPrinter::DevicePixel).size());
 }
 
@@ -91,7 +98,7 @@ bool PrintJob::PrintPicture(std::string_view svg) {
 }
 
 QPageLayout::Orientation PrintJob::SuggestedOrientation(std::string_view text) const {
-  const QList<double> columns = ColumnsOf(Unpadded(text), FontOf(style_));
+  const QList<double> columns = ColumnsOf(Unpadded(text), FontOf(style_), printer_);
   QPageLayout upright = printer_.pageLayout();
   upright.setOrientation(QPageLayout::Portrait);
   return std::accumulate(columns.begin(), columns.end(), 0.0) <= PageWidth(upright) ? QPageLayout::Portrait

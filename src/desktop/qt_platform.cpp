@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QImage>
+#include <QLabel>
 #include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -160,6 +161,24 @@ bool QtPlatform::PrintKeepingPageOpen(std::string_view text, bool selection) {
   return openPrint_ != nullptr;
 }
 
+namespace {
+
+// With a selection on offer Qt shows its page numbers all the same, open to be chosen.
+void TakePageNumbersFrom(const QPrintDialog& dialog) {
+  QList<QWidget*> numbers;
+  for (const char* name : {"printRange", "from", "to", "pagesRadioButton", "pagesLineEdit"})
+    numbers << dialog.findChild<QWidget*>(QLatin1String(name));
+  if (numbers[0] != nullptr)  // "to"
+    for (QLabel* label : numbers[0]->parentWidget()->findChildren<QLabel*>()) numbers << label;
+  for (QWidget* widget : numbers)
+    if (widget != nullptr) {
+      widget->setEnabled(false);
+      widget->hide();
+    }
+}
+
+}  // namespace
+
 // What was printed, its last page still open; nothing if it went nowhere, which the user is told.
 std::unique_ptr<PrintJob> QtPlatform::AskAndPrint(std::unique_ptr<PrintJob> print, std::string_view text,
                                                   bool selection) {
@@ -171,6 +190,7 @@ std::unique_ptr<PrintJob> QtPlatform::AskAndPrint(std::unique_ptr<PrintJob> prin
   dialog.setOption(QAbstractPrintDialog::PrintSelection, selection);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+  TakePageNumbersFrom(dialog);
   if (selection) dialog.setPrintRange(QAbstractPrintDialog::Selection);
   // A cancelled dialog prints all the same.
   if (dialog.exec() == QDialog::Accepted) orientation_ = printer.pageLayout().orientation();

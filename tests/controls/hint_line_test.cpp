@@ -57,7 +57,7 @@ class HintOfAForm : public testing::Test {
     form.SetNextStep("next");
     form.Show();
   }
-  Form form{"frmTest", ""};
+  Form form{"frmTest", "Till"};
   Button& button = form.Add<Button>({"cmdPay"}, "Pay");
 };
 
@@ -92,7 +92,7 @@ TEST_F(HintOfAForm, TakesNewsOfAnotherWindowThatItsOwnNextActionForgets) {
 
 TEST_F(HintOfAForm, SaysTheWayOutOfAWindowThatCannotBeClosed) {
   EXPECT_EQ(form.UserCloses(), UserOutcome::Refused);
-  EXPECT_EQ(form.Hint(), "Use Exit to close this window");
+  EXPECT_EQ(form.Hint(), "Use Exit to close \"Till\"");
   EXPECT_TRUE(form.Shown());
 }
 

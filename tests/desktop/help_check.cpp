@@ -111,8 +111,9 @@ TEST_F(Help, SaysHowToLeaveAReport) {
   desktop.Enter([&] { past.cmdAdvResultsSpd->UserClicks(); });
   Of(program.Spd()).close();
   EXPECT_TRUE(program.Spd().Shown());
-  EXPECT_EQ(program.Spd().Hint(), "Use Exit to close this window");
-  EXPECT_EQ(Smoking().Hint(), "Use Exit to close this window");
+  const std::string told = "Use Exit to close \"Advanced Smoking Results - SpreadSheet Style\"";
+  EXPECT_EQ(program.Spd().Hint(), told);
+  EXPECT_EQ(Smoking().Hint(), told);
 }
 
 // ---- The line at the foot ----

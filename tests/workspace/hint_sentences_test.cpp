@@ -157,7 +157,7 @@ TEST_F(Hints, TellWhereAReportWasSavedAndThatAPageIsOpen) {
   report.Get<Button>("cmdPrint").UserClicks();
   EXPECT_EQ(ws.Hint(), "Printed; the page is finished by the next print or at exit");
   report.UserCloses();
-  EXPECT_EQ(report.Hint(), "Use Exit to close this window");
+  EXPECT_EQ(report.Hint(), "Use Exit to close \"Advanced Smoking Results - SpreadSheet Style\"");
   EXPECT_TRUE(report.Shown());
 }
 
