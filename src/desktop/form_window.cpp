@@ -347,7 +347,7 @@ void FormWindow::KeepFocus(Control* before) {
 
 void FormWindow::UpdateHint() {
   UpdateSpokenTexts();
-  update(RoomOfHint());
+  sheet_->update(RoomOfHint());
 }
 
 // ---- Windows beside a workspace ----
