@@ -128,6 +128,7 @@ void ApplyTotal(SinWorkspace& ws, const SinEntries& sin) {
     UpdateFutureDateTotal(ws, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future));
   else
     ws.evaluatedAt = sin.total;
+  if (sin.oldFigure) ShowOldFutureDateFigure(ws, *sin.oldFigure);
   if (!sin.totalWaiting) return;
   ChooseFutureDate(ws, *sin.totalWaiting);
   ws.cmdCumulativeFutureDateTot->SetEnabled(open);

@@ -113,7 +113,12 @@ SinEntries CaptureSin(SinWorkspace& ws) {
   sin.total = ws.evaluatedAt;
   const FutureDateTerms chosen{ws.comCumulativeFutureDateTot->Text(), ws.comInterestRateFutureDateTot->Text(),
                                ws.comInflationRateFutureDateTot->Text()};
-  if (sin.total && chosen != *sin.total) sin.totalWaiting = chosen;
+  if (!sin.total) return sin;
+  // The button waits also where a list was changed and changed back.
+  const bool waits =
+      ws.SSTab_PastFutureSwitch->Tab() == kTotalTab && ws.cmdCumulativeFutureDateTot->Enabled();
+  if (waits || chosen != *sin.total) sin.totalWaiting = chosen;
+  sin.oldFigure = OldFutureDateFigure(ws);
   return sin;
 }
 

@@ -71,6 +71,9 @@ struct SinEntries {
   // Of the TOTAL tab, once it was opened: what its figure at a future date was reckoned with, and a choice
   // that still waits for its button.
   std::optional<FutureDateTerms> total, totalWaiting;
+  // The figure that stood there, whole units, where periods have changed since it was reckoned; empty for
+  // "n/a". Nobody sees it before it is reckoned anew, but the growth chart goes by it.
+  std::optional<std::string> oldFigure;
 
   const SideEntries& Of(Side side) const { return side == Side::Past ? past : future; }
   SideEntries& Of(Side side) { return side == Side::Past ? past : future; }

@@ -19,6 +19,7 @@ inline constexpr std::string_view kTabWords[] = {"past", "future", "total"};
 inline constexpr std::string_view kCostModeWords[] = {"percent", "final cost"};
 inline constexpr std::string_view kCountedInWords[] = {"all", "enabled", "all, period 1 hidden"};
 inline constexpr std::string_view kOutOfOrder = "out of order";
+inline constexpr std::string_view kNoFigure = "n/a";
 
 constexpr std::string_view SideWord(Side side) { return kTabWords[side == Side::Past ? 0 : 1]; }
 

@@ -195,9 +195,19 @@ SideEntries ReadSide(const JsonValue& sin, int position, Side side) {
   return entries;
 }
 
-std::optional<FutureDateTerms> ReadTotal(const std::optional<JsonValue>& json) {
+// Whole units as digits, with or without a sign; empty for "n/a".
+std::string FigureOf(const JsonValue& value) {
+  std::string_view digits = value.Text();
+  if (digits == kNoFigure) return {};
+  if (digits.starts_with('-')) digits.remove_prefix(1);
+  const bool good = !digits.empty() && digits.find_first_not_of("0123456789") == std::string_view::npos &&
+                    IsNumeric(digits) && NumberToText(TextToNumber(value.Text())) == value.Text();
+  if (!good) value.Fail(Quotation(value.Text()) + " is no amount in whole units");
+  return value.Text();
+}
+
+std::optional<FutureDateTerms> ReadTerms(const std::optional<JsonValue>& json) {
   if (!json) return std::nullopt;
-  json->HasOnly({"date", "interest", "inflation"});
   FutureDateTerms terms;
   if (const auto date = json->Optional("date")) terms.date = MonthOf(*date);
   terms.interest = std::to_string(PercentOf(json->Member("interest"))) + "%";
@@ -210,8 +220,14 @@ SinEntries ReadSin(const JsonValue& json, int position) {
   SinEntries sin;
   sin.position = position;
   for (Side side : kSides) sin.Of(side) = ReadSide(json, position, side);
-  sin.total = ReadTotal(json.Optional("total"));
-  sin.totalWaiting = ReadTotal(json.Optional("totalWaiting"));
+  const auto total = json.Optional("total");
+  const auto waiting = json.Optional("totalWaiting");
+  if (total) total->HasOnly({"date", "interest", "inflation", "oldFigure"});
+  if (waiting) waiting->HasOnly({"date", "interest", "inflation"});
+  sin.total = ReadTerms(total);
+  sin.totalWaiting = ReadTerms(waiting);
+  if (const auto figure = total ? total->Optional("oldFigure") : std::nullopt)
+    sin.oldFigure = FigureOf(*figure);
   if (sin.totalWaiting && !sin.total) json.Member("totalWaiting").Fail("waits, but there is no \"total\"");
   return sin;
 }

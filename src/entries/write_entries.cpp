@@ -78,6 +78,8 @@ Json SinOf(const SinEntries& sin) {
   Json json;
   for (Side side : kSides) AddSide(json, sin, side);
   if (sin.total) json["total"] = TotalOf(*sin.total);
+  if (sin.oldFigure)
+    json["total"]["oldFigure"] = sin.oldFigure->empty() ? std::string(kNoFigure) : *sin.oldFigure;
   if (sin.totalWaiting) json["totalWaiting"] = TotalOf(*sin.totalWaiting);
   return json;
 }

@@ -140,6 +140,11 @@ std::string BalanceOfBothSides(const SinWorkspace& ws, const CountedPeriods& pas
   return {};
 }
 
+// The number in a box of kTotalFormat, where zero is a symbol without a digit.
+double WholeUnits(const std::string& shown) {
+  return IsNumeric(StripCurrency(shown)) ? MoneyToNumber(shown) : 0;
+}
+
 // Where the figure at a future date starts: the stop of the last period that counts.
 const std::string& LastStop(const SinWorkspace& ws, const CountedPeriods& past, const CountedPeriods& future,
                             SideIndex pastSide, SideIndex futureSide) {
@@ -153,22 +158,46 @@ std::string PastCarriedIntoFuture(SinWorkspace& ws, SideIndex pastSide, SideInde
   return PastCarriedIntoFuture(ws, pastSide, futureSide, WarningOf(ws));
 }
 
-std::optional<FutureDateFigure> FutureDateFigureOf(const SinWorkspace& ws) {
+namespace {
+
+// The figure reckoned anew with the terms of the last time; none where there are none, or nothing counts. Its
+// `value` is unrounded.
+std::optional<FutureDateFigure> FutureDateFigureAnew(const SinWorkspace& ws) {
   const SideIndex futureSide = ws.SideIndex(Side::Future);
   const SideIndex pastSide = ws.SideIndex(Side::Past);
   const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
   const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
-  const std::string& shown = ws.txtCumulativeFutureDateTot->Text();
-  if (!ws.evaluatedAt || shown == kNotAvailable || (!past.worthCounting && !future.worthCounting))
-    return std::nullopt;
+  if (!ws.evaluatedAt || (!past.worthCounting && !future.worthCounting)) return std::nullopt;
   const double rate = LeadingNumber(ws.evaluatedAt->interest) - LeadingNumber(ws.evaluatedAt->inflation);
   const double balance =
       MoneyToNumber(BalanceOfBothSides(ws, past, future, pastSide, futureSide, [](DateFault) {}));
   FutureDateFigure figure{LastStop(ws, past, future, pastSide, futureSide), ws.evaluatedAt->date, balance,
-                          rate, MoneyToNumber(shown)};
-  const double now = CostAfterLastPeriod(NumberToText(balance), rate, figure.from, figure.date);
-  if (ws.Money(now, kTotalFormat) != shown) return std::nullopt;
+                          rate, 0};
+  figure.value = CostAfterLastPeriod(NumberToText(balance), rate, figure.from, figure.date);
   return figure;
+}
+
+}  // namespace
+
+std::optional<FutureDateFigure> FutureDateFigureOf(const SinWorkspace& ws) {
+  auto figure = FutureDateFigureAnew(ws);
+  const std::string& shown = ws.txtCumulativeFutureDateTot->Text();
+  if (!figure || ws.Money(figure->value, kTotalFormat) != shown) return std::nullopt;
+  figure->value = WholeUnits(shown);
+  return figure;
+}
+
+std::optional<std::string> OldFutureDateFigure(const SinWorkspace& ws) {
+  const auto figure = FutureDateFigureAnew(ws);
+  const std::string& shown = ws.txtCumulativeFutureDateTot->Text();
+  if (shown == (figure ? ws.Money(figure->value, kTotalFormat) : std::string(kNotAvailable)))
+    return std::nullopt;
+  return shown == kNotAvailable ? std::string() : NumberToText(WholeUnits(shown));
+}
+
+void ShowOldFutureDateFigure(SinWorkspace& ws, const std::string& figure) {
+  ws.txtCumulativeFutureDateTot->SetText(figure.empty() ? std::string(kNotAvailable)
+                                                        : ws.Money(TextToNumber(figure), kTotalFormat));
 }
 
 void UpdateCombinedCumulative(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {

@@ -51,6 +51,11 @@ struct FutureDateFigure {
 // periods have changed and the tab was not opened since. Shows no message.
 std::optional<FutureDateFigure> FutureDateFigureOf(const SinWorkspace& ws);
 
+// What stands in the box where that is out of date, whole units as digits, empty for "n/a"; none where the
+// figure is what it would be now. The TOTAL tab must have been opened once. And putting it there again.
+std::optional<std::string> OldFutureDateFigure(const SinWorkspace& ws);
+void ShowOldFutureDateFigure(SinWorkspace& ws, const std::string& figure);
+
 // A short form of UpdateTotalTab for the table over all sins: brings txtCumulativeResultsTotalSummaryTot up
 // to date and leaves the rest of the tab alone. Where there is nothing it writes "0", not "n/a".
 void UpdateCombinedCumulative(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide);

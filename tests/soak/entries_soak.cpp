@@ -1,6 +1,6 @@
 // entries-soak: what random users set is saved, opened in a fresh program, and must show the same: the result
-// boxes of every sin, all months of all reports, the table over all sins, the TOTAL tab. Then both programs
-// are used alike for a while, and must still agree.
+// boxes of every sin, all months of all reports, the points of the growth chart, the table over all sins, the
+// TOTAL tab. Then both programs are used alike for a while, and must still agree.
 //
 //   entries-soak [--sessions N] [--actions N] [--seed N]
 #include <charconv>
@@ -11,6 +11,7 @@
 #include <sstream>
 
 #include "base/fault.h"
+#include "charts/growth_points.h"
 #include "entries/entries_file.h"
 #include "reports/report_terms.h"
 #include "soak/random_user.h"
@@ -33,6 +34,7 @@ std::string Shown(const TextBox& box) {
 
 class MonthsAsText : public MonthSink {
  public:
+  MonthsAsText() { text.precision(12); }
   void Begin(const ReportStretch&) override {}
   void Add(const ReportMonth& month) override {
     text << month.index << ' ' << static_cast<int>(month.kind) << ' ' << month.label << ' ' << month.monthCost
@@ -62,11 +64,24 @@ void ViewSide(SinWorkspace& ws, Side side, View& view) {
   view[place + " report"] = months.text.str();
 }
 
-void ViewSin(SinWorkspace& ws, View& view) {
+std::string PointsOf(const ChartContents& chart) {
+  std::ostringstream text;
+  text.precision(12);
+  text << chart.title << ' ' << chart.present << ' ' << chart.emptyText << '\n';
+  for (const ChartMonth& month : chart.months)
+    text << month.label << ' ' << static_cast<int>(month.kind) << OperationSuffix(month.side) << month.period
+         << ' ' << month.outOfPocket << ' ' << month.withInterest << '\n';
+  for (const ChartBand& band : chart.bands)
+    text << band.first << ' ' << band.last << ' ' << band.name << '\n';
+  return text.str();
+}
+
+void ViewSin(SinWorkspace& ws, MonthAndYear present, View& view) {
   for (Side side : kSides) ViewSide(ws, side, view);
   MonthsAsText months;
   WalkTotal(TotalTermsOf(ws, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future)), {}, months);
   view[ws.Name() + ".report"] = months.text.str();
+  view[ws.Name() + ".growth"] = PointsOf(GrowthOf(ws, present));
 }
 
 void ViewTotalTab(const SinWorkspace& ws, View& view) {
@@ -93,7 +108,8 @@ View ViewOf(Program& program) {
   view["front"] = front.Name() + std::to_string(front.SSTab_PastFutureSwitch->Tab());
   if (front.SSTab_PastFutureSwitch->Tab() == kTotalTab) ViewTotalTab(front, view);
   for (int i = 0; i < kSinCount; ++i)
-    if (program.GetSession().SinVisited[i] || front.Position() == i) ViewSin(program.At(i), view);
+    if (program.GetSession().SinVisited[i] || front.Position() == i)
+      ViewSin(program.At(i), program.GetSession().platform.Now(), view);
   CombinedResults& table = program.Combined();
   table.Get<DropDownList>("comDataRep").SetText("BLANK");
   for (Control* check : table.FindAll("chkWhichSins")) dynamic_cast<CheckBox&>(*check).SetValue(true);
