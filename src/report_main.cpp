@@ -1,4 +1,6 @@
 // vicetoll-report: the reports of files of entries, without a window.
+#include <malloc.h>
+
 #include <array>
 #include <cstdio>
 #include <ctime>
@@ -82,11 +84,14 @@ std::string_view KindWord(MonthKind kind) {
   return kWords[static_cast<int>(kind)];
 }
 
+std::string_view SideWord(const ReportMonth& month) { return kSides3[month.side == Side::Past ? 0 : 1]; }
+
 // "Jun - 2031" as "2031-06". The labels of a report behind a disabled period may lack a month.
-std::string PlainMonth(const std::string& label) {
+void AppendPlainMonth(std::string& out, const std::string& label) {
   const int month = MonthNumberFromLabel(label);
-  return label.substr(label.size() - std::min<std::size_t>(4, label.size())) + (month < 10 ? "-0" : "-") +
-         std::to_string(month);
+  out.append(label, label.size() - std::min<std::size_t>(4, label.size()));
+  out += month < 10 ? "-0" : "-";
+  AppendNumber(out, month);
 }
 
 // ---- The grid, as a table ----
@@ -94,25 +99,32 @@ std::string PlainMonth(const std::string& label) {
 void AddTable(const SinWorkspace& ws, ReportScope scope, const MonthReport& report, std::string& out) {
   out += std::string(ws.Sin().key) + ", " + std::string(kSides3[static_cast<int>(scope)]) + "\n";
   const auto columns = ColumnsOf(ws.Class());
-  std::vector<std::vector<std::string>> rows(1);
-  for (const ReportColumn* column : columns) rows[0].emplace_back(HeadingOf(ws.Sin(), *column));
-  ReportCells cells(ReportLayout::Grid, ws.GetSession().currency);
-  for (const ReportMonth& month : report.months) {
-    rows.emplace_back();
-    for (const ReportColumn* column : columns) {
-      std::string cell;
-      cells.Append(cell, *column, month);
-      rows.back().push_back(cell.substr(0, cell.find_last_not_of(' ') + 1));
-    }
-  }
+  // The cells row by row in one text, each ended by its place in `ends`.
+  std::string text;
+  std::vector<std::size_t> ends, widths(columns.size());
+  const auto endCell = [&](std::size_t start, std::size_t& width) {
+    while (text.size() > start && text.back() == ' ') text.pop_back();
+    width = std::max(width, text.size() - start);
+    ends.push_back(text.size());
+  };
   for (std::size_t c = 0; c < columns.size(); ++c) {
-    std::size_t width = 0;
-    for (const auto& row : rows) width = std::max(width, row[c].size());
-    for (auto& row : rows) row[c].insert(0, width - row[c].size(), ' ');
+    const std::size_t start = text.size();
+    text += HeadingOf(ws.Sin(), *columns[c]);
+    endCell(start, widths[c]);
   }
-  for (const auto& row : rows) {
-    for (std::size_t c = 0; c < row.size(); ++c) out += (c == 0 ? "" : "  ") + row[c];
-    out += '\n';
+  ReportCells cells(ReportLayout::Grid, ws.GetSession().currency);
+  for (const ReportMonth& month : report.months)
+    for (std::size_t c = 0; c < columns.size(); ++c) {
+      const std::size_t start = text.size();
+      cells.Append(text, *columns[c], month);
+      endCell(start, widths[c]);
+    }
+  std::size_t start = 0;
+  for (std::size_t i = 0; i < ends.size(); start = ends[i++]) {
+    const std::size_t c = i % columns.size(), size = ends[i] - start;
+    out.append((c == 0 ? 0 : 2) + widths[c] - size, ' ');
+    out.append(text, start, size);
+    if (c + 1 == columns.size()) out += '\n';
   }
 }
 
@@ -126,13 +138,16 @@ void AddCsv(const SinWorkspace& ws, ReportScope scope, const MonthReport& report
   const std::string start =
       std::string(ws.Sin().key) + "," + std::string(kSides3[static_cast<int>(scope)]) + ",";
   for (const ReportMonth& month : report.months) {
-    out += start + std::to_string(month.index) + "," + std::string(KindWord(month.kind)) + "," +
-           std::string(kSides3[month.side == Side::Past ? 0 : 1]) + "," + std::to_string(month.period) + "," +
-           PlainMonth(month.label);
+    out += start;
+    AppendNumber(out, month.index);
+    (out += ',') += KindWord(month.kind);
+    (out += ',') += SideWord(month);
+    AppendNumber(out += ',', month.period);
+    AppendPlainMonth(out += ',', month.label);
     for (const double figure :
          {month.quantity, month.unitCost, month.reasonableCost, month.adjustedCost, month.monthCost,
           month.monthWithInterest, month.cumulativeCost, month.cumulativeCostWithInterest})
-      out += "," + NumberToText(figure);
+      AppendNumberText(out += ',', figure);
     out += "\r\n";
   }
 }
@@ -142,28 +157,33 @@ void AddCsv(const SinWorkspace& ws, ReportScope scope, const MonthReport& report
 // As lists and boxes have numbers: of 15 digits at most.
 double Digits15(double value) { return TextToNumber(NumberToText(value)); }
 
-Json MonthsOf(const MonthReport& report) {
-  Json months = Json::array();
+// The months are most of a report: written as they come, a month a line.
+void AddMonths(const MonthReport& report, std::string& out) {
+  const auto number = [&out](const char* name, double value) {
+    AppendNumberText(((out += ", \"") += name) += "\": ", value);
+  };
+  bool first = true;
   for (const ReportMonth& month : report.months) {
-    Json json;
-    json["index"] = month.index;
-    json["kind"] = KindWord(month.kind);
-    json["side"] = kSides3[month.side == Side::Past ? 0 : 1];
-    json["period"] = month.period;
-    json["month"] = PlainMonth(month.label);
+    out += first ? "\n      {\"index\": " : ",\n      {\"index\": ";
+    first = false;
+    AppendNumber(out, month.index);
+    (out += ", \"kind\": \"") += KindWord(month.kind);
+    (out += "\", \"side\": \"") += SideWord(month);
+    AppendNumber(out += "\", \"period\": ", month.period);
+    AppendPlainMonth(out += ", \"month\": \"", month.label);
+    out += '"';
     if (month.kind == MonthKind::Active) {
-      json["quantity"] = Digits15(month.quantity);
-      json["unitCost"] = Digits15(month.unitCost);
-      json["reasonableCost"] = Digits15(month.reasonableCost);
-      json["adjustedCost"] = Digits15(month.adjustedCost);
-      json["monthCost"] = Digits15(month.monthCost);
+      number("quantity", month.quantity);
+      number("unitCost", month.unitCost);
+      number("reasonableCost", month.reasonableCost);
+      number("adjustedCost", month.adjustedCost);
+      number("monthCost", month.monthCost);
     }
-    json["monthWithInterest"] = Digits15(month.monthWithInterest);
-    json["cumulativeCost"] = Digits15(month.cumulativeCost);
-    json["cumulativeWithInterest"] = Digits15(month.cumulativeCostWithInterest);
-    months.push_back(std::move(json));
+    number("monthWithInterest", month.monthWithInterest);
+    number("cumulativeCost", month.cumulativeCost);
+    number("cumulativeWithInterest", month.cumulativeCostWithInterest);
+    out += '}';
   }
-  return months;
 }
 
 // What the boxes of the window show, whole units.
@@ -198,6 +218,22 @@ Json PeriodsOf(const Json& sin, ReportScope scope) {
   return periods;
 }
 
+void AddJson(SinWorkspace& ws, ReportScope scope, const MonthReport& report, const Json& written,
+             std::string& out) {
+  const auto inner = [](const Json& json) {
+    std::string text;
+    for (const char c : json.dump(2)) (text += c) += c == '\n' ? "    " : "";
+    return text;
+  };
+  const std::string key(ws.Sin().key);
+  ((out += out == "[" ? "\n  {\n" : ",\n  {\n") += "    \"sin\": \"") += key;
+  ((out += "\",\n    \"report\": \"") += kSides3[static_cast<int>(scope)]) += "\",\n    \"periods\": ";
+  (out += inner(PeriodsOf(written["sins"][key], scope))) += ",\n    \"months\": [";
+  AddMonths(report, out);
+  (out += "\n    ],\n    \"totals\": ") += inner(TotalsOf(ws, scope, report));
+  out += "\n  }";
+}
+
 // ---- A file ----
 
 std::string ReportsOf(const Entries& entries, const Options& options) {
@@ -206,13 +242,12 @@ std::string ReportsOf(const Entries& entries, const Options& options) {
   Apply(program, entries);
   std::string out;
   if (options.format == kCsv) out = kCsvHeading;
-  Json all = Json::array();
+  if (options.format == kJson) out = "[";
   const Json written = options.format == kJson ? Json::parse(WriteEntries(entries)) : Json();
   for (const SinEntries& sin : entries.sins) {
     if (options.sin != -1 && options.sin != sin.position) continue;
     SinWorkspace& ws = program.At(sin.position);
     const MonthReport report = ReportOf(ws, options.scope);
-    const std::string key(ws.Sin().key);
     switch (options.format) {
       case kTable:
         AddTable(ws, options.scope, report, out);
@@ -221,14 +256,10 @@ std::string ReportsOf(const Entries& entries, const Options& options) {
         AddCsv(ws, options.scope, report, out);
         break;
       case kJson:
-        all.push_back({{"sin", key},
-                       {"report", kSides3[static_cast<int>(options.scope)]},
-                       {"periods", PeriodsOf(written["sins"][key], options.scope)},
-                       {"months", MonthsOf(report)},
-                       {"totals", TotalsOf(ws, options.scope, report)}});
+        AddJson(ws, options.scope, report, written, out);
     }
   }
-  if (options.format == kJson) return all.dump(2) + "\n";
+  if (options.format == kJson) out += "\n]\n";
   return options.format == kTable ? ToUtf8(out) : out;
 }
 
@@ -252,10 +283,14 @@ void Put(const std::string& path, const std::string& report, const Options& opti
   std::string to = options.output;
   if (intoFolder)
     to += "/" + std::filesystem::path(path).stem().string() + std::string(kSuffixes[options.format]);
-  WriteWholeFile(to, report);
+  WriteWholeFile(to, report, FileKind::Remade);
 }
 
 int MakeReports(const Options& options) {
+  // What a report took is kept for the next one, not given back to the system and asked for again.
+  constexpr int kKept = 32 << 20;
+  mallopt(M_MMAP_THRESHOLD, kKept);
+  mallopt(M_TRIM_THRESHOLD, kKept);
   const bool intoFolder = options.files.size() > 1 || std::filesystem::is_directory(options.output);
   int status = 0;
   for (const std::string& path : options.files) {

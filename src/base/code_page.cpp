@@ -1,5 +1,6 @@
 #include "base/code_page.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace vicetoll {
@@ -22,6 +23,8 @@ char ByteOf(char32_t character) {
 }  // namespace
 
 std::string ToUtf8(std::string_view codePageText) {
+  if (std::ranges::none_of(codePageText, [](char c) { return static_cast<std::uint8_t>(c) >= 0x80; }))
+    return std::string(codePageText);
   std::string utf8;
   utf8.reserve(codePageText.size());
   for (const char c : codePageText) {

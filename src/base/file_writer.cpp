@@ -1,6 +1,8 @@
 #include "base/file_writer.h"
 
+#include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -9,6 +11,8 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
+#include <memory>
 #include <optional>
 
 #include "base/fault.h"
@@ -121,18 +125,41 @@ mode_t RightsFor(const struct stat* old) {
   return 0666 & ~mask;
 }
 
+// What a file is called while it is written, less six letters: hidden, and known by the other one's name.
+std::string NameWhileWritten(const std::string& path) {
+  constexpr std::size_t kMostBytes = 200;  // the system takes 255
+  return "." + path.substr(path.rfind('/') + 1).substr(0, kMostBytes) + ".new-";
+}
+
+// Takes away what a killed run left. A file that is being written is locked, and young.
+void RemoveLeftovers(const std::string& folder, const std::string& start) {
+  constexpr std::time_t kYoung = 60;  // seconds
+  const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(folder.c_str()), closedir);
+  if (!entries) return;
+  while (const dirent* entry = readdir(entries.get())) {
+    const std::string_view name = entry->d_name;
+    if (!name.starts_with(start) || name.size() != start.size() + 6) continue;
+    const std::string path = folder + entry->d_name;
+    struct stat status;
+    if (lstat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_uid != geteuid()) continue;
+    if (std::time(nullptr) - status.st_mtime < kYoung) continue;
+    const OpenFile file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+    if (file.Good() && flock(file.Descriptor(), LOCK_EX | LOCK_NB) == 0) unlink(path.c_str());
+  }
+}
+
 int FillAndRename(OpenFile& file, const std::string& beside, const std::string& path, std::string_view bytes,
-                  mode_t rights) {
+                  mode_t rights, bool flush) {
   if (const int error = file.Write(bytes)) return error;
   if (fchmod(file.Descriptor(), rights) != 0) return errno;
-  if (const int error = file.Flush()) return error;
+  if (const int error = flush ? file.Flush() : 0) return error;
   if (const int error = file.Close()) return error;
   return std::rename(beside.c_str(), path.c_str()) == 0 ? 0 : errno;
 }
 
 }  // namespace
 
-int ReplaceFile(const std::string& name, std::string_view bytes) {
+int ReplaceFile(const std::string& name, std::string_view bytes, FileKind kind) {
   const NoKillByFileSize noKill;
   const std::string path = Followed(name);
   struct stat old;
@@ -142,19 +169,24 @@ int ReplaceFile(const std::string& name, std::string_view bytes) {
   if (exists && access(path.c_str(), W_OK) != 0) return errno;  // a file that is not to be changed
   if (path.empty()) return ENOENT;
 
-  std::string beside = FolderOf(path) + ".vicetoll-XXXXXX";
+  const std::string folderName = FolderOf(path), start = NameWhileWritten(path);
+  if (kind == FileKind::Own) RemoveLeftovers(folderName, start);
+  std::string beside = folderName + start + "XXXXXX";
   OpenFile file(mkostemp(beside.data(), O_CLOEXEC));
   if (!file.Good()) {
     const int error = errno;
     return exists && (error == EACCES || error == EPERM) ? WriteInPlace(path, bytes, error) : error;
   }
-  const int error = FillAndRename(file, beside, path, bytes, RightsFor(exists ? &old : nullptr));
+  flock(file.Descriptor(), LOCK_EX | LOCK_NB);  // where locks do not work, nobody takes leftovers away
+  const bool flush = exists || kind == FileKind::Own;
+  const int error = FillAndRename(file, beside, path, bytes, RightsFor(exists ? &old : nullptr), flush);
   if (error != 0) {
     unlink(beside.c_str());
     return error;
   }
+  if (!flush) return 0;
   // The new name lasts through a loss of power once the folder is on the disk too.
-  const OpenFile folder(open(FolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const OpenFile folder(open(folderName.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (folder.Good()) folder.Flush();
   return 0;
 }
@@ -169,8 +201,8 @@ std::string NotWritten(const std::string& path, int error) {
   return name + " could not be written: " + ReasonOf(error) + ".";
 }
 
-void WriteWholeFile(const std::string& path, std::string_view bytes) {
-  if (const int error = ReplaceFile(path, bytes)) throw Fault(FaultKind::File, NotWritten(path, error));
+void WriteWholeFile(const std::string& path, std::string_view bytes, FileKind kind) {
+  if (const int error = ReplaceFile(path, bytes, kind)) throw Fault(FaultKind::File, NotWritten(path, error));
 }
 
 }  // namespace vicetoll

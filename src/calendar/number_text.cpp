@@ -192,23 +192,50 @@ Decimal ToDecimal(double value) {
   return decimal;
 }
 
-std::string NumberToText(double value) {
+namespace {
+
+// A whole number of cents has at most 15 digits here, so they are those of the value. False for other values.
+bool AppendCents(std::string& out, double value) {
+  const double size = std::fabs(value);
+  if (!(size < kFastLimit)) return false;
+  const auto cents = static_cast<std::uint64_t>(size * 100 + 0.5);
+  if (static_cast<double>(cents) / 100 != size) return false;
+  char text[24];
+  char* end = std::to_chars(text, text + sizeof text, cents / 100).ptr;
+  if (const auto rest = static_cast<int>(cents % 100); rest != 0) {
+    *end++ = '.';
+    *end++ = static_cast<char>('0' + rest / 10);
+    if (rest % 10 != 0) *end++ = static_cast<char>('0' + rest % 10);
+  }
+  if (value < 0) out += '-';
+  out.append(text, end);
+  return true;
+}
+
+}  // namespace
+
+void AppendNumberText(std::string& out, double value) {
+  if (AppendCents(out, value)) return;
   const Decimal decimal = ToDecimal(value);
-  if (decimal.count == 0) return "0";
-  std::string text = decimal.negative ? "-" : "";
+  if (decimal.negative) out += '-';
   if (decimal.pointAfter <= 0) {
-    text += "0.";
-    text.append(-decimal.pointAfter, '0');
-    text.append(decimal.digits, decimal.count);
-    return text;
+    out += "0.";
+    out.append(-decimal.pointAfter, '0');
+    out.append(decimal.digits, decimal.count);
+    return;
   }
   const int integerDigits = std::min(decimal.pointAfter, decimal.count);
-  text.append(decimal.digits, integerDigits);
-  text.append(decimal.pointAfter - integerDigits, '0');
+  out.append(decimal.digits, integerDigits);
+  out.append(decimal.pointAfter - integerDigits, '0');
   if (decimal.count > integerDigits) {
-    text += '.';
-    text.append(decimal.digits + integerDigits, decimal.count - integerDigits);
+    out += '.';
+    out.append(decimal.digits + integerDigits, decimal.count - integerDigits);
   }
+}
+
+std::string NumberToText(double value) {
+  std::string text;
+  AppendNumberText(text, value);
   return text;
 }
 

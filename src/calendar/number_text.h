@@ -24,6 +24,7 @@ Decimal ToDecimal(double value);
 
 // The value in at most 15 significant digits, without trailing zeros and without an exponent.
 std::string NumberToText(double value);
+void AppendNumberText(std::string& out, double value);
 
 // The number in a text, which may have blanks around it, one leading minus (before or after an optional
 // "$"), commas among its integer digits, a decimal point and an exponent. "-\x80" and "-e", which euro

@@ -280,10 +280,15 @@ std::string ReadEntriesBytes(const std::string& path) {
   if (!S_ISREG(status.st_mode)) throw EntriesRefused("this is no regular file");
   const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), std::fclose);
   if (!file) fail(errno);
-  // One byte more than allowed, to tell a file that is too large, and is perhaps growing.
-  std::string bytes(kMostEntriesBytes + 1, '\0');
-  bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
-  if (std::ferror(file.get()) != 0) fail(errno);
+  // It may be growing: one byte more than allowed tells that it is too large.
+  std::string bytes;
+  char block[1 << 14];
+  while (bytes.size() <= kMostEntriesBytes) {
+    const std::size_t got = std::fread(block, 1, sizeof block, file.get());
+    if (std::ferror(file.get()) != 0) fail(errno);
+    if (got == 0) break;
+    bytes.append(block, got);
+  }
   if (bytes.size() > kMostEntriesBytes) throw EntriesRefused("the file is larger than 1 MiB");
   return bytes;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "calendar/date_label.h"
 #include "calendar/month_list.h"
 
 namespace vicetoll {
@@ -9,7 +10,9 @@ namespace vicetoll {
 void FillDateList(bool clear, DropDownList& list, const std::string& first, const std::string& last,
                   std::int16_t step) {
   const std::vector<std::string> months = MonthList(first, last, step);
-  const bool onlyMissing = ReachesAStep(first, last, step);
+  // In an empty list nothing is there yet; the months of steps of a year at most are all different.
+  const bool allDifferent = clear && step > 0 && step <= kMonthsPerYear && MonthNumberFromLabel(first) != 0;
+  const bool onlyMissing = !allDifferent && ReachesAStep(first, last, step);
   const std::string selected = list.Text();
   if (clear) list.Clear();
   int position = 0;
