@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -71,6 +72,21 @@ TEST_F(ReplacingAFile, LeavesTheOldOneWhereTheNewOneHasNoRoom) {
   EXPECT_EQ(errorOfNew, EFBIG);
   EXPECT_EQ(Read(Path("a")), old);
   EXPECT_EQ(FileCount(), 1u);
+}
+
+TEST_F(ReplacingAFile, TakesAwayWhatAKilledRunLeft) {
+  const char* kOld[] = {".a.new-killed", ".a.new-link12", ".a.new-longer12", ".b.new-killed", "a.new-killed"};
+  for (const char* name : kOld) std::ofstream(Path(name)) << "half";
+  fs::remove(Path(".a.new-link12"));
+  fs::create_symlink("a.new-killed", Path(".a.new-link12"));
+  for (const char* name : {".a.new-killed", ".a.new-longer12", ".b.new-killed", "a.new-killed"})
+    fs::last_write_time(Path(name), fs::file_time_type::clock::now() - std::chrono::hours(1));
+  std::ofstream(Path(".a.new-young1")) << "half";
+  EXPECT_EQ(ReplaceFile(Path("a"), "one"), 0);
+  EXPECT_FALSE(fs::exists(Path(".a.new-killed")));
+  for (const char* name :
+       {".a.new-link12", ".a.new-longer12", ".b.new-killed", "a.new-killed", ".a.new-young1"})
+    EXPECT_TRUE(fs::exists(Path(name))) << name;
 }
 
 TEST_F(ReplacingAFile, DoesNotWaitForAReader) {

@@ -17,6 +17,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <fstream>
 #include <set>
 
 #include "desktop/balloon.h"
@@ -113,6 +114,41 @@ TEST(Run, EndsWithStatusZeroByItsExitButton) {
   QTimer::singleShot(0, [] { ClickIn("Smoking", "cmdExit"); });
   EXPECT_EQ(RunProgram(Application()), 0);
 }
+
+// The file is of a pack a day at 2.00, later at 3.00: 183 and 183.
+TEST(Run, StartsWithAFile) {
+  QString total;
+  bool inFront = false;
+  QTimer::singleShot(0, [&] {
+    inFront = WindowNamed("Smoking")->isVisible();
+    total = WindowNamed("Smoking")->findChild<QWidget*>("txtResultsTotalFut")->property("text").toString();
+    ClickIn("Smoking", "cmdExit");
+  });
+  EXPECT_EQ(RunProgram(Application(), ENTRIES_FILES "/Smoking.vicetoll"), 0);
+  EXPECT_TRUE(inFront);
+  EXPECT_EQ(total.toStdString(), "$366");
+}
+
+class FilesOfNoUse : public testing::TestWithParam<const char*> {};
+
+// The program says so, and goes on as it starts.
+TEST_P(FilesOfNoUse, AreNamedAtTheStart) {
+  QTemporaryDir room;
+  const std::string path = room.filePath("entries.vicetoll").toStdString();
+  if (const char* bytes = GetParam()) std::ofstream(path) << bytes;
+  QString told;
+  WhenUp<QMessageBox>([&told](QMessageBox& box) {
+    told = box.text();
+    box.accept();
+    QTimer::singleShot(0, [] { ClickIn("Smoking", "cmdExit"); });
+  });
+  EXPECT_EQ(RunProgram(Application(), path), 0);
+  EXPECT_TRUE(told.startsWith(QString::fromStdString("The file \"" + path + "\" cannot be opened.")))
+      << told.toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Run, FilesOfNoUse,
+                         testing::Values(nullptr, "", "{\"format\": \"vicetoll entries\"}"));
 
 // ---- Windows ----
 
