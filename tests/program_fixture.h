@@ -28,7 +28,7 @@ inline std::string StateOf(const Control& control) {
   state += control.Visible() ? " visible" : " hidden";
   if (const auto* list = dynamic_cast<const DropDownList*>(&control)) {
     state += " \"" + list->Text() + "\" at " + std::to_string(list->Position()) + " of";
-    for (const std::string& entry : list->Entries()) state += "|" + entry;
+    for (const std::string& entry : list->Entries().All()) state += "|" + entry;
   }
   if (const auto* box = dynamic_cast<const TextBox*>(&control)) state += " \"" + box->Text() + "\"";
   if (const auto* captioned = dynamic_cast<const CaptionedControl*>(&control))

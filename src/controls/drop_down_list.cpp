@@ -10,17 +10,14 @@ const std::string kNoEntry;
 }  // namespace
 
 const std::string& DropDownList::Entry(int position) const {
-  return position >= 0 && position < Count() ? entries_[position] : kNoEntry;
+  return position >= 0 && position < Count() ? entries_.At(position) : kNoEntry;
 }
 
 const std::string& DropDownList::EntryOrLast(int position) const {
   return Entry(std::min(position, Count() - 1));
 }
 
-int DropDownList::Find(std::string_view text) const {
-  const auto found = std::find(entries_.begin(), entries_.end(), text);
-  return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
-}
+int DropDownList::Find(std::string_view text) const { return entries_.Find(text); }
 
 void DropDownList::SetText(std::string_view text) {
   text_ = text;
@@ -32,7 +29,7 @@ void DropDownList::Insert(int position, std::string_view entry) {
   if (position < 0 || position > Count())
     throw Fault(FaultKind::Index, "A list of " + std::to_string(Count()) + " entries has no place " +
                                       std::to_string(position) + ".");
-  entries_.emplace(entries_.begin() + position, entry);
+  entries_.Insert(position, entry);
   if (position_ >= position)
     ++position_;
   else if (position_ == -1 && entry == text_)
@@ -40,8 +37,18 @@ void DropDownList::Insert(int position, std::string_view entry) {
   Changed();
 }
 
+void DropDownList::Append(const std::vector<std::string>& entries) {
+  const int before = Count();
+  entries_.Append(entries);
+  if (position_ == -1) {
+    const auto found = std::find(entries.begin(), entries.end(), text_);
+    if (found != entries.end()) position_ = before + static_cast<int>(found - entries.begin());
+  }
+  Changed();
+}
+
 void DropDownList::Clear() {
-  entries_.clear();
+  entries_.Clear();
   text_.clear();
   position_ = -1;
   Changed();
@@ -59,7 +66,7 @@ void DropDownList::TakeStateOf(const Control& other) {
 UserOutcome DropDownList::UserPicks(int position) {
   if (!Reachable()) return UserOutcome::Refused;
   if (position < 0 || position >= Count()) return UserOutcome::NoEntry;
-  chosen_ = text_ = entries_[position];
+  chosen_ = text_ = entries_.At(position);
   position_ = position;
   Changed();
   if (onPick) onPick();

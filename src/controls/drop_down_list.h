@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "controls/control.h"
+#include "controls/entry_list.h"
 
 namespace vicetoll {
 
@@ -14,8 +15,8 @@ class DropDownList : public Control {
   using Control::Control;
   ControlKind Kind() const override { return ControlKind::List; }
 
-  int Count() const { return static_cast<int>(entries_.size()); }
-  const std::vector<std::string>& Entries() const { return entries_; }
+  int Count() const { return entries_.Count(); }
+  const EntryList& Entries() const { return entries_; }
 
   // The entry at a position from 0; the empty text outside the list.
   const std::string& Entry(int position) const;
@@ -37,6 +38,7 @@ class DropDownList : public Control {
   // an added one that does becomes the position. Throws Fault(Index) outside 0..Count().
   void Insert(int position, std::string_view entry);
   void Append(std::string_view entry) { Insert(Count(), entry); }
+  void Append(const std::vector<std::string>& entries);
   // Takes away entries, text and position.
   void Clear();
   void TakeStateOf(const Control& other) override;
@@ -55,7 +57,7 @@ class DropDownList : public Control {
   std::function<void()> onType;
 
  private:
-  std::vector<std::string> entries_;
+  EntryList entries_;
   std::string text_;
   std::string chosen_;
   int position_ = -1;

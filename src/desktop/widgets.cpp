@@ -4,6 +4,7 @@
 #include <QAbstractListModel>
 #include <QAccessible>
 #include <QKeySequence>
+#include <QListView>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QShortcutEvent>
@@ -60,22 +61,20 @@ class EntryModel : public QAbstractListModel {
  public:
   using QAbstractListModel::QAbstractListModel;
 
-  int rowCount(const QModelIndex& parent) const override {
-    return parent.isValid() ? 0 : static_cast<int>(entries_.size());
-  }
+  int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : entries_.Count(); }
   QVariant data(const QModelIndex& index, int role) const override {
     if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
-    return ToQt(entries_.at(index.row()));
+    return ToQt(entries_.At(index.row()));
   }
-  const std::vector<std::string>& Entries() const { return entries_; }
-  void SetEntries(const std::vector<std::string>& entries) {
+  const EntryList& Entries() const { return entries_; }
+  void SetEntries(const EntryList& entries) {
     beginResetModel();
     entries_ = entries;
     endResetModel();
   }
 
  private:
-  std::vector<std::string> entries_;
+  EntryList entries_;
 };
 
 BlueList::BlueList(QWidget* parent) : QComboBox(parent), entries_(new EntryModel(this)) {
@@ -99,11 +98,11 @@ void BlueList::TakeTheme() {
   setPalette(colours);
 }
 
-void BlueList::SetEntries(const std::vector<std::string>& entries) {
+void BlueList::SetEntries(const EntryList& entries) {
   if (entries != entries_->Entries()) entries_->SetEntries(entries);
 }
 
-const std::vector<std::string>& BlueList::Entries() const { return entries_->Entries(); }
+const EntryList& BlueList::Entries() const { return entries_->Entries(); }
 
 void BlueList::SetShown(const QString& text, int position) {
   // Assistive tools read the current entry, and this where there is none. Without it, be it but a blank, a
@@ -135,6 +134,8 @@ void BlueList::showPopup() {
   view()->setFont(font());
   view()->setAccessibleName(accessibleName());
   view()->installEventFilter(this);
+  // Rows of one height: a list of many thousand entries need not be measured row by row.
+  if (auto* rows = qobject_cast<QListView*>(view())) rows->setUniformItemSizes(true);
   QComboBox::showPopup();
 }
 

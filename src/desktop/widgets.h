@@ -15,6 +15,8 @@
 #include <string>
 #include <vector>
 
+#include "controls/entry_list.h"
+
 namespace vicetoll {
 
 class EntryModel;
@@ -25,8 +27,8 @@ class BlueList : public QComboBox {
   explicit BlueList(QWidget* parent);
 
   // Replaces the entries, where they differ from what is there.
-  void SetEntries(const std::vector<std::string>& entries);
-  const std::vector<std::string>& Entries() const;
+  void SetEntries(const EntryList& entries);
+  const EntryList& Entries() const;
   void SetShown(const QString& text, int position);
   QString ShownText() const;
 

@@ -191,12 +191,15 @@ const std::string& QuantityText(const SinWorkspace& ws, Side side, int period) {
 
 void AppendEntries(const SinWorkspace& ws, DropDownList& list, const ListDefinition& definition) {
   const bool money = definition.format.starts_with('$');
+  std::vector<std::string> entries;
+  entries.reserve(EntryCount(definition));
   for (const Run& run : definition.runs) {
     for (int i = run.first; i <= run.last; ++i) {
       const double value = static_cast<double>(i) * run.multiplier / run.divisor;
-      list.Append(money ? ws.Money(value, definition.format) : FormatNumber(value, definition.format));
+      entries.push_back(money ? ws.Money(value, definition.format) : FormatNumber(value, definition.format));
     }
   }
+  list.Append(entries);
 }
 
 int EntryCount(const ListDefinition& definition) {

@@ -36,7 +36,7 @@ TEST_F(List, HasNoPlaceBehindTheOneAfterItsLastEntry) {
   Fill({"a"});
   EXPECT_EQ(FaultOf([&] { list.Insert(2, "b"); }), FaultKind::Index);
   EXPECT_EQ(FaultOf([&] { list.Insert(-1, "b"); }), FaultKind::Index);
-  EXPECT_EQ(list.Entries(), std::vector<std::string>{"a"});
+  EXPECT_EQ(list.Entries().All(), std::vector<std::string>{"a"});
   list.Insert(1, "b");
   EXPECT_EQ(list.Entry(1), "b");
 }

@@ -252,7 +252,7 @@ FormState WidgetStage::Read(Form& form) {
   return state;
 }
 
-std::vector<std::string> WidgetStage::Entries(DropDownList& list) { return Widget<BlueList>(list).Entries(); }
+std::vector<std::string> WidgetStage::Entries(DropDownList& list) { return Widget<BlueList>(list).Entries().All(); }
 
 std::string WidgetStage::Text(Control& control) { return TextOf(Widget<QWidget>(control)); }
 

@@ -68,7 +68,7 @@ FormState ControlStage::Read(Form& form) {
   return {form.Caption(), form.Shown(), form.Width(), form.Height()};
 }
 
-std::vector<std::string> ControlStage::Entries(DropDownList& list) { return list.Entries(); }
+std::vector<std::string> ControlStage::Entries(DropDownList& list) { return list.Entries().All(); }
 
 std::vector<std::vector<std::string>> ControlStage::Rows(Grid& grid) {
   std::vector<std::vector<std::string>> rows(grid.RowCount());

@@ -137,7 +137,7 @@ TEST_F(Combined, TheZeroHasTheCurrencyOfTheWindowsCreation) {
   const std::string zero =
       "\x80"
       "0";
-  EXPECT_EQ(Table().Get<DropDownList>("comDataRep").Entries(), (Texts{"NO DATA", "BLANK", zero}));
+  EXPECT_EQ(Table().Get<DropDownList>("comDataRep").Entries().All(), (Texts{"NO DATA", "BLANK", zero}));
   EXPECT_EQ(Row(kGambling), Texts(6, zero));
 }
 

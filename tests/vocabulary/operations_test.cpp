@@ -76,7 +76,7 @@ TEST_F(Operations, FormatInTheCurrencyOfTheRun) {
 
 TEST_F(Operations, FillAListByItsName) {
   Call("FillDateList", {"-1", "comStartPast", "Jan - 2000", "Mar - 2001", "12"});
-  EXPECT_EQ(run.Smoking().Of(Side::Past).comStart->Entries(),
+  EXPECT_EQ(run.Smoking().Of(Side::Past).comStart->Entries().All(),
             (Texts{"Jan - 2000", "Jan - 2001", "Mar - 2001"}));
   Call("FillDateList", {"0", "comStartPast", "Dec - 1999", "Dec - 1999", "12"});
   EXPECT_EQ(run.Smoking().Of(Side::Past).comStart->Count(), 4);

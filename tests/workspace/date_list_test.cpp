@@ -15,7 +15,7 @@ class DateList : public testing::Test {
  protected:
   const Entries& Fill(const char* first, const char* last, std::int16_t step, bool clear = true) {
     FillDateList(clear, list, first, last, step);
-    return list.Entries();
+    return list.Entries().All();
   }
 
   Form form{"test", ""};

@@ -210,7 +210,7 @@ TEST_P(DateLists, EqualEndsLeaveOneEntry) {
   const std::string first = c.comStart->Entry(0);
   Put(first.c_str(), first.c_str());
   Focus(c.comStart);
-  EXPECT_EQ(c.comStart->Entries(), Entries{first});
+  EXPECT_EQ(c.comStart->Entries().All(), Entries{first});
 }
 
 TEST_P(DateLists, AnOptionAloneChangesNothing) {

@@ -120,6 +120,7 @@ TEST_P(Loading, ARepeatedLoadAppendsAllEntriesAndSelectsTheFirstCopies) {
     const DropDownList& list = *ValueLists()[i];
     EXPECT_EQ(list.Count(), 2 * counts[i]) << list.FullName();
     EXPECT_EQ(list.Position(), before[i].first) << list.FullName();
+    EXPECT_EQ(list.Entries().HeldTexts(), counts[i]) << list.FullName();
     for (int entry = 0; entry < counts[i]; ++entry)
       ASSERT_EQ(list.Entry(entry), list.Entry(entry + counts[i])) << list.FullName();
   }
@@ -139,7 +140,7 @@ TEST_P(Loading, ARepeatedLoadPutsTheOptionsBack) {
   EXPECT_EQ(c.quantityLabel->Caption(), unitLabel);
   DropDownList& expected = ws.Add<DropDownList>({"expected"});
   for (int copy = 1; copy <= 2; ++copy) AppendEntries(ws, expected, UnitList(sin, sin.startUnit));
-  EXPECT_EQ(c.quantity->Entries(), expected.Entries());
+  EXPECT_EQ(c.quantity->Entries().All(), expected.Entries().All());
   EXPECT_EQ(c.quantity->Text(), kDefaults[position].quantity);
   EXPECT_TRUE(c.quantity->Enabled() && c.quantity->Visible());
 }
@@ -279,10 +280,10 @@ TEST(LoadingDates, TheFirstListsAreShort) {
   EXPECT_EQ(past.comStart->Entry(0), "Jan - 1936");
   EXPECT_EQ(past.comStart->Entry(past.comStart->Count() - 1), "Jun - 2016");
   EXPECT_EQ(past.comStart->Text(), "Jun - 2016");
-  EXPECT_EQ(past.comStop->Entries(), std::vector<std::string>{"Jun - 2026"});
+  EXPECT_EQ(past.comStop->Entries().All(), std::vector<std::string>{"Jun - 2026"});
   InitializeDates(ws, Side::Future, SideIndex(2));
   const SideControls& future = ws.Of(Side::Future);
-  EXPECT_EQ(future.comStart->Entries(), std::vector<std::string>{"Jul - 2026"});
+  EXPECT_EQ(future.comStart->Entries().All(), std::vector<std::string>{"Jul - 2026"});
   EXPECT_EQ(future.comStop->Entry(0), "Jul - 2036");
   EXPECT_EQ(future.comStop->Text(), "Jul - 2036");
   EXPECT_EQ(future.comStop->Entry(future.comStop->Count() - 1), "Jul - 2116");

@@ -43,7 +43,7 @@ TEST_P(ReasonableCost, FallsWellBelowALowerGrossCost) {
 
 TEST_P(ReasonableCost, IsNothingBelowTheLowestGrossCost) {
   run.Pick(gross, "$0.10");
-  EXPECT_EQ(reasonable.Entries(), (std::vector<std::string>{"$0.00", "$0.05"}));
+  EXPECT_EQ(reasonable.Entries().All(), (std::vector<std::string>{"$0.00", "$0.05"}));
   EXPECT_EQ(reasonable.Text(), "$0.00");
 }
 

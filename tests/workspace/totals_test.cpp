@@ -288,6 +288,16 @@ TEST_F(TotalTab, TheRatesGrowAtEveryChangeOfTab) {
   EXPECT_EQ(ws.comInflationRateFutureDateTot->Text(), "3%");
 }
 
+TEST_F(TotalTab, TheGrownRatesAreHeldOnce) {
+  for (int i = 0; i < 1500; ++i)
+    for (const Tab tab : {kTotalTab, kPastTab}) run.OpenTab(ws, tab);
+  for (const DropDownList* list : {ws.comInterestRateFutureDateTot, ws.comInflationRateFutureDateTot}) {
+    EXPECT_EQ(list->Count(), 3000 * 101);
+    EXPECT_EQ(list->Entries().HeldTexts(), 101);
+    EXPECT_EQ(Last(*list), "100%");
+  }
+}
+
 // ---- What the tab shows of the sides ----
 
 TEST_F(TotalTab, ShowsTheDatesOfWhatCounts) {
