@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <algorithm>
+#include <clocale>
 #include <cstdio>
 #include <vector>
 
@@ -49,6 +50,7 @@ double Median(Desktop& desktop, Form& form, DocWindow& document, Button& open, B
 int main(int argc, char** argv) {
   using namespace vicetoll;
   QApplication application(argc, argv);
+  std::setlocale(LC_NUMERIC, "C");  // figures are read and printed with a point
   ApplyLook(application);
   QtPlatform platform;
   Program program(platform);

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -58,6 +59,7 @@ int main(int argc, char** argv) {
     return 1;
   }
   QApplication application(argc, argv);
+  std::setlocale(LC_NUMERIC, "C");  // figures are read and printed with a point
   ApplyLook(application);
   PaintWatch watch;
   application.installEventFilter(&watch);

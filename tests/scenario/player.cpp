@@ -1,7 +1,6 @@
 #include "scenario/player.h"
 
 #include <charconv>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -21,8 +20,9 @@ std::string Bit(bool flag) { return flag ? "1" : "0"; }
 
 std::string Twelve(double value) {
   char text[40];
-  std::snprintf(text, sizeof text, "%.12g", value);
-  return text;
+  // Like "%.12g", but with a point in every locale.
+  const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::general, 12).ptr;
+  return {text, end};
 }
 
 std::string TwoDecimals(double value) {

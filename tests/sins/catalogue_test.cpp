@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
+#include <charconv>
 #include <string>
 #include <vector>
 
@@ -22,9 +22,11 @@ std::vector<std::string> Entries(const ListDefinition& list) {
       const double value = static_cast<double>(counter) * run.multiplier / run.divisor;
       const bool percent = list.format.ends_with('%');
       char text[32];
-      std::snprintf(text, sizeof text, "%.*f", list.format.ends_with(".00") ? 2 : 0,
-                    percent ? 100 * value : value);
-      entries.push_back((list.format.starts_with('$') ? "$" : "") + std::string(text) + (percent ? "%" : ""));
+      const auto end = std::to_chars(text, text + sizeof text, percent ? 100 * value : value,
+                                     std::chars_format::fixed, list.format.ends_with(".00") ? 2 : 0)
+                           .ptr;
+      entries.push_back((list.format.starts_with('$') ? "$" : "") + std::string(text, end) +
+                        (percent ? "%" : ""));
     }
   }
   return entries;

@@ -1,0 +1,69 @@
+// tabs-probe: what 3,000 changes of tab cost, in milliseconds each and in memory: the rate lists of the TOTAL
+// tab get their 101 entries again at each. Then what the list of many entries costs when it is opened.
+#include <QApplication>
+#include <QElapsedTimer>
+#include <clocale>
+#include <cstdio>
+#include <fstream>
+#include <string>
+
+#include "desktop/desktop.h"
+#include "desktop/form_window.h"
+#include "desktop/look.h"
+#include "desktop/qt_platform.h"
+#include "desktop/widgets.h"
+
+namespace {
+
+constexpr int kChanges = 3000;
+
+double Mebibytes() {
+  std::ifstream status("/proc/self/status");
+  for (std::string line; std::getline(status, line);)
+    if (line.starts_with("VmRSS:")) return std::stod(line.substr(6)) / 1024;
+  return 0;
+}
+
+double Milliseconds(const QElapsedTimer& timer) { return static_cast<double>(timer.nsecsElapsed()) / 1e6; }
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  using namespace vicetoll;
+  QApplication application(argc, argv);
+  std::setlocale(LC_NUMERIC, "C");  // figures are read and printed with a point
+  ApplyLook(application);
+  QtPlatform platform;
+  Program program(platform);
+  Desktop desktop(program);
+  SinWorkspace& ws = program.At(0);
+  const auto change = [&](int times) {
+    for (int i = 0; i < times; ++i) {
+      const Tab tab = i % 2 == 0 ? kTotalTab : kPastTab;
+      desktop.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(tab); });
+    }
+    QApplication::processEvents();
+  };
+  change(10);
+  const double before = Mebibytes();
+  QElapsedTimer timer;
+  timer.start();
+  change(kChanges);
+  const double each = Milliseconds(timer) / kChanges;
+  const double grown = Mebibytes() - before;
+  timer.restart();
+  change(100);
+  const double last = Milliseconds(timer) / 100;
+  desktop.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(kTotalTab); });
+  auto* list = dynamic_cast<BlueList*>(desktop.WindowOf(ws).WidgetOf(*ws.comInterestRateFutureDateTot));
+  timer.restart();
+  list->showPopup();
+  QApplication::processEvents();
+  const double popup = Milliseconds(timer);
+  std::printf("%-40s %10s %10s\n", "3,000 changes of tab", "measured", "at most");
+  std::printf("%-40s %10.2f %10d\n", "milliseconds each", each, 1);
+  std::printf("%-40s %10.2f %10d\n", "milliseconds each of a further hundred", last, 1);
+  std::printf("%-40s %10.1f %10d\n", "MiB grown", grown, 4);
+  std::printf("%-40s %10.1f\n", ("ms to open a list of " + std::to_string(list->count())).c_str(), popup);
+  return 0;
+}
