@@ -8,6 +8,9 @@
 
 namespace vicetoll {
 
+// Characters of the longest line that text from outside may make.
+inline constexpr int kLongestLine = 500'000;
+
 // Lines end in CR LF, which counts as two characters in every position and length.
 class DocumentText : public Control {
  public:
@@ -27,9 +30,11 @@ class DocumentText : public Control {
   // A selection that runs out of the text is cut at its end.
   void Select(int start, int length);
   void SelectAll() { Select(0, Length()); }
-  // Puts the text in the place of the selection, its line ends turned into CR LF; the position moves
-  // behind it. Without a selection the text goes in at the position.
+  // Puts the text in the place of the selection; the position moves behind it. Without a selection the text
+  // goes in at the position. All line ends are CR LF then, also one that the selection had cut in two.
   void ReplaceSelection(std::string_view text);
+  // Whether the text may go there: no line would grow beyond what a window lays out while a user waits.
+  bool HasRoomFor(std::string_view text) const;
 
   // A text to read only; a user's typing is refused.
   bool ReadOnly() const { return readOnly_; }
@@ -38,6 +43,7 @@ class DocumentText : public Control {
   // The user replaces the whole text by typing, its line ends turned into CR LF.
   UserOutcome UserTypes(std::string_view text);
   UserOutcome UserSelects(int start, int length);
+  std::function<void()> onNoRoom;  // a text that there was no room for stayed outside
 
  private:
   void Put(std::string text);

@@ -6,6 +6,7 @@
 #include <QMimeData>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTimer>
 
 #include "desktop/desktop.h"
 #include "desktop/scale.h"
@@ -21,7 +22,8 @@ constexpr double kDocumentPoints = 8.5;
 constexpr double kDocumentLetters = kDocumentPoints * 96 / 72;
 constexpr double kNarrowestColumn = 80, kWidestColumn = 160, kColumnGap = 6;
 constexpr int kTableLinesRead = 40;
-constexpr int kPictureEdge = 20;  // pixels: a scroll bar may come
+constexpr qsizetype kLongestLineOfWords = 20'000;  // characters; longer ones are broken anywhere
+constexpr int kPictureEdge = 20;                   // pixels: a scroll bar may come
 
 QFont DocumentFont() {
   QFont font;
@@ -51,6 +53,14 @@ double TabDistance(const QString& text, const QFontMetricsF& metrics, const Scal
     if (++lines == kTableLinesRead) break;
   }
   return std::min(widest, kWidestColumn * scale.Factor());
+}
+
+// Whether lines are broken between words. To look for the ends of words takes time by the square of a line's
+// length.
+bool WrapsWords(const QString& text) {
+  for (const QStringView line : QStringView(text).split(u'\n'))
+    if (line.size() > kLongestLineOfWords) return false;
+  return true;
 }
 
 }  // namespace
@@ -87,13 +97,22 @@ void DocumentEdit::keyPressEvent(QKeyEvent* event) {
 void DocumentEdit::insertFromMimeData(const QMimeData* source) {
   QString text = source->text();
   text.replace(QChar::LineSeparator, u'\n').replace(QChar::ParagraphSeparator, u'\n');
-  insertPlainText(ToQt(FromQt(text)));
+  const std::string known = FromQt(text);
+  if (!takes || takes(known)) insertPlainText(ToQt(known));
+}
+
+// Qt's own would give plain blanks for those that keep words together.
+QMimeData* DocumentEdit::createMimeDataFromSelection() const {
+  auto* data = new QMimeData;
+  data->setText(textCursor().selectedText().replace(QChar::ParagraphSeparator, u'\n'));
+  return data;
 }
 
 void DocumentEdit::KeepTyped(const std::string& text) {
   shown_ = text;
   const QString known = ToQtLines(text);
-  if (known == toPlainText()) return;
+  setWordWrapMode(WrapsWords(known) ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::WrapAnywhere);
+  if (known == PlainText()) return;
   const int position = textCursor().position();
   setPlainText(known);
   QTextCursor cursor = textCursor();
@@ -108,15 +127,20 @@ void DocumentEdit::SetText(const std::string& text) {
   // The lines of a table are as long as they are: one scrolls to their ends.
   setLineWrapMode(shown.contains(u'\t') ? NoWrap : WidgetWidth);
   SetColumns(shown);
+  // The old text is not laid out in the way of the new one, nor the new one in that of the old.
+  const bool words = WrapsWords(shown);
+  if (!words) setWordWrapMode(QTextOption::WrapAnywhere);
   setPlainText(shown);
+  if (words) setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 
 void DocumentEdit::Edit(const std::string& text) {
   if (text == shown_) return;
   shown_ = text;
-  const QString before = toPlainText();
-  QString after = ToQt(text);
-  after.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  const QString before = PlainText();
+  const QString after = ToQtLines(text);
+  const bool words = WrapsWords(after);
+  if (!words) setWordWrapMode(QTextOption::WrapAnywhere);
   // Only what differs changes: the rest stays where it is on the screen.
   const qsizetype shorter = std::min(before.size(), after.size());
   qsizetype head = 0, tail = 0;
@@ -126,18 +150,24 @@ void DocumentEdit::Edit(const std::string& text) {
   cursor.setPosition(static_cast<int>(head));
   cursor.setPosition(static_cast<int>(before.size() - tail), QTextCursor::KeepAnchor);
   cursor.insertText(after.mid(head, after.size() - head - tail));
+  if (words) setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 
 void DocumentEdit::TakeScale() {
   setFont(DocumentFont(ScaleOf(this)));
-  SetColumns(toPlainText());
+  SetColumns(PlainText());
 }
 
 void DocumentEdit::SetColumns(const QString& text) {
   setTabStopDistance(TabDistance(text, QFontMetricsF(font()), ScaleOf(this)));
 }
 
-std::string DocumentEdit::Text() const { return WithLineEnds(FromQt(toPlainText())); }
+std::string DocumentEdit::Text() const { return WithLineEnds(FromQt(PlainText())); }
+
+// toPlainText would turn the blanks that keep words together into plain ones.
+QString DocumentEdit::PlainText() const {
+  return document()->toRawText().replace(QChar::ParagraphSeparator, u'\n');
+}
 
 int DocumentEdit::ControlPosition(int position) const {
   return position + document()->findBlock(position).blockNumber();
@@ -221,6 +251,12 @@ class EditView : public ControlView {
                      [this, &desktop] { desktop.Enter([this] { TakeSelection(); }); });
     for (const auto signal : {&QPlainTextEdit::selectionChanged, &QPlainTextEdit::cursorPositionChanged})
       QObject::connect(&edit_, signal, [this, &desktop] { desktop.Enter([this] { TakeSelection(); }); });
+    edit_.takes = [this, &desktop](const std::string& text) {
+      if (document_.HasRoomFor(text)) return true;
+      // After the drop, which is not to wait for an answer.
+      QTimer::singleShot(0, &edit_, [this, &desktop] { desktop.Enter(document_.onNoRoom); });
+      return false;
+    };
   }
   void TakeScale() override { edit_.TakeScale(); }
 

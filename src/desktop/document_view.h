@@ -3,6 +3,7 @@
 
 #include <QPlainTextEdit>
 #include <QTextBrowser>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -35,12 +36,17 @@ class DocumentEdit : public QPlainTextEdit {
   // Position and length of the selection, by the control's reckoning.
   std::pair<int, int> Selection() const;
 
+  // Asked before a text that is dropped or pasted by the middle button goes in.
+  std::function<bool(const std::string&)> takes;
+
  protected:
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void insertFromMimeData(const QMimeData* source) override;
+  QMimeData* createMimeDataFromSelection() const override;
 
  private:
+  QString PlainText() const;
   int ControlPosition(int position) const;
   int EditorPosition(int position) const;
   void SetColumns(const QString& text);

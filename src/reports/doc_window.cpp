@@ -26,6 +26,10 @@ DocWindow::DocWindow(Workspaces& workspaces)
                     .buttonsGap = 50}) {
   rtfAdvResultsDoc_ = &Add<DocumentText>({"rtfAdvResultsDoc"});
   rtfAdvResultsDoc_->SetToolTip("Maximize Window in Comma Separated Mode to Align Columns");
+  rtfAdvResultsDoc_->onNoRoom = [this] {
+    GetPlatform().ShowMessage("", "The text was not pasted: it has a line that is too long to be shown.",
+                              MessageButtons::Ok);
+  };
   AddLayouts();
   Furnish(*rtfAdvResultsDoc_);
   AddMenuEntry("cmdCut", "Cut", [this] { Cut(); });
@@ -98,6 +102,12 @@ void DocWindow::Cut() {
   if (Text().SelLength() > 0) Text().ReplaceSelection("");
 }
 
-void DocWindow::Paste() { Text().ReplaceSelection(GetPlatform().Clipboard()); }
+void DocWindow::Paste() {
+  const std::string text = GetPlatform().Clipboard();
+  if (Text().HasRoomFor(text))
+    Text().ReplaceSelection(text);
+  else
+    Text().onNoRoom();
+}
 
 }  // namespace vicetoll

@@ -206,5 +206,37 @@ TEST_F(DocumentTextTest, ReplacedSelectionLeavesThePositionBehindIt) {
   EXPECT_EQ(text.Text(), "aX\r\nY-def");
 }
 
+// The line that the selection had cut in two ends once before it and once behind it.
+TEST_F(DocumentTextTest, AReplacementLeavesNoHalfEndOfLine) {
+  text.SetText("a\r\nb");
+  text.Select(2, 0);
+  text.ReplaceSelection("X");
+  EXPECT_EQ(text.Text(), "a\r\nX\r\nb");
+  EXPECT_EQ(text.SelStart(), 4);
+
+  text.SetText("ab\r\nc");
+  text.Select(1, 2);  // "b" and CR
+  text.ReplaceSelection("");
+  EXPECT_EQ(text.Text(), "a\r\nc");
+  EXPECT_EQ(text.SelStart(), 1);
+
+  text.SetText("a\r\nb");
+  text.Select(2, 0);
+  text.ReplaceSelection("");
+  EXPECT_EQ(text.Text(), "a\r\nb");
+}
+
+TEST_F(DocumentTextTest, HasRoomForLinesThatCanBeShown) {
+  text.SetText("12345\r\n12345");
+  text.Select(2, 8);  // leaves two characters before and two behind
+  EXPECT_EQ(text.SelText(), "345\r\n123");
+  EXPECT_TRUE(text.HasRoomFor(std::string(kLongestLine - 4, 'x')));
+  EXPECT_FALSE(text.HasRoomFor(std::string(kLongestLine - 3, 'x')));
+  EXPECT_TRUE(
+      text.HasRoomFor(std::string(kLongestLine - 2, 'x') + "\n" + std::string(kLongestLine - 2, 'x')));
+  EXPECT_FALSE(text.HasRoomFor(std::string(kLongestLine - 1, 'x') + "\n"));
+  EXPECT_FALSE(text.HasRoomFor("\n" + std::string(kLongestLine + 1, 'x') + "\n"));
+}
+
 }  // namespace
 }  // namespace vicetoll

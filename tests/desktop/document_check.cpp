@@ -1,0 +1,111 @@
+// What the editor of a report does with texts that are out of the ordinary.
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QMimeData>
+#include <QTest>
+
+#include "desktop/desktop.h"
+#include "desktop/document_view.h"
+#include "desktop/form_window.h"
+#include "scenario/scripted_platform.h"
+
+namespace vicetoll {
+namespace {
+
+class DocumentEditor : public testing::Test {
+ protected:
+  DocumentEditor() {
+    desktop.Enter([this] { window.Show(); });
+    QApplication::processEvents();
+  }
+
+  void Set(const std::string& text) {
+    desktop.Enter([&] { window.Text().SetText(text); });
+  }
+  void Paste(const std::string& text) {
+    platform.clipboard = text;
+    desktop.Enter([this] { window.Get<MenuEntry>("cmdPaste").UserClicks(); });
+    QApplication::processEvents();
+  }
+  // What is dropped or pasted by the middle button arrives as this.
+  void Insert(const QString& text) {
+    QMimeData data;
+    data.setText(text);
+    QMetaObject::invokeMethod(&edit, [&] { static_cast<Opened&>(edit).insertFromMimeData(&data); });
+    QApplication::processEvents();
+  }
+
+  // Opens what Qt keeps to itself.
+  class Opened : public DocumentEdit {
+   public:
+    using DocumentEdit::createMimeDataFromSelection;
+    using DocumentEdit::insertFromMimeData;
+  };
+
+  ScriptedPlatform platform;
+  Program program{platform};
+  Desktop desktop{program};
+  DocWindow& window = program.Doc();
+  DocumentEdit& edit = dynamic_cast<DocumentEdit&>(*desktop.WindowOf(window).WidgetOf(window.Text()));
+};
+
+// The blank that keeps words together is the byte 160.
+TEST_F(DocumentEditor, KeepsNonBreakingBlanksWhenTyping) {
+  Set("1\xA0"
+      "000");
+  QTest::keyClick(&edit, Qt::Key_End);
+  QTest::keyClicks(&edit, " $");
+  EXPECT_EQ(window.Text().Text(),
+            "1\xA0"
+            "000 $");
+  EXPECT_EQ(edit.Text(),
+            "1\xA0"
+            "000 $");
+}
+
+TEST_F(DocumentEditor, KeepsNonBreakingBlanksWhenTextIsDragged) {
+  Set("1\xA0"
+      "000\r\n2");
+  edit.selectAll();
+  const std::unique_ptr<QMimeData> data(static_cast<Opened&>(edit).createMimeDataFromSelection());
+  EXPECT_EQ(data->text(), QStringLiteral("1\u00A0000\n2"));
+}
+
+TEST_F(DocumentEditor, ShowsAPasteIntoACutEndOfLine) {
+  Set("a\r\nb");
+  desktop.Enter([this] { window.Text().UserSelects(2, 0); });
+  Paste("X");
+  EXPECT_EQ(window.Text().Text(), "a\r\nX\r\nb");
+  EXPECT_EQ(edit.Text(), window.Text().Text());
+}
+
+// The old way took a minute for the longest line, and as long for each key.
+TEST_F(DocumentEditor, TakesALongLineWithoutBlanksWithoutDelay) {
+  QElapsedTimer timer;
+  timer.start();
+  Paste(std::string(kLongestLine, 'x'));
+  EXPECT_EQ(window.Text().Length(), kLongestLine);
+  QTest::keyClick(&edit, Qt::Key_Backspace);
+  QApplication::processEvents();
+  EXPECT_EQ(window.Text().Length(), kLongestLine - 1);
+  EXPECT_EQ(edit.wordWrapMode(), QTextOption::WrapAnywhere);
+  EXPECT_LT(timer.elapsed(), 10'000);
+  Set("words again");
+  EXPECT_EQ(edit.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
+TEST_F(DocumentEditor, RefusesALongerLineAndSaysSo) {
+  Set("kept");
+  Paste(std::string(kLongestLine + 1, 'x'));
+  EXPECT_EQ(window.Text().Text(), "kept");
+  ASSERT_EQ(platform.messages.size(), 1u);
+  Insert(QString(kLongestLine + 1, u'x'));
+  EXPECT_EQ(window.Text().Text(), "kept");
+  EXPECT_EQ(platform.messages.size(), 2u);
+  Insert(QStringLiteral("!"));
+  EXPECT_EQ(window.Text().Length(), 5);
+}
+
+}  // namespace
+}  // namespace vicetoll
