@@ -18,18 +18,14 @@ namespace {
 std::string Flag(bool flag) { return flag ? "-1" : "0"; }
 std::string Bit(bool flag) { return flag ? "1" : "0"; }
 
-std::string Twelve(double value) {
-  char text[40];
-  // Like "%.12g", but with a point in every locale.
-  const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::general, 12).ptr;
-  return {text, end};
+// With a point in every locale.
+std::string NumberText(double value, std::chars_format format, int precision) {
+  char text[400];
+  return {text, std::to_chars(text, text + sizeof text, value, format, precision).ptr};
 }
 
-std::string TwoDecimals(double value) {
-  char text[400];
-  std::snprintf(text, sizeof text, "%.2f", value);
-  return text;
-}
+std::string Twelve(double value) { return NumberText(value, std::chars_format::general, 12); }
+std::string TwoDecimals(double value) { return NumberText(value, std::chars_format::fixed, 2); }
 
 // The commands and how many words follow them.
 struct Command {

@@ -13,7 +13,7 @@ using Entries = std::vector<std::string>;
 
 class DateList : public testing::Test {
  protected:
-  const Entries& Fill(const char* first, const char* last, std::int16_t step, bool clear = true) {
+  Entries Fill(const char* first, const char* last, std::int16_t step, bool clear = true) {
     FillDateList(clear, list, first, last, step);
     return list.Entries().All();
   }
