@@ -1,13 +1,17 @@
 #include "desktop/document_view.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTimer>
 
+#include "base/file_reader.h"
 #include "desktop/desktop.h"
 #include "desktop/scale.h"
 #include "desktop/text.h"
@@ -24,6 +28,7 @@ constexpr double kNarrowestColumn = 80, kWidestColumn = 160, kColumnGap = 6;
 constexpr int kTableLinesRead = 40;
 constexpr qsizetype kLongestLineOfWords = 20'000;  // characters; longer ones are broken anywhere
 constexpr int kPictureEdge = 20;                   // pixels: a scroll bar may come
+constexpr int kLargestPicture = 10'000'000;        // bytes of its file; the manual has none of a fiftieth
 
 QFont DocumentFont() {
   QFont font;
@@ -61,6 +66,20 @@ bool WrapsWords(const QString& text) {
   for (const QStringView line : QStringView(text).split(u'\n'))
     if (line.size() > kLongestLineOfWords) return false;
   return true;
+}
+
+// What stands in the place of a picture that is not there.
+QImage MissingPicture(const QString& name, const QFont& font) {
+  const QString text = QStringLiteral("The picture %1 is missing.").arg(name);
+  const QFontMetrics metrics(font);
+  QImage picture(metrics.horizontalAdvance(text) + metrics.height(), 2 * metrics.height(),
+                 QImage::Format_RGB32);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  painter.setFont(font);
+  painter.drawRect(picture.rect().adjusted(0, 0, -1, -1));
+  painter.drawText(picture.rect(), Qt::AlignCenter, text);
+  return picture;
 }
 
 }  // namespace
@@ -226,13 +245,16 @@ void PageBrowser::ColourLinks() {
 }
 
 QVariant PageBrowser::loadResource(int type, const QUrl& name) {
-  QVariant resource = QTextBrowser::loadResource(type, name);
-  if (type != QTextDocument::ImageResource) return resource;
-  QImage picture = resource.canConvert<QImage>() ? resource.value<QImage>() : QImage();
-  if (picture.isNull()) picture.loadFromData(resource.toByteArray());
+  const QString path = QDir(searchPaths().value(0)).filePath(name.path());
+  const auto bytes = ReadWholeFile(QFile::encodeName(path).toStdString(), kLargestPicture);
+  if (type != QTextDocument::ImageResource)
+    return bytes ? QVariant(QByteArray::fromStdString(*bytes)) : QVariant();
+  QImage picture;
+  if (bytes) picture.loadFromData(QByteArray::fromStdString(*bytes));
+  if (picture.isNull()) return MissingPicture(name.path(), font());
   // A picture that is too wide shrinks to the window's width, in as many pixels as the screen has for it.
   const double room = viewport()->width() - 2 * document()->documentMargin() - kPictureEdge;
-  if (picture.isNull() || room <= 0 || picture.width() <= room) return resource;
+  if (room <= 0 || picture.width() <= room) return picture;
   const int pixels = std::min(picture.width(), static_cast<int>(room * devicePixelRatioF()));
   picture = picture.convertToFormat(QImage::Format_RGB32).scaledToWidth(pixels, Qt::SmoothTransformation);
   picture.setDevicePixelRatio(pixels / room);
@@ -302,7 +324,7 @@ class PageView : public ControlView {
 
  protected:
   void UpdateContents() override {
-    const QFileInfo file(QString::fromStdString(window_.File()));
+    const QFileInfo file(QFile::decodeName(window_.File().c_str()));
     static_cast<PageBrowser*>(Widget())->SetText(document_.Text(), file.path());
   }
 

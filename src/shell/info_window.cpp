@@ -1,10 +1,7 @@
 #include "shell/info_window.h"
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
 #include "base/code_page.h"
+#include "base/file_reader.h"
 #include "shell/about.h"
 
 namespace vicetoll {
@@ -13,6 +10,8 @@ namespace {
 // In twips.
 constexpr int kInfoWidth = 10500, kInfoHeight = 9000;
 constexpr int kInfoMargin = 200;
+
+constexpr int kLargestText = 2'000'000;  // bytes; the manual has a hundredth of it
 
 }  // namespace
 
@@ -54,9 +53,8 @@ void InfoWindow::ShowAbout() {
 void InfoWindow::Open(std::string_view file, std::string_view caption) {
   Show();
   file_ = platform_.ProgramFolder() + "/" + std::string(file);
-  std::ifstream stream(file_, std::ios::binary);
-  if (std::filesystem::is_regular_file(file_) && stream)
-    rtfInfo_->SetText(FromUtf8(std::string(std::istreambuf_iterator<char>(stream), {})));
+  if (const auto text = ReadWholeFile(file_, kLargestText))
+    rtfInfo_->SetText(FromUtf8(*text));
   else
     rtfInfo_->SetText("This text is missing: the file " + std::string(file) +
                       " should lie beside the program, in the folder " + FromUtf8(platform_.ProgramFolder()) +

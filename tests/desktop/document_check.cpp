@@ -1,8 +1,11 @@
 // What the editor of a report does with texts that are out of the ordinary.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QMimeData>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "desktop/desktop.h"
@@ -105,6 +108,37 @@ TEST_F(DocumentEditor, RefusesALongerLineAndSaysSo) {
   EXPECT_EQ(platform.messages.size(), 2u);
   Insert(QStringLiteral("!"));
   EXPECT_EQ(window.Text().Length(), 5);
+}
+
+// ---- The pictures of the help window ----
+
+// The widths of a document's pictures, in the order of their names.
+QList<int> WidthsOfPictures(const std::string& folder, const QStringList& names) {
+  PageBrowser page(nullptr);
+  page.resize(800, 600);
+  std::string text;
+  for (const QString& name : names) text += "![" + name.toStdString() + "](" + name.toStdString() + ")\n\n";
+  page.SetText(text, QString::fromStdString(folder));
+  QList<int> widths;
+  for (const QString& name : names)
+    widths.push_back(
+        page.document()->resource(QTextDocument::ImageResource, QUrl(name)).value<QImage>().width());
+  return widths;
+}
+
+TEST(HelpPictures, WhatIsNoPictureOfASaneSizeIsShownAsMissing) {
+  const QTemporaryDir room;
+  QImage picture(40, 30, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  ASSERT_TRUE(picture.save(room.filePath(QStringLiteral("good.png"))));
+  ASSERT_EQ(mkfifo(qPrintable(room.filePath(QStringLiteral("pipe.png"))), 0600), 0);
+  ASSERT_TRUE(QFile::link(QStringLiteral("/dev/zero"), room.filePath(QStringLiteral("zeros.png"))));
+  const QList<int> widths =
+      WidthsOfPictures(room.path().toStdString(), {QStringLiteral("good.png"), QStringLiteral("pipe.png"),
+                                                   QStringLiteral("zeros.png"), QStringLiteral("none.png")});
+  EXPECT_EQ(widths[0], 40);
+  // A box with a sentence stands in their place.
+  for (int i = 1; i < 4; ++i) EXPECT_GT(widths[i], 100) << i;
 }
 
 }  // namespace

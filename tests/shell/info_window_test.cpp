@@ -1,5 +1,7 @@
 #include "shell/info_window.h"
 
+#include <sys/stat.h>
+
 #include <filesystem>
 #include <fstream>
 
@@ -69,6 +71,17 @@ TEST_F(Info, AMissingFileIsNamed) {
   EXPECT_NE(Text().find("Sin_Info.hlp"), std::string::npos) << Text();
   EXPECT_NE(Text().find(folder.string()), std::string::npos) << Text();
   EXPECT_EQ(run.program.Info().Caption(), "Info and FAQ on The Vicetoll Financial Calculator");
+}
+
+// A pipe holds whoever opens it; a text without end has no place in memory.
+TEST_F(Info, WhatIsNoFileOfASaneSizeIsMissing) {
+  ASSERT_EQ(mkfifo((folder / "Sin_help.hlp").c_str(), 0600), 0);
+  Press("cmdHelp");
+  EXPECT_NE(Text().find("Sin_help.hlp"), std::string::npos) << Text();
+  Write("Sin_Info.hlp", "");
+  std::filesystem::resize_file(folder / "Sin_Info.hlp", 100'000'000);  // takes no room on the disk
+  Press("cmdFaq");
+  EXPECT_NE(Text().find("Sin_Info.hlp"), std::string::npos) << Text().substr(0, 100);
 }
 
 TEST_F(Info, ExitHidesTheWindow) {
