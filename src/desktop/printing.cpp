@@ -1,8 +1,11 @@
 #include "desktop/printing.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QBuffer>
+#include <QFile>
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QPdfWriter>
 #include <QScreen>
 #include <QTextBlockFormat>
 #include <QTextCursor>
@@ -11,6 +14,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "base/file_writer.h"
 #include "desktop/chart_module.h"
 #include "desktop/document_view.h"
 #include "desktop/text.h"
@@ -45,9 +49,9 @@ double ScreenDots() { return QGuiApplication::primaryScreen()->logicalDotsPerInc
 
 // The widest cell of each column, with a gap behind it, in pixels of the screen; measured as it is printed,
 // for a screen rounds the widths of letters.
-QList<double> ColumnsOf(const QString& text, const QFont& font, const QPrinter& printer) {
-  const QFontMetricsF metrics(font, &printer);
-  const double pixels = ScreenDots() / printer.logicalDpiX();
+QList<double> ColumnsOf(const QString& text, const QFont& font, const QPaintDevice& device) {
+  const QFontMetricsF metrics(font, &device);
+  const double pixels = ScreenDots() / device.logicalDpiX();
   QList<double> columns;
   for (const QString& line : text.split(u'\n')) {
     const QStringList cells = line.split(u'\t');
@@ -61,16 +65,20 @@ QList<double> ColumnsOf(const QString& text, const QFont& font, const QPrinter& 
 
 double PageWidth(const QPageLayout& page) { return page.paintRect(QPageLayout::Inch).width() * ScreenDots(); }
 
-// Lays the text out for the printer's pages.
-void LayOut(QTextDocument& document, QPrinter& printer, std::string_view text, const QFont& font) {
-  document.documentLayout()->setPaintDevice(&printer);
+QSizeF PageOf(const QPagedPaintDevice& device) {
+  return device.pageLayout().paintRectPixels(device.logicalDpiX()).size();
+}
+
+// Lays the text out for the pages of the printer or file.
+void LayOut(QTextDocument& document, QPagedPaintDevice& device, std::string_view text, const QFont& font) {
+  document.documentLayout()->setPaintDevice(&device);
   document.setDefaultFont(font);
   const QString lines = Unpadded(text);
   QList<QTextOption::Tab> stops;
-  const QList<double> columns = ColumnsOf(lines, font, printer);
+  const QList<double> columns = ColumnsOf(lines, font, device);
   const double width = std::accumulate(columns.begin(), columns.end(), 0.0);
   // On a page that is too narrow the columns stand closer, as far as their cells let them.
-  const double squeeze = std::min(1.0, PageWidth(printer.pageLayout()) / std::max(width, 1.0));
+  const double squeeze = std::min(1.0, PageWidth(device.pageLayout()) / std::max(width, 1.0));
   double left = 0;
   for (const double column : columns) stops.append({left += column * squeeze, QTextOption::LeftTab});
   document.setPlainText(lines);
@@ -80,22 +88,25 @@ void LayOut(QTextDocument& document, QPrinter& printer, std::string_view text, c
   QTextCursor all(&document);
   all.select(QTextCursor::Document);
   all.mergeBlockFormat(format);
-  document.setPageSize(printer.pageRect(QPrinter::DevicePixel).size());
+  document.setPageSize(PageOf(device));
+}
+
+// False if a page could not be begun.
+bool PaintText(QPainter& painter, QPagedPaintDevice& device, std::string_view text, const QFont& font) {
+  QTextDocument document;
+  LayOut(document, device, text, font);
+  const QSizeF page = document.pageSize();
+  for (int i = 0; i < document.pageCount(); ++i) {
+    if (i > 0 && !device.newPage()) return false;
+    painter.save();
+    painter.translate(0, -i * page.height());
+    document.drawContents(&painter, QRectF(QPointF(0, i * page.height()), page));
+    painter.restore();
+  }
+  return true;
 }
 
 }  // namespace
-
-// Without a printer Qt falls back to PDF, and without a file name that goes nowhere.
-bool PrintJob::Begin() {
-  if (printer_.outputFormat() == QPrinter::PdfFormat && printer_.outputFileName().isEmpty()) return false;
-  return painter_.begin(&printer_);
-}
-
-bool PrintJob::PrintPicture(std::string_view svg) {
-  if (!Begin()) return false;
-  const QRectF page(QPointF(), printer_.pageRect(QPrinter::DevicePixel).size());
-  return PaintPicture(painter_, page, svg) && printer_.printerState() != QPrinter::Error;
-}
 
 QPageLayout::Orientation PrintJob::SuggestedOrientation(std::string_view text) const {
   const QList<double> columns = ColumnsOf(Unpadded(text), FontOf(style_), printer_);
@@ -106,20 +117,56 @@ QPageLayout::Orientation PrintJob::SuggestedOrientation(std::string_view text) c
 }
 
 bool PrintJob::Print(std::string_view text) {
-  if (!Begin()) return false;
-  QTextDocument document;
-  LayOut(document, printer_, text, FontOf(style_));
-  const QSizeF page = document.pageSize();
-  for (int i = 0; i < document.pageCount(); ++i) {
-    if (i > 0 && !printer_.newPage()) return false;
-    painter_.save();
-    painter_.translate(0, -i * page.height());
-    document.drawContents(&painter_, QRectF(QPointF(0, i * page.height()), page));
-    painter_.restore();
-  }
-  return printer_.printerState() != QPrinter::Error;
+  return Run([this, text](QPainter& painter, QPagedPaintDevice& device) {
+    return PaintText(painter, device, text, FontOf(style_));
+  });
 }
 
-bool PrintJob::Close() { return !painter_.isActive() || painter_.end(); }
+bool PrintJob::PrintPicture(std::string_view svg) {
+  return Run([svg](QPainter& painter, QPagedPaintDevice& device) {
+    return PaintPicture(painter, QRectF(QPointF(), PageOf(device)), svg);
+  });
+}
+
+bool PrintJob::Run(const Painting& paint) {
+  if (printer_.outputFormat() == QPrinter::PdfFormat) return RunToFile(paint);
+  if (!painter_.begin(&printer_)) return Failed("The printer does not answer.");
+  if (!paint(painter_, printer_) || printer_.printerState() == QPrinter::Error) {
+    printer_.abort();
+    painter_.end();
+    return Failed("The printer stopped.");
+  }
+  return true;
+}
+
+bool PrintJob::RunToFile(const Painting& paint) {
+  // Without a printer Qt falls back to PDF, and without a file name that goes nowhere.
+  if (printer_.outputFileName().isEmpty())
+    return Failed("There is no printer, and no file was named to print to.");
+  QBuffer pages;
+  pages.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&pages);
+  writer.setPageLayout(printer_.pageLayout());
+  writer.setResolution(printer_.resolution());
+  writer.setTitle(printer_.docName());
+  QPainter painter;
+  if (!painter.begin(&writer) || !paint(painter, writer) || !painter.end())
+    return Failed("The pages could not be made.");
+  const std::string path = QFile::encodeName(printer_.outputFileName()).toStdString();
+  const std::string_view bytes(pages.data().constData(), static_cast<std::size_t>(pages.size()));
+  if (const int error = ReplaceFile(path, bytes)) return Failed(NotWritten(path, error));
+  return true;
+}
+
+bool PrintJob::Close() {
+  if (!painter_.isActive()) return true;
+  if (painter_.end() && printer_.printerState() != QPrinter::Error) return true;
+  return Failed("The printer did not take the last page.");
+}
+
+bool PrintJob::Failed(std::string_view problem) {
+  problem_ = problem;
+  return false;
+}
 
 }  // namespace vicetoll

@@ -3,6 +3,8 @@
 
 #include <QPainter>
 #include <QPrinter>
+#include <functional>
+#include <string>
 #include <string_view>
 
 namespace vicetoll {
@@ -10,7 +12,9 @@ namespace vicetoll {
 // In which font: that of the windows, or the document's own.
 enum class PrintStyle { Plain, Document };
 
-// A print on a printer, page by page. The last page stays open until the print is closed or goes away.
+// A print, page by page. On a printer the last page stays open until the print is closed or goes away. A file
+// holds no page back: it is written at once, whole, so that a full disk shows while somebody can be told, and
+// what was there before stays if it fails.
 class PrintJob {
  public:
   explicit PrintJob(PrintStyle style = PrintStyle::Plain) : style_(style) {}
@@ -22,21 +26,30 @@ class PrintJob {
   QPageLayout::Orientation SuggestedOrientation(std::string_view text) const;
 
   // Prints the text (code page 1252). Tabs part columns; a carriage return, a line feed or both end a line.
-  // False if the printer takes nothing, as one without paper or file name.
+  // False if it went nowhere; Problem() says why.
   bool Print(std::string_view text);
 
   // Prints a picture in SVG as large as the page allows. False as above.
   bool PrintPicture(std::string_view svg);
 
-  // Lets the last page out. False if it could not be written.
+  // Lets the last page out. False if that failed.
   bool Close();
 
+  // Why the last call failed: a sentence, in UTF-8.
+  const std::string& Problem() const { return problem_; }
+
  private:
-  bool Begin();
+  // Paints the pages; false if it cannot.
+  using Painting = std::function<bool(QPainter&, QPagedPaintDevice&)>;
+
+  bool Run(const Painting& paint);
+  bool RunToFile(const Painting& paint);
+  bool Failed(std::string_view problem);
 
   PrintStyle style_;
   QPrinter printer_;
   QPainter painter_;  // gone before the printer it paints on
+  std::string problem_;
 };
 
 }  // namespace vicetoll

@@ -19,6 +19,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
+#include <cstdio>
 
 #include "base/file_writer.h"
 #include "desktop/places.h"
@@ -73,7 +74,8 @@ Answer AnswerOf(int button) {
 QtPlatform::QtPlatform() {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
 }
-QtPlatform::~QtPlatform() = default;
+
+QtPlatform::~QtPlatform() { CloseOpenPrint(); }
 
 void QtPlatform::ShowChanges() const {
   if (beforeWaiting) beforeWaiting();
@@ -95,6 +97,10 @@ Answer QtPlatform::ShowFileMessage(std::string_view utf8, MessageButtons buttons
 }
 
 void QtPlatform::Tell(const QString& text) {
+  if (nobodyThere_) {
+    std::fprintf(stderr, "vicetoll: %s\n", qPrintable(text));
+    return;
+  }
   const std::unique_ptr<QMessageBox> box = MakeMessageBox(QString(), QString(), MessageButtons::Ok);
   box->setText(text);
   box->exec();
@@ -152,8 +158,8 @@ std::string QtPlatform::DataFolder() {
 void QtPlatform::WriteFile(const std::string& path, std::string_view bytes) { WriteWholeFile(path, bytes); }
 
 void QtPlatform::Print(std::string_view text, bool selection) {
-  if (const auto print = AskAndPrint(std::make_unique<PrintJob>(PrintStyle::Document), text, selection))
-    print->Close();
+  const auto print = AskAndPrint(std::make_unique<PrintJob>(PrintStyle::Document), text, selection);
+  if (print && !print->Close()) TellOf(*print);
 }
 
 bool QtPlatform::PrintKeepingPageOpen(std::string_view text, bool selection) {
@@ -183,7 +189,7 @@ void TakePageNumbersFrom(const QPrintDialog& dialog) {
 std::unique_ptr<PrintJob> QtPlatform::AskAndPrint(std::unique_ptr<PrintJob> print, std::string_view text,
                                                   bool selection) {
   ShowChanges();
-  openPrint_.reset();  // the next print lets the open page out
+  CloseOpenPrint();  // the next print lets the open page out
   QPrinter& printer = print->Printer();
   printer.setPageOrientation(orientation_.value_or(print->SuggestedOrientation(text)));
   QPrintDialog dialog(&printer, QApplication::activeWindow());
@@ -195,27 +201,29 @@ std::unique_ptr<PrintJob> QtPlatform::AskAndPrint(std::unique_ptr<PrintJob> prin
   // A cancelled dialog prints all the same.
   if (dialog.exec() == QDialog::Accepted) orientation_ = printer.pageLayout().orientation();
   if (print->Print(text)) return print;
-  TellNothingPrinted(printer);
+  TellOf(*print);
   return nullptr;
 }
 
-void QtPlatform::TellNothingPrinted(const QPrinter& printer) {
-  if (printer.outputFileName().isEmpty())
-    Tell(QStringLiteral("Nothing was printed: there is no printer, and no file was named to print to."));
-  else
-    Tell(QStringLiteral("Nothing was printed: %1 could not be written.").arg(printer.outputFileName()));
+void QtPlatform::CloseOpenPrint() {
+  const std::unique_ptr<PrintJob> print = std::move(openPrint_);
+  if (print && !print->Close()) TellOf(*print);
+}
+
+void QtPlatform::TellOf(const PrintJob& print) {
+  Tell(QStringLiteral("Nothing was printed. %1").arg(QString::fromStdString(print.Problem())));
 }
 
 void QtPlatform::PrintPicture(std::string_view svg, std::string_view) {
   ShowChanges();
-  openPrint_.reset();  // the next print lets the open page out
+  CloseOpenPrint();  // the next print lets the open page out
   PrintJob print;
   QPrinter& printer = print.Printer();
   printer.setPageOrientation(QPageLayout::Landscape);
   QPrintDialog dialog(&printer, QApplication::activeWindow());
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   if (dialog.exec() != QDialog::Accepted) return;
-  if (!print.PrintPicture(svg) || !print.Close()) TellNothingPrinted(printer);
+  if (!print.PrintPicture(svg) || !print.Close()) TellOf(print);
 }
 
 void QtPlatform::SetClipboardPicture(std::string_view png, std::string_view text) {

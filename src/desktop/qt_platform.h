@@ -8,8 +8,6 @@
 
 #include "base/platform.h"
 
-class QPrinter;
-
 namespace vicetoll {
 
 // The program's name, as windows and boxes without a title of their own bear it.
@@ -35,6 +33,9 @@ class QtPlatform : public Platform {
   // Run before a box or a pause lets the user see the windows: what changed must be shown by then.
   std::function<void()> beforeWaiting;
 
+  // The run is ended from outside: what there is to tell goes to standard error, and nothing is asked.
+  void NobodyThere() { nobodyThere_ = true; }
+
   MonthAndYear Now() override;
   Answer ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) override;
   Answer ShowFileMessage(std::string_view utf8, MessageButtons buttons) override;
@@ -57,11 +58,13 @@ class QtPlatform : public Platform {
   std::unique_ptr<PrintJob> AskAndPrint(std::unique_ptr<PrintJob> print, std::string_view text,
                                         bool selection);
   void Tell(const QString& text);
-  void TellNothingPrinted(const QPrinter& printer);
+  void TellOf(const PrintJob& print);
+  void CloseOpenPrint();
   void ShowChanges() const;
 
   // A print whose last page waits for the next print or the end of the run.
   std::unique_ptr<PrintJob> openPrint_;
+  bool nobodyThere_ = false;
   // As the user left it in the last dialog that was not cancelled.
   std::optional<QPageLayout::Orientation> orientation_;
 };

@@ -1,11 +1,13 @@
 #include "desktop/run_program.h"
 
+#include <csignal>
 #include <new>
 
 #include "base/fault.h"
 #include "desktop/desktop.h"
 #include "desktop/look.h"
 #include "desktop/qt_platform.h"
+#include "desktop/termination.h"
 
 namespace vicetoll {
 namespace {
@@ -49,7 +51,13 @@ int RunProgram(GuardedApplication& application, const std::string& file) {
   ApplyLook(application);
   // Windows hide and come back; the program ends when the core says so.
   application.setQuitOnLastWindowClosed(false);
+  // Beyond the shell's limit for files a write fails, and does not kill the program.
+  std::signal(SIGXFSZ, SIG_IGN);
   QtPlatform platform;
+  const Termination termination([&platform](int signal) {
+    platform.NobodyThere();
+    QCoreApplication::exit(128 + signal);
+  });
   int status = 1;
   try {
     Program program(platform);

@@ -8,8 +8,8 @@
 #include <QTimer>
 #include <iostream>
 
-#include "desktop/chart_widget.h"
 #include "desktop/activation.h"
+#include "desktop/chart_widget.h"
 #include "desktop/document_view.h"
 #include "desktop/form_window.h"
 #include "desktop/grid_model.h"
@@ -252,7 +252,9 @@ FormState WidgetStage::Read(Form& form) {
   return state;
 }
 
-std::vector<std::string> WidgetStage::Entries(DropDownList& list) { return Widget<BlueList>(list).Entries().All(); }
+std::vector<std::string> WidgetStage::Entries(DropDownList& list) {
+  return Widget<BlueList>(list).Entries().All();
+}
 
 std::string WidgetStage::Text(Control& control) { return TextOf(Widget<QWidget>(control)); }
 

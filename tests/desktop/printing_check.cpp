@@ -1,0 +1,89 @@
+// Prints that fail, and runs that are ended from outside.
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <csignal>
+
+#include "desktop/printing.h"
+#include "desktop/run_program.h"
+
+namespace vicetoll {
+namespace {
+
+bool PrintTo(const QString& file, PrintJob& print) {
+  print.Printer().setOutputFormat(QPrinter::PdfFormat);
+  print.Printer().setOutputFileName(file);
+  return print.Print("a report") && print.Close();
+}
+
+bool Says(const PrintJob& print, const char* words) {
+  return print.Problem().find(words) != std::string::npos;
+}
+
+TEST(FailingPrint, OnAFullDiskSaysSo) {
+  PrintJob print;
+  EXPECT_FALSE(PrintTo(QStringLiteral("/dev/full"), print));
+  EXPECT_TRUE(Says(print, "No space left on device")) << print.Problem();
+}
+
+TEST(FailingPrint, InAFolderThatIsNotThereSaysSo) {
+  PrintJob print;
+  EXPECT_FALSE(PrintTo(QStringLiteral("/no/such/report.pdf"), print));
+  EXPECT_TRUE(Says(print, "/no/such/report.pdf")) << print.Problem();
+}
+
+TEST(FailingPrint, WithoutAPrinterSaysSo) {
+  PrintJob print;
+  EXPECT_FALSE(PrintTo({}, print));
+  EXPECT_TRUE(Says(print, "no printer, and no file")) << print.Problem();
+}
+
+// A limit stands in for the disk that fills up in the middle.
+TEST(FailingPrint, LeavesTheFileThatWasThere) {
+  const QTemporaryDir room;
+  const QString name = room.filePath(QStringLiteral("report.pdf"));
+  {
+    QFile old(name);
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write("the old one");
+  }
+  rlimit before;
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit tight{500, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &tight);
+  PrintJob print;
+  const bool printed = PrintTo(name, print);
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_FALSE(printed);
+  EXPECT_TRUE(Says(print, "File too large")) << print.Problem();
+  QFile file(name);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), "the old one");
+}
+
+// Everything is there at once: whatever ends the run takes nothing away.
+TEST(Print, ToAFileIsWholeBeforeThePrintIsClosed) {
+  const QTemporaryDir room;
+  const QString name = room.filePath(QStringLiteral("report.pdf"));
+  PrintJob print;
+  print.Printer().setOutputFormat(QPrinter::PdfFormat);
+  print.Printer().setOutputFileName(name);
+  EXPECT_TRUE(print.Print("a report"));
+  QFile file(name);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(file.readAll().trimmed().endsWith("%%EOF"));
+}
+
+TEST(ARunEndedFromOutside, ClosesWhatIsOpen) {
+  for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
+    QTimer::singleShot(50, [signal] { std::raise(signal); });
+    EXPECT_EQ(RunProgram(dynamic_cast<GuardedApplication&>(*QCoreApplication::instance())), 128 + signal);
+  }
+}
+
+}  // namespace
+}  // namespace vicetoll
