@@ -1,7 +1,7 @@
 #include "shell/balloons.h"
 
+#include <algorithm>
 #include <map>
-#include <ranges>
 
 #include "base/fault.h"
 #include "workspace/control_rows.h"
@@ -68,9 +68,10 @@ void Balloons::ConnectOptions(SinWorkspace& workspace) {
 
 std::string_view Balloons::OfSin::TextOn(const Control& control) const {
   // A control that has two balloons shows the one attached last.
-  for (const Balloon& balloon : balloons | std::views::reverse)
-    if (balloon.control == control.Name()) return balloon.text;
-  return {};
+  const auto last = std::find_if(balloons.rbegin(), balloons.rend(), [&control](const Balloon& balloon) {
+    return balloon.control == control.Name();
+  });
+  return last == balloons.rend() ? std::string_view() : last->text;
 }
 
 std::string_view Balloons::TextFor(int position, const Control& control) const {
