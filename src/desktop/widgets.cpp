@@ -181,7 +181,7 @@ int BlueList::Search(const QString& letter, int from) {
   if (!sinceTyped_.isValid() || sinceTyped_.hasExpired(kTypingPause)) typed_.clear();
   sinceTyped_.start();
   typed_ += letter;
-  const int found = FindTyped(Entries(), FromQt(typed_), from);
+  const int found = FindTyped(Entries().All(), FromQt(typed_), from);
   // "jun -" means no other entry than "jun".
   if (found == -1) typed_.chop(letter.size());
   return found;
