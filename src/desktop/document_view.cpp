@@ -122,9 +122,9 @@ void DocumentEdit::insertFromMimeData(const QMimeData* source) {
 
 // Qt's own would give plain blanks for those that keep words together.
 QMimeData* DocumentEdit::createMimeDataFromSelection() const {
-  auto* data = new QMimeData;
-  data->setText(textCursor().selectedText().replace(QChar::ParagraphSeparator, u'\n'));
-  return data;
+  auto* selected = new QMimeData;
+  selected->setText(textCursor().selectedText().replace(QChar::ParagraphSeparator, u'\n'));
+  return selected;
 }
 
 void DocumentEdit::KeepTyped(const std::string& text) {

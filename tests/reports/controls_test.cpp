@@ -230,12 +230,14 @@ TEST_F(DocumentTextTest, HasRoomForLinesThatCanBeShown) {
   text.SetText("12345\r\n12345");
   text.Select(2, 8);  // leaves two characters before and two behind
   EXPECT_EQ(text.SelText(), "345\r\n123");
-  EXPECT_TRUE(text.HasRoomFor(std::string(kLongestLine - 4, 'x')));
-  EXPECT_FALSE(text.HasRoomFor(std::string(kLongestLine - 3, 'x')));
-  EXPECT_TRUE(
-      text.HasRoomFor(std::string(kLongestLine - 2, 'x') + "\n" + std::string(kLongestLine - 2, 'x')));
-  EXPECT_FALSE(text.HasRoomFor(std::string(kLongestLine - 1, 'x') + "\n"));
-  EXPECT_FALSE(text.HasRoomFor("\n" + std::string(kLongestLine + 1, 'x') + "\n"));
+  const std::string longest(kLongestLine, 'x');
+  const auto cut = [&longest](int characters) { return longest.substr(characters); };
+  EXPECT_TRUE(text.HasRoomFor(cut(4)));
+  EXPECT_FALSE(text.HasRoomFor(cut(3)));
+  EXPECT_TRUE(text.HasRoomFor(cut(2).append("\n").append(cut(2))));
+  EXPECT_FALSE(text.HasRoomFor(cut(1).append("\n")));
+  EXPECT_FALSE(text.HasRoomFor(cut(2).append("\nx\n").append(cut(1))));
+  EXPECT_FALSE(text.HasRoomFor(std::string("\nx").append(longest).append("\n")));
 }
 
 }  // namespace
