@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // chart-probe: what the growth chart of the longest report costs, both sides of smoking over 165 years, in
 // milliseconds until it is painted: the first click on its button, which loads what draws charts, a later
 // click, following a press and following a radio, and a move of the cursor; medians but for the first.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the core costs: months, periods, the chain of a side, and what a user waits for in a workspace.
 // Ends with a table of the figures and their targets.
 #include <benchmark/benchmark.h>

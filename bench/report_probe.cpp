@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // report-probe: what the largest report costs from the click to the painted window, in milliseconds. Both
 // sides of smoking over 165 years, about 2,000 months, in the grid and in the two layouts of the document;
 // medians.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How long the reports take to build, by the number of their months. The counter is seconds a row.
 #include <benchmark/benchmark.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // start-probe: what the start of the program costs. It starts itself anew with the time in its environment,
 // and prints, in one line: milliseconds from exec to the first painted window, peak memory in MiB by then,
 // milliseconds of the first switch to another sin until that is painted, and peak memory by then.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // tabs-probe: what 3,000 changes of tab cost, in milliseconds each and in memory: the rate lists of the TOTAL
 // tab get their 101 entries again at each. Then what the list of many entries costs when it is opened.
 #include <QApplication>

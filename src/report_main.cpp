@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // vicetoll-report: the reports of files of entries, without a window.
 #include <malloc.h>
 

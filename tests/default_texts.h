@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the value lists of each sin show after a load.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Asks what fault a piece of code ends in.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A program that runs, the world it runs in, and the hands of its user.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rooms of src/: what their files include, against the list in docs/architecture.md.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Months, years and counts are signed 16-bit numbers whose overflow is a fault, never a wrapped value.
 #pragma once
 

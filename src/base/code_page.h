@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's texts are eight-bit, code page 1252; the world outside speaks Unicode.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one exception of the system: a fault that ends the run.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Writing files so that whatever happens the old one or the new one is there, whole.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's texts end their lines in CR LF; what shows them ends them in LF.
 #pragma once
 

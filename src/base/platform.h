@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one door to the outside world. Tests bring their own.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A world outside that stands still and answers nothing: for a program that no user sees.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Past and future: the two sides of a sin. One code serves both; these are the words in which they differ.
 #pragma once
 

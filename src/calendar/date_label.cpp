@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/date_label.h"
 
 #include "base/checked_int.h"

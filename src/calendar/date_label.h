@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Months as text. A DateLabel such as "Jun - 1915" is the only date type: the month is its first three
 // characters, the year its last four. Months and years are checked 16-bit numbers.
 #pragma once

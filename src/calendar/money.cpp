@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/money.h"
 
 #include "calendar/number_text.h"

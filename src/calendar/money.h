@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Money as text, in the currency of the run.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/month_list.h"
 
 #include "base/checked_int.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Numbers as text and back, without a locale: decimal point, comma for thousands.
 //
 // Amounts live as text between the steps of a calculation, so what stands here is part of the

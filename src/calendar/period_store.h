@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The data of a run: four periods for each side of each sin. Nothing of it outlives the run.
 #pragma once
 

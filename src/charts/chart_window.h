@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A window around a chart: the chart, and the buttons that take its picture along.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the growth chart of a sin shows: month by month over past, gap and future, the running cost out of
 // pocket and what it would have grown to.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "charts/growth_window.h"
 
 #include "charts/chart_text.h"

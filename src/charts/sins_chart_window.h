@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The chart over all sins: the amounts of the table, as it shows them.
 #pragma once
 

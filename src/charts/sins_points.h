@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the chart over all sins shows: a bar for each sin, out of pocket and with interest.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A chart: months with two running amounts, or bars. It holds what is drawn as values; how it is drawn is the
 // view's affair.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Controls that are on or off: options, radios, check boxes.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a control is: state with a name, events that a user can raise, a listener that hears of changes.
 //
 // Controls are the model of the windows. The program's rules read and write them; a widget or a test

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A text of many lines that a user may edit, with a selection.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A drop-down list: entries, a text, and the position of the entry that the text is.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The entries of a drop-down list, some of which come again and again.
 #pragma once
 

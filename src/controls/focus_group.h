@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Controls that are one stop for the Tab key: within it the arrow keys go from one to another.
 #pragma once
 

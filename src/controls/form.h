@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A window: a set of named controls, with caption, size and whether it is shown.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A grid of texts: a heading row over rows of cells, and a selection of cells.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The line at the foot of a window: what to do next, what a control is for, what has just come of an action.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "controls/spoken_changes.h"
 
 #include "controls/drop_down_list.h"

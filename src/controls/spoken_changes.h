@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What somebody who listens to a window must be told after an action: what its lists and boxes show by now,
 // where that is not his own doing.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What controls are called by those who cannot see where they stand. A name is never the value.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Finding an entry of a list by what a person types.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What assistive tools are told where Qt tells them too little, or nothing.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A balloon of help: a rounded body with a stem that points at what it explains.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where a balloon goes: at what it explains, clear of the pointer and of the control that comes next.
 #pragma once
 

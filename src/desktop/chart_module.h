@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Shows chart controls, with the module that draws them.
 #pragma once
 

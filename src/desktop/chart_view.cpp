@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Draws charts with QCustomPlot. Nothing else of the program knows that library.
 #include <qcustomplot.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A widget that draws a chart. What draws it is a module of its own, loaded when the first chart is shown: a
 // program that shows none does not pay for it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Shows one control as a widget, and hands on what the user does to it.
 #pragma once
 

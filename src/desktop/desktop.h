@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The windows on the screen: one for each form of the program that was ever shown.
 //
 // Controls are the truth. What a user does enters the core in one place, Desktop::Enter; afterwards the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A document text as an editor; the help window's text as a page that is read.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One window of the program: a widget for each control of a form, with the control's name.
 #pragma once
 

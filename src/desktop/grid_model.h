@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rows of a grid, as a table view asks for them.
 #pragma once
 

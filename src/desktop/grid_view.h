@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A grid as a table: the heading row is the view's header, the rest is a model over the control's rows.
 #pragma once
 

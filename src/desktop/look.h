@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How the windows look: style, sizes, what widgets are drawn with, and texts that fit where they stand. The
 // colours are in themes.h.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the program finds what belongs to it: in any prefix it is installed in, and in the build tree.
 #pragma once
 

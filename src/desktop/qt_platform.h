@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The world outside as Qt reaches it.
 #pragma once
 

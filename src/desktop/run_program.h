@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A whole run in windows, from the first to the last.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How large the windows are. Forms speak of twips; how many pixels a twip is, is known here and nowhere else,
 // and lengths and fonts of widgets follow from it, so that everything grows and shrinks evenly.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Texts between the core, which speaks eight-bit code page 1252, and Qt, which speaks Unicode.
 #pragma once
 

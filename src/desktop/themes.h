@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours of the windows: one table, a column for each theme. Widgets ask for a tone by its name and get
 // the colour of the theme in force, which is the one that goes with the palette of the system:
 //

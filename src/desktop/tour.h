@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A short walk through the program, for machines without a display.
 #pragma once
 

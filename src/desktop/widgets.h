@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The widgets that controls are shown by. They look like something and pass on what a user does; what they
 // show is set from outside, and a user's action changes nothing of it by itself.
 #pragma once

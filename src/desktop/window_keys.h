@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the keyboard does in a window beyond what widgets do by themselves: one Tab stop for each group,
 // arrows within it, Enter, Escape, and the keys that mean the same everywhere.
 #pragma once

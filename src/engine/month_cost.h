@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What one month of a period costs.
 //
 // A month has DaysPerMonth days, always: no calendar month and no leap year reaches a cost. Whoever adds

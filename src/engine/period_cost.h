@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a period costs, and what its money would have grown to.
 //
 // The months of a period are walked one by one; a balance passes between the operations as the text that

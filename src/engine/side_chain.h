@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How the periods of a side hang together: costs, total, and the balance carried from period to period.
 //
 // Every balance is formatted before the next step reads it: what a box shows is what goes on.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a user entered, as a plain value: what is saved, and what opening a file brings back.
 //
 // Months are labels ("Jun - 2031"), amounts decimal texts without a symbol ("5.00"), rates whole percent a

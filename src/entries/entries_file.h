@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Entries as a file: UTF-8 JSON, described in docs/entries.md.
 #pragma once
 

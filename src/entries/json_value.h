@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A value of a JSON text together with its place, for messages that name it. Included by sources only: the
 // library's header stays out of ours.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The amounts that a sin's lists offer, as entries name them: decimal texts without a symbol.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The months of a report as the text of the document view, in its two layouts: a block of labelled lines a
 // month, or a table whose cells are separated by tabs. Lines end in CR LF; figures keep their padding, so
 // that many lines end in blanks.

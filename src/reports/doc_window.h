@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The document results window: the months of a report as a text that the user may read, edit, switch
 // between two layouts, print and save.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A report of a workspace as a value: its months and where they lead, for whoever shows, draws or writes
 // them. Asking for one changes nothing in the workspace or on the screen, and it shows no message: a grid
 // that stands open keeps its numbers.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The columns of a report: what each shows of a month, in the grid and in the document's table, and which
 // cost classes have it. Both layouts, and whatever writes a report to a file, read this one table.
 #pragma once

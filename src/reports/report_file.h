@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Saving a report: the dialog, and the name that it keeps.
 #pragma once
 

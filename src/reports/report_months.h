@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The months of a report: the one walk over periods, gaps and disabled periods. It reads plain values and
 // changes nothing; grid rows, document text, charts and files are renderings of the months it yields.
 //

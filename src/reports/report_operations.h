@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The operations of the month-by-month reports, as a table of names can call them. Each stands for its
 // pair of names: BuildSpdRowsPast and ...Future, BuildDocTextPast and ...Future.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a report reads of a workspace, as values; and the fields in which a workspace keeps a report's state.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the two report windows share: a report over the width of the window, three buttons below it, and a
 // right-click menu that opens on both.
 #pragma once

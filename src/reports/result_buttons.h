@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The result buttons of a workspace while a report window is open: closed when it opens, given back when
 // it is left.
 #pragma once

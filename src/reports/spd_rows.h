@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The months of a report as rows of the grid.
 #pragma once
 

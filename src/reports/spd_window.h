@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The spreadsheet results window: month rows in a grid, to read, print, save and copy.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The reports over both sides: the past, the months to the future, the future.
 #pragma once
 

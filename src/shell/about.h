@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the program says of itself: version, licence, what it is made with.
 #pragma once
 

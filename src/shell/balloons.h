@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Balloon help: which balloons hang at which workspace, and the two levels on which they are switched.
 #pragma once
 

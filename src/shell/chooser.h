@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The chooser: leaving one sin for another. A switch saves and resets nothing; every workspace goes on
 // existing, hidden, as the user left it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/combined_results.h"
 
 #include "base/fault.h"

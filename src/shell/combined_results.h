@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The table over all sins: twelve rows, six columns of money, a total for each column.
 //
 // It has no arithmetic of its own for the sins: it reads what their workspaces, hidden or not, show. Its

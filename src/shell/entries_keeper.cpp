@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/entries_keeper.h"
 
 #include <exception>
@@ -5,9 +6,9 @@
 
 #include "base/fault.h"
 #include "base/file_writer.h"
+#include "base/quiet_platform.h"
 #include "entries/entries_file.h"
 #include "shell/program.h"
-#include "base/quiet_platform.h"
 
 namespace vicetoll {
 namespace {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The file that keeps a user's entries: opening, saving, and what is asked before something is lost.
 #pragma once
 

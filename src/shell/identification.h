@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The identification sequence: the TOTAL tab fades away piece by piece, and a text, typed letter by letter
 // on the bare window, names the writer. The only place of the program that serves events while it works.
 #pragma once

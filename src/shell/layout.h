@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The layout of a workspace beyond its design: the window's size and what follows it, in twips (1440 to the
 // inch).
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program: all windows of a run and what they share.
 //
 // There is no main routine beyond this: making a Program creates the Smoking workspace, and that creation

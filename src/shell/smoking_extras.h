@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What only the Smoking workspace has: the euro button, the advertising panels, the web button.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The strip at the foot of a workspace, beside the hint line: what the program offers beyond the sin's own
 // rules. Its buttons are made after all others, so that they come last for the Tab key and take no letter
 // away.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The catalogue: what makes one workspace into twelve sins. Plain data, read by every other room.
 //
 // A sin differs from the others only in its row. Misspellings, asymmetries between past and future, and

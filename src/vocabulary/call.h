@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // From the texts of a call to the arguments of a function: the function's signature says what to read.
 //
 // Each parameter is either lent by the run (the workspace, the side of the name, a window) or read from the

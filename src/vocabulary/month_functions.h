@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a month costs, as the vocabulary asks for it: any one month, and its figures as a table of texts.
 //
 // The program itself walks the months of a period one after the other (MonthWalk) and makes its texts where

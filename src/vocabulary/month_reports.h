@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The months of a single period, or of the stretch between two, as the vocabulary asks for them one by one.
 //
 // The program lists whole sides (BuildSpdRows, BuildDocText). These go through the same walk, grid rows and

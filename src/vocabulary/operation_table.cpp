@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "vocabulary/operation_table.h"
 
 #include "calendar/date_label.h"

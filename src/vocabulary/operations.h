@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every public operation under its name: those of a workspace as its sin names them, and the shared ones.
 //
 // The names are the system's vocabulary (CommitPeriodPast, SetDrinkingParametersFuture,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The total of a period, as the vocabulary asks for it: by a number of months, without dates. The program
 // carries the balances of a side from period to period (engine/side_chain.h), by the same walk.
 #pragma once

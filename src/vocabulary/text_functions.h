@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Texts as the vocabulary handles them: money that is given as text, and padding.
 #pragma once
 

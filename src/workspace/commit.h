@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The press of the set button, the steps between periods, and the radios that take a period out of the
 // sums and put it back.
 #pragma once

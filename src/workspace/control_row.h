@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One control of a workspace's window, whole in one row: what it is, who has it, where it stands, what it
 // says and shows, what explains and names it, and by which field the rules reach it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "workspace/control_rows.h"
 
 // The short names of the table stay in it.

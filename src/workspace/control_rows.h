@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The design of a workspace's window: its controls, one row each, in the order of reading, which is that of
 // the Tab key. Making, placing, naming, balloons and fading are read off the rows: a new control is a row
 // here, and nothing else.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The date rules: which months the date lists offer.
 //
 // There is no validation of a date after it was chosen. A date list is rebuilt when it receives the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the events of a workspace's own controls do.
 #pragma once
 

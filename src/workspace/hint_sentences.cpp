@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "workspace/hint_sentences.h"
 
 #include "base/code_page.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the line at the foot of a workspace says: the next step, and what has come of the last one. The texts
 // are in UTF-8.
 #pragma once

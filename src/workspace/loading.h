@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Bringing a side to life: value lists, defaults, first values in the store, the screen of period 1.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The movers between screen and store, and the quantity lists that they bring back.
 //
 // SetSmokingParametersPast, GetDrinkingParametersFuture and their like are the four operations below,

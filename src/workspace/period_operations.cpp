@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "workspace/period_operations.h"
 
 #include "workspace/parameters.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The period operations of a workspace: the engine's, fed from the workspace's store and lists.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The reasonable cost of Coffeeing and Watering: a list that follows the gross cost.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What all windows of a run share. One run, one session: a test can run many side by side.
 #pragma once
 

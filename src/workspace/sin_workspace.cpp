@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "workspace/sin_workspace.h"
 
 #include "workspace/events.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window of one sin: three tabs, PAST, FUTURE and TOTAL, over one set of rules.
 //
 // There is one class and twelve instances; what differs is the sin's row of the catalogue. The two sides

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The results of a side in their boxes, and the TOTAL tab.
 #pragma once
 

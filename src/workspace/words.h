@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Names and captions with gaps, as the rows of the design have them: "Period {n}: {Future} {title}".
 //
 //   {Fut}     the side in names of controls: Past or Fut

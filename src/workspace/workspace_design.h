@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Makes a workspace's window from the rows of its design.
 #pragma once
 

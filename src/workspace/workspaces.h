@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The twelve workspaces, as those see them who stand above a single one.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the focus goes in a window: within groups, from a control that lost it, at the Escape key.
 #include <gtest/gtest.h>
 

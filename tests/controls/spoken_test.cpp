@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What those who listen are told: the names of controls, and what changed without their doing.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The windows for those who listen: what Qt's accessibility interface says of them.
 #include <QAccessible>
 #include <set>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Bringing a window to the front, for the checks of widgets.
 #pragma once
 

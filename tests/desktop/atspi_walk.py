@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Reads the first window over AT-SPI: prints its tree, and fails where something that takes the focus has no
 name or is named by its value. Then presses the set button and waits for what is announced."""
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What holds for the drawn charts beyond what scenarios can say: keys, pointing, zoom, pictures.
 #include <gtest/gtest.h>
 

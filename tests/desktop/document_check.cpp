@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the editor of a report does with texts that are out of the ordinary.
 #include <gtest/gtest.h>
 #include <sys/stat.h>

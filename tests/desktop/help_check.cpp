@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The help that windows give: balloons and their places, the line at the foot, windows beside a workspace.
 #include <gtest/gtest.h>
 

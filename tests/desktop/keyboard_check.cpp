@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The windows by keyboard alone.
 #include <QAbstractButton>
 #include <QAbstractItemView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // window-pictures FOLDER [--screen WIDTHxHEIGHT] [--font POINTS] [--theme light|dark|contrast]: draws every
 // window and tab to PNG files, to be looked at, as they are on such a screen (1920x1080 if none is told) with
 // that size of the system font. Screens of more dots to a pixel are Qt's: QT_SCALE_FACTOR=2.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Prints that fail, and runs that are ended from outside.
 #include <gtest/gtest.h>
 #include <sys/resource.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How large the windows are: what zoom does, that no figure is shown in part, that a small screen scrolls and
 // a report makes use of its room.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // scenario-desktop FILE: plays a scenario on the real widgets. "-" reads standard input. Without a word
 // about the platform it draws nowhere.
 #include <QApplication>

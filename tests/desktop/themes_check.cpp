@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours of the windows: what is written can be read, what is drawn can be seen, in every theme; and the
 // windows follow the system from one theme to the other.
 #include <gtest/gtest.h>

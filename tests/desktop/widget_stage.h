@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The stage made of real widgets: a user's hands are mouse, keyboard and focus events, what is seen is
 // read off the widgets, and so is what a user cannot reach.
 #pragma once

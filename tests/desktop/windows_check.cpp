@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What holds for the real windows beyond what scenarios can say: that every control is there, to be seen,
 // reached and named; that widgets show what controls say; what closing, help and printing do.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A whole program in windows, for tests that look at them and operate them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Entries from file to windows and back.
 #include <gtest/gtest.h>
 

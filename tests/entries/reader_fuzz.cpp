@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // entries-fuzz: spoils good files of entries in bytes, in structure and in values, and reads them. Each is
 // read or refused with a sentence; what is read can be opened and saved again. Best built with the
 // sanitizers.

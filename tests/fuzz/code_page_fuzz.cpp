@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The code page and Unicode, from any bytes.
 #include <string>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Month labels from any bytes: the first four are a month and a step, the rest two labels, parted by a line
 // feed.
 #include <string>

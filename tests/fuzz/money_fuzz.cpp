@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Money as text and back, in both currencies, from any bytes: the first says which format, the rest is the
 // text.
 #include <cmath>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Numbers as text and back, from any bytes.
 #include <cmath>
 #include <cstring>

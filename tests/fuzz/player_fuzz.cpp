@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Scenario files, from any bytes. A run ends in one of the three ways that a driver knows.
 #include <sstream>
 

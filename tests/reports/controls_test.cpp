@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two controls that only the report windows have.
 #include <gtest/gtest.h>
 

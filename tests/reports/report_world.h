@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Workspaces and report windows on a fake outside world, with periods written straight into the store.
 #pragma once
 

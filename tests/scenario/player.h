@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Plays a scenario file: reads its lines, has a stage do what they say, and prints the answers.
 #pragma once
 

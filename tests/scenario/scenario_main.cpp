@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // scenario FILE: plays a scenario on the bare controls. "-" reads standard input.
 #include <clocale>
 #include <locale>

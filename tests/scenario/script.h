@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The lines of a scenario file: taking them apart, and writing texts as they write them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The outside world of tests: a fixed clock, queued answers, and a record of what was asked of it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a scenario is played on: the bare controls, or widgets that show them.
 //
 // A stage does what a user does and reads what the user would see. Both stages run the same program; only

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/fault.h"
 #include "fault_of.h"
 #include "program_fixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // entries-soak: what random users set is saved, opened in a fresh program, and must show the same: the result
 // boxes of every sin, all months of all reports, the points of the growth chart, the table over all sins, the
 // TOTAL tab. Then both programs are used alike for a while, and must still agree.

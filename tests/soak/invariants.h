@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What holds after every action of a user, whatever was done before.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A user without a plan: does whatever can be reached, the more telling things more often.
 #pragma once
 

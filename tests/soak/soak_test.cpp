@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // soak: random users, seeded, through sessions of hundreds of actions, with what must hold checked after
 // each of them. A failure is cut down to the actions it needs and written as a scenario file.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "soak/user_action.h"
 
 #include "scenario/script.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One thing a user does, as data: done to a program, and written as the lines of a scenario.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rows of the design: what does not fit is refused by name.
 #include "workspace/control_rows.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What stands on a workspace before anyone has touched it.
 #include <set>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which event opens which button, and what the tabs and panels do.
 #include "workspace/events.h"
 

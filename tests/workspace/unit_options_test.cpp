@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The options of quantity and cost: units, packs or cigarettes, percent or initial and final cost.
 #include "calendar/number_text.h"
 #include "program_fixture.h"
