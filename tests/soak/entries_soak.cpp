@@ -223,9 +223,12 @@ std::string Check(std::uint64_t seed, const Options& options, std::uint64_t& per
       ++done;
     }
   if (program.Ended()) return {};
-  // Who looks at the identification sequence sees no boxes.
-  for (const char* sin : {"Smoking", "Interring"})
-    if (program.At(SinPosition(sin)).Get<Button>("cmdRestoreProgram").Visible()) return {};
+  // Who looks at the identification sequence sees no boxes; once it is undone, those of periods that are not
+  // set are to be seen as well.
+  for (const char* sin : {"Smoking", "Interring"}) {
+    const SinWorkspace& ws = program.At(SinPosition(sin));
+    if (ws.identificationOver || ws.Get<Button>("cmdRestoreProgram").Visible()) return {};
+  }
 
   const Entries entries = Capture(program);
   for (const SinEntries& sin : entries.sins) periods += sin.past.periods.size() + sin.future.periods.size();
