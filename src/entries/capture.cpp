@@ -69,8 +69,10 @@ CountedIn ResultsBy(const SinWorkspace& ws, Side side, const SideEntries& entrie
   double all = 0, on = 0;
   for (int p = 1; p <= count; ++p) {
     const double cost = MoneyToNumber(c.txtResultsPeriod(p).Text());
+    const bool enabled = entries.periods[p - 1].enabled;
+    if (!enabled && p > 1) return CountedIn::Switch;  // a press turns these on
     all += cost;
-    if (entries.periods[p - 1].enabled) on += cost;
+    if (enabled) on += cost;
   }
   const double total = MoneyToNumber(c.txtResultsTotal->Text());
   const bool restIsZero = count == kPeriodCount || c.txtResultsPeriod(count + 1).Text() == "0";
