@@ -199,7 +199,8 @@ namespace {
 bool AppendCents(std::string& out, double value) {
   const double size = std::fabs(value);
   if (!(size < kFastLimit)) return false;
-  const auto cents = static_cast<std::uint64_t>(size * 100 + 0.5);
+  // Whether this is the right number of cents is asked in the next line.
+  const auto cents = static_cast<std::uint64_t>(size * 100 + 0.5);  // NOLINT(bugprone-incorrect-roundings)
   if (static_cast<double>(cents) / 100 != size) return false;
   char text[24];
   char* end = std::to_chars(text, text + sizeof text, cents / 100).ptr;

@@ -386,7 +386,7 @@ class MonthScene : public Scene {
     plot.layer(QStringLiteral("cursor"))->setMode(QCPLayer::lmBuffered);
     cursor_ = new CursorItem(&plot);
     cursor_->setLayer(QStringLiteral("cursor"));
-    SetInView({0, Count() - 1});
+    MonthScene::SetInView({0, Count() - 1});
   }
 
   ChartWidget::Span InView() const override { return inView_; }
