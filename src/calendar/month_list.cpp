@@ -15,6 +15,7 @@ std::vector<std::string> MonthList(const std::string& first, const std::string& 
   std::vector<std::string> labels{first};
   if (ReachesAStep(first, last, step)) {
     const int untilLast = MonthsBetween(first, last) - step;
+    if (untilLast > 0) labels.reserve(untilLast / step + 3);
     std::int16_t month = MonthNumberFromLabel(first);
     std::int16_t year = YearFromLabel(first);
     for (int done = 0; done < untilLast; done += step) {

@@ -48,13 +48,9 @@ void Control::SetPlace(const Place& place) {
   Changed();
 }
 
-bool Control::Reachable() const {
-  if (!form_.Shown()) return false;
-  for (const Control* c = this; c != nullptr; c = c->Container()) {
-    if (!c->Visible() || !c->Enabled()) return false;
-    if (c->Container() != nullptr && !c->Container()->ShowsPage(c->Page())) return false;
-  }
-  return true;
+bool Control::StandsInFront() const {
+  if (Container() == nullptr) return form_.Shown();
+  return Container()->ShowsPage(Page()) && Container()->Reachable();
 }
 
 void Control::TakeStateOf(const Control& other) {

@@ -104,7 +104,9 @@ class Control {
 
   // Whether a user can get at the control: its window is shown, it and all its containers are visible
   // and enabled, and it stands on the tab in front.
-  bool Reachable() const;
+  bool Reachable() const { return visible_ && enabled_ && StandsInFront(); }
+  // Whether the place where it stands is one that a user can get at.
+  bool StandsInFront() const;
 
   // Takes over what the control of the same name in another window of the same design shows. Raises no event.
   virtual void TakeStateOf(const Control& other);

@@ -10,8 +10,7 @@ namespace {
 // A step to another period fills so many lists.
 constexpr std::size_t kMostTold = 9;
 
-// What a list or box shows; nullptr for any other control. All controls of a window are asked after each
-// action of the user, so they are told apart by their kind.
+// What a list or box shows; nullptr for any other control.
 const std::string* TextOf(const Control& control) {
   switch (control.Kind()) {
     case ControlKind::List:
@@ -30,37 +29,47 @@ bool IsUsersOwnChoice(const Control& control, const Control* by) {
 
 }  // namespace
 
-SpokenChanges::Texts SpokenChanges::Shown() const {
-  Texts texts;
-  for (const auto& control : form_.Controls())
-    if (const std::string* text = TextOf(*control); text != nullptr && control->Reachable())
-      texts[control.get()] = *text;
-  return texts;
+// The window may have got controls since it was made.
+void SpokenChanges::FindWhatTells() {
+  const auto& controls = form_.Controls();
+  for (; controlsSeen_ < controls.size(); ++controlsSeen_) {
+    const Control& control = *controls[controlsSeen_];
+    if (const std::string* text = TextOf(control)) tellers_.push_back({&control, text, {}});
+    if (control.Kind() == ControlKind::TabControl) tabs_ = static_cast<const TabControl*>(&control);
+  }
 }
 
 bool SpokenChanges::CameToFront() {
-  int tabs = 0;
-  for (const auto& control : form_.Controls())
-    if (control->Kind() == ControlKind::TabControl) tabs = static_cast<const TabControl&>(*control).Tab();
-  const bool came = timesShown_ != form_.TimesShown() || tabs_ != tabs;
+  const int tab = tabs_ == nullptr ? 0 : tabs_->Tab();
+  const bool came = timesShown_ != form_.TimesShown() || tab_ != tab;
   timesShown_ = form_.TimesShown();
-  tabs_ = tabs;
+  tab_ = tab;
   return came;
 }
 
 std::string SpokenChanges::After(const Control* by) {
-  Texts now = Shown();
+  FindWhatTells();
   std::vector<const Control*> told;
   if (by != nullptr) told = form_.ResultsOf(*by);
-  if (!CameToFront() && told.empty())
-    for (const auto& control : form_.Controls()) {
-      const auto text = now.find(control.get());
-      if (text == now.end() || IsUsersOwnChoice(*control, by)) continue;
-      const auto before = known_.find(control.get());
-      if (before == known_.end() ? !text->second.empty() : before->second != text->second)
-        told.push_back(control.get());
+  const bool tellsChanges = !CameToFront() && told.empty();
+
+  // Most stand where the one before does.
+  const Control* container = nullptr;
+  int page = kAnyPage;
+  bool inFront = form_.Shown();
+  for (auto& [control, text, known] : tellers_) {
+    if (control->Container() != container || control->Page() != page) {
+      container = control->Container();
+      page = control->Page();
+      inFront = control->StandsInFront();
     }
-  known_ = std::move(now);
+    if (!inFront || !control->Visible() || !control->Enabled()) {
+      known.clear();
+    } else if (known != *text) {
+      if (tellsChanges && !IsUsersOwnChoice(*control, by)) told.push_back(control);
+      known = *text;
+    }
+  }
 
   std::string words;
   for (std::size_t i = 0; i < told.size() && i < kMostTold; ++i) {

@@ -4,7 +4,7 @@
 #pragma once
 
 #include <string>
-#include <unordered_map>
+#include <vector>
 
 #include "controls/form.h"
 
@@ -21,15 +21,22 @@ class SpokenChanges {
   std::string After(const Control* by);
 
  private:
-  using Texts = std::unordered_map<const Control*, std::string>;
+  // A list or box. `known` is what it showed after the action before, empty if it was not in front.
+  struct Teller {
+    const Control* control;
+    const std::string* text;
+    std::string known;
+  };
 
-  Texts Shown() const;
+  void FindWhatTells();
   bool CameToFront();
 
   const Form& form_;
-  Texts known_;
+  std::vector<Teller> tellers_;
+  const TabControl* tabs_ = nullptr;
+  std::size_t controlsSeen_ = 0;
   int timesShown_ = 0;
-  int tabs_ = 0;  // the tab in front
+  int tab_ = 0;  // the one in front
 };
 
 }  // namespace vicetoll

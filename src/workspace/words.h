@@ -60,6 +60,8 @@ class Words {
 
   // The text with its gaps filled. Throws std::logic_error where there is nothing to fill one with.
   std::string Fill(const Spot& spot) const;
+  // The same, in `room` where there are gaps to fill: most texts have none, and need no copy.
+  std::string_view FillIn(std::string& room, const Spot& spot) const;
 
  private:
   static constexpr std::string_view kGaps[] = {"{Fut}", "{Future}", "{title}", "{sin}",
@@ -78,7 +80,7 @@ class Words {
     return words;
   }
 
-  std::string Filling(std::string_view gap, const Spot& spot) const;
+  void AppendFilling(std::string& text, std::string_view gap, const Spot& spot) const;
 
   BySide text_;
   SinWord word_;

@@ -21,11 +21,9 @@ class Designer {
     }
   }
 
-  // The labels of a row may be made after it.
-  void Name(const DesignSection& section) {
-    section_ = &section;
-    for (const ControlRow& row : section.rows)
-      ForEachElement(row, [&](const Spot& at) { NameControl(row, at); });
+  // Comes last, as a label may be made after what it names.
+  void NameControls() const {
+    for (const Unnamed& unnamed : unnamed_) NameControl(unnamed);
   }
 
  private:
@@ -34,9 +32,16 @@ class Designer {
                            std::string(why) + ".");
   }
 
-  std::string Fill(const ControlRow& row, const Words& words, const Spot& at) const {
+  struct Unnamed {
+    const ControlRow& row;
+    Control& control;
+    Spot at;
+  };
+
+  std::string_view FillIn(std::string& room, const ControlRow& row, const Words& words,
+                          const Spot& at) const {
     try {
-      return words.Fill(at);
+      return words.FillIn(room, at);
     } catch (const std::logic_error& error) {
       Refuse(row, error.what());
     }
@@ -45,12 +50,6 @@ class Designer {
   Spot SpotOf(const ControlRow& row, int element) const {
     const int index = row.count == 0 ? kNoIndex : row.first[section_->side.value_or(Side::Past)] + element;
     return {sin_, section_->side, section_->page, index};
-  }
-
-  template <class Use>
-  void ForEachElement(const ControlRow& row, Use&& use) const {
-    if (!row.StandsIn(sin_, section_->side)) return;
-    for (int element = 0; element < std::max(row.count, 1); ++element) use(SpotOf(row, element));
   }
 
   // A row, or rows of arrays of one length.
@@ -63,14 +62,19 @@ class Designer {
   void MakeControl(const ControlRow& row, int element) {
     const Spot at = SpotOf(row, element);
     Control& control = Add(row, at);
+    if (!ws_.NamesDiffer()) Refuse(row, "there is one of that name already");
+    if (!row.labels[0].IsEmpty()) unnamed_.push_back({row, control, at});
     if (row.enter != nullptr)
       if (const char* complaint = row.enter(ws_, section_->side, control)) Refuse(row, complaint);
     Put(row, control, element);
-    if (!row.tip.IsEmpty() && (row.count == 0 || at.index >= row.firstTip))
-      control.SetToolTip(Fill(row, row.tip, at));
+    if (!row.tip.IsEmpty() && (row.count == 0 || at.index >= row.firstTip)) {
+      std::string room;
+      control.SetToolTip(FillIn(room, row, row.tip, at));
+    }
     control.SetEnabled(!row.disabled);
     control.SetVisible(!row.hidden);
-    if (auto* choice = dynamic_cast<Choice*>(&control)) Prepare(row, *choice);
+    if (row.kind == ControlKind::Option || row.kind == ControlKind::Radio)
+      Prepare(row, static_cast<Choice&>(control));
     if (row.shownText != nullptr) Show(row, control);
     if (row.align != Label::Align::Left) Require<Label>(row, control).SetAlign(row.align);
     if (!row.pages[0].empty())
@@ -78,12 +82,13 @@ class Designer {
   }
 
   Control& Add(const ControlRow& row, const Spot& at) {
-    Control::Identity identity{Fill(row, row.name, at), at.index, ContainerOf(row, at)};
-    if (ws_.Find(identity.name, identity.index) != nullptr) Refuse(row, "there is one of that name already");
+    std::string room;
+    Control* const container = ContainerOf(row, at);
+    Control::Identity identity{std::string(FillIn(room, row, row.name, at)), at.index, container};
     // The panels are an array over the tabs.
-    if (dynamic_cast<TabControl*>(identity.container) != nullptr)
+    if (container != nullptr && container->Kind() == ControlKind::TabControl)
       identity.page = at.index == kNoIndex ? at.page : at.index;
-    const std::string caption = Fill(row, row.caption, at);
+    const std::string_view caption = FillIn(room, row, row.caption, at);
     switch (row.kind) {
       case ControlKind::List:
         return ws_.Add<DropDownList>(std::move(identity));
@@ -109,15 +114,16 @@ class Designer {
   }
 
   Control* ContainerOf(const ControlRow& row, const Spot& at) {
-    const std::string name = Fill(row, row.container, at);
+    std::string room;
+    const std::string_view name = FillIn(room, row, row.container, at);
     if (name.empty()) return nullptr;
     // Most rows stand where the one before does.
     if (name == lastContainerName_) return lastContainer_;
     Control* container = ws_.Find(name);
-    if (container == nullptr) Refuse(row, "its container " + name + " is not there");
+    if (container == nullptr) Refuse(row, "its container " + std::string(name) + " is not there");
     const ControlKind kind = container->Kind();
     if (kind != ControlKind::Frame && kind != ControlKind::Panel && kind != ControlKind::TabControl)
-      Refuse(row, "its container " + name + " holds no controls");
+      Refuse(row, "its container " + std::string(name) + " holds no controls");
     lastContainerName_ = name;
     return lastContainer_ = container;
   }
@@ -150,17 +156,18 @@ class Designer {
       Require<TextBox>(row, control).SetText(row.shownText);
   }
 
-  void NameControl(const ControlRow& row, const Spot& at) const {
-    if (row.labels[0].IsEmpty()) return;
+  void NameControl(const Unnamed& unnamed) const {
+    const auto& [row, control, at] = unnamed;
     std::vector<const CaptionedControl*> labels;
+    std::string room;
     for (const Words& words : row.labels) {
       if (words.IsEmpty()) continue;
-      const std::string name = Fill(row, words, at);
+      const std::string_view name = FillIn(room, row, words, at);
       const Control* label = ws_.Find(name);
-      if (label == nullptr) Refuse(row, "its label " + name + " is not there");
+      if (label == nullptr) Refuse(row, "its label " + std::string(name) + " is not there");
       labels.push_back(&Require<const CaptionedControl>(row, *label));
     }
-    ws_.Find(Fill(row, row.name, at), at.index)->SetLabelledBy(std::move(labels));
+    control.SetLabelledBy(std::move(labels));
   }
 
   template <class T, class From>
@@ -176,6 +183,7 @@ class Designer {
   Control* lastContainer_ = nullptr;
   std::string lastContainerName_;
   std::map<const Control*, ChoiceGroup*> groups_;
+  std::vector<Unnamed> unnamed_;
 };
 
 }  // namespace
@@ -183,7 +191,7 @@ class Designer {
 void DesignWorkspace(SinWorkspace& workspace, std::span<const DesignSection> design) {
   Designer designer(workspace);
   for (const DesignSection& section : design) designer.Make(section);
-  for (const DesignSection& section : design) designer.Name(section);
+  designer.NameControls();
 }
 
 void FitPanels(SinWorkspace& workspace) {
