@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/date_label.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
+
 #include "base/checked_int.h"
 #include "calendar/number_text.h"
 
@@ -10,21 +15,28 @@ namespace {
 constexpr std::string_view kMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                         "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 
-char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+constexpr char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
-bool EqualIgnoringCase(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i)
-    if (Upper(a[i]) != Upper(b[i])) return false;
-  return true;
+// Three letters as one number, alike for small and capital ones.
+constexpr std::uint32_t KeyOf(std::string_view letters) {
+  std::uint32_t key = 0;
+  for (char c : letters.substr(0, 3)) key = key << 8 | static_cast<unsigned char>(Upper(c));
+  return key;
 }
+
+constexpr auto kMonthKeys = [] {
+  std::array<std::uint32_t, kMonthsPerYear> keys{};
+  for (std::size_t i = 0; i < keys.size(); ++i) keys[i] = KeyOf(kMonths[i]);
+  return keys;
+}();
 
 }  // namespace
 
 std::int16_t MonthNumberFromLabel(std::string_view label) {
-  for (std::int16_t month = 1; month <= kMonthsPerYear; ++month)
-    if (EqualIgnoringCase(label.substr(0, 3), kMonths[month - 1])) return month;
-  return 0;
+  if (label.size() < 3) return 0;
+  const auto found = std::find(kMonthKeys.begin(), kMonthKeys.end(), KeyOf(label));
+  return found == kMonthKeys.end() ? std::int16_t{0}
+                                   : static_cast<std::int16_t>(found - kMonthKeys.begin() + 1);
 }
 
 std::int16_t YearFromLabel(std::string_view label) {
@@ -40,10 +52,10 @@ std::int16_t YearFromLabel(std::string_view label) {
 
 std::string MakeDateLabel(std::int16_t month, std::int16_t year) {
   if (month < -1 || month > kMonthsPerYear + 1) return {};
-  std::string label(kMonths[(month + kMonthsPerYear - 1) % kMonthsPerYear]);
-  label += " - ";
-  label += std::to_string(year);
-  return label;
+  // Lists are made of hundreds of them: written in place, they need one copy.
+  char label[16] = "mmm - ";
+  kMonths[(month + kMonthsPerYear - 1) % kMonthsPerYear].copy(label, 3);
+  return std::string(label, std::to_chars(label + 6, label + sizeof label, year).ptr);
 }
 
 std::int16_t MonthsBetween(std::string_view label, std::string_view other) {
