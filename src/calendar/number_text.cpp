@@ -67,8 +67,8 @@ std::string RoundedDigits(const Decimal& decimal, int decimals) {
 std::optional<std::uint64_t> FastRounded(double value, double scale) {
   const double scaled = std::fabs(value) * scale;
   if (!(scaled < kFastLimit)) return std::nullopt;
-  const double whole = std::floor(scaled);
-  const double fraction = scaled - whole;
+  const auto whole = static_cast<std::int64_t>(scaled);  // as std::floor, at less cost
+  const double fraction = scaled - static_cast<double>(whole);
   if (std::fabs(fraction - 0.5) < kTieWidth) return std::nullopt;
   return static_cast<std::uint64_t>(whole) + (fraction > 0.5 ? 1 : 0);
 }
