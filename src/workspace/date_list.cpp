@@ -16,9 +16,13 @@ void FillDateList(bool clear, DropDownList& list, const std::string& first, cons
   const bool onlyMissing = !allDifferent && ReachesAStep(first, last, step);
   const std::string selected = list.Text();
   if (clear) list.Clear();
-  int position = 0;
-  for (const std::string& month : months)
-    if (position == 0 || !onlyMissing || list.Find(month) == -1) list.Insert(position++, month);
+  if (clear && !onlyMissing) {
+    list.Append(months);
+  } else {
+    int position = 0;
+    for (const std::string& month : months)
+      if (position == 0 || !onlyMissing || list.Find(month) == -1) list.Insert(position++, month);
+  }
   list.SelectEntry(std::max(0, list.Find(selected)));
 }
 
