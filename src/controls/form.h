@@ -163,8 +163,6 @@ class Form {
   // All controls in the order they were made: containers before what stands in them, and otherwise
   // the order of reading, which is also that of the Tab key.
   const std::vector<std::unique_ptr<Control>>& Controls() const { return controls_; }
-  // Whether no two controls have the same name and index.
-  bool NamesDiffer() const { return byName_.size() == controls_.size(); }
   // All controls by name (byte order), elements of arrays by index.
   std::vector<Control*> ControlsByName() const;
 

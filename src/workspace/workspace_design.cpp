@@ -62,7 +62,6 @@ class Designer {
   void MakeControl(const ControlRow& row, int element) {
     const Spot at = SpotOf(row, element);
     Control& control = Add(row, at);
-    if (!ws_.NamesDiffer()) Refuse(row, "there is one of that name already");
     if (!row.labels[0].IsEmpty()) unnamed_.push_back({row, control, at});
     if (row.enter != nullptr)
       if (const char* complaint = row.enter(ws_, section_->side, control)) Refuse(row, complaint);
@@ -85,6 +84,7 @@ class Designer {
     std::string room;
     Control* const container = ContainerOf(row, at);
     Control::Identity identity{std::string(FillIn(room, row, row.name, at)), at.index, container};
+    if (ws_.Find(identity.name, identity.index) != nullptr) Refuse(row, "there is one of that name already");
     // The panels are an array over the tabs.
     if (container != nullptr && container->Kind() == ControlKind::TabControl)
       identity.page = at.index == kNoIndex ? at.page : at.index;
