@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/balloon_place.h"
 
+#include <QList>
 #include <algorithm>
 #include <limits>
 

@@ -4,6 +4,7 @@
 #include "calendar/number_text.h"
 #include "entries/value_lists.h"
 #include "workspace/period_operations.h"
+#include "workspace/totals.h"
 
 namespace vicetoll {
 namespace {

@@ -60,8 +60,12 @@ class Watcher {
 
   std::string Place() const {
     std::string place;
-    for (const Level& level : open_)
-      place = level.isList ? place + "[" + std::to_string(level.number) + "]" : Join(place, level.key);
+    for (const Level& level : open_) {
+      if (level.isList)
+        place.append("[").append(std::to_string(level.number)).append("]");
+      else
+        place = Join(place, level.key);
+    }
     return place;
   }
 
