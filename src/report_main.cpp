@@ -15,6 +15,7 @@
 #include "base/file_writer.h"
 #include "base/quiet_platform.h"
 #include "base/version.h"
+#include "calendar/date_label.h"
 #include "calendar/number_text.h"
 #include "entries/capture.h"
 #include "entries/entries_file.h"
@@ -87,14 +88,6 @@ std::string_view KindWord(MonthKind kind) {
 
 std::string_view SideWord(const ReportMonth& month) { return kSides3[month.side == Side::Past ? 0 : 1]; }
 
-// "Jun - 2031" as "2031-06". The labels of a report behind a disabled period may lack a month.
-void AppendPlainMonth(std::string& out, const std::string& label) {
-  const int month = MonthNumberFromLabel(label);
-  out.append(label, label.size() - std::min<std::size_t>(4, label.size()));
-  out += month < 10 ? "-0" : "-";
-  AppendNumber(out, month);
-}
-
 // ---- The grid, as a table ----
 
 void AddTable(const SinWorkspace& ws, ReportScope scope, const MonthReport& report, std::string& out) {
@@ -144,7 +137,7 @@ void AddCsv(const SinWorkspace& ws, ReportScope scope, const MonthReport& report
     (out += ',') += KindWord(month.kind);
     (out += ',') += SideWord(month);
     AppendNumber(out += ',', month.period);
-    AppendPlainMonth(out += ',', month.label);
+    (out += ',') += IsoMonth(month.label);
     for (const double figure :
          {month.quantity, month.unitCost, month.reasonableCost, month.adjustedCost, month.monthCost,
           month.monthWithInterest, month.cumulativeCost, month.cumulativeCostWithInterest})
@@ -171,7 +164,7 @@ void AddMonths(const MonthReport& report, std::string& out) {
     (out += ", \"kind\": \"") += KindWord(month.kind);
     (out += "\", \"side\": \"") += SideWord(month);
     AppendNumber(out += "\", \"period\": ", month.period);
-    AppendPlainMonth(out += ", \"month\": \"", month.label);
+    (out += ", \"month\": \"") += IsoMonth(month.label);
     out += '"';
     if (month.kind == MonthKind::Active) {
       number("quantity", month.quantity);

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/pages.h"
+
 namespace vicetoll {
 
 struct MonthAndYear {
@@ -45,6 +47,19 @@ class Platform {
 
   // The same where there is no name yet and the run ends without one, which the dialog says.
   virtual std::optional<std::string> AskFirstSavePath() { return AskSavePath({}); }
+
+  // Asks what file to export to, starting from the one chosen last; a cancelled dialog returns none. The
+  // suffix of a name says what kind of file is wanted: a dialog that offers kinds adds that of the chosen
+  // one.
+  virtual std::optional<std::string> AskExportPath(std::string_view lastPath) {
+    return AskSavePath(lastPath);
+  }
+
+  // The pages as a PDF file's bytes; empty on a platform that cannot lay pages out.
+  virtual std::string PdfOf(const Pages& pages) { return static_cast<void>(pages), std::string(); }
+
+  // Shows the pages as they would be printed, and lets the user print them.
+  virtual void PreviewPages(const Pages& pages) { static_cast<void>(pages); }
 
   // Writes a file in one go, replacing what was there. Throws Fault(File) naming the file and the reason.
   virtual void WriteFile(const std::string& path, std::string_view bytes) = 0;

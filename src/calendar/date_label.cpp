@@ -68,6 +68,12 @@ std::int16_t MonthsInclusive(std::string_view first, std::string_view last) {
   return Add(MonthsBetween(first, last), 1);
 }
 
+std::string IsoMonth(std::string_view label) {
+  const int month = MonthNumberFromLabel(label);
+  if (month == 0 || label.size() < 4) return std::string(label);
+  return std::string(label.substr(label.size() - 4)) + (month < 10 ? "-0" : "-") + std::to_string(month);
+}
+
 std::string MonthAfter(std::string_view label) {
   const std::int16_t month = MonthNumberFromLabel(label);
   const std::int16_t year = YearFromLabel(label);

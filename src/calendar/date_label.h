@@ -28,6 +28,9 @@ std::int16_t MonthsInclusive(std::string_view first, std::string_view last);
 // The months by which `other` lies behind `label`; negative where it lies before.
 std::int16_t MonthsBetween(std::string_view label, std::string_view other);
 
+// "Jun - 2031" as "2031-06"; a label that names no month as it is.
+std::string IsoMonth(std::string_view label);
+
 // The label of the month after this one, across a year's end.
 std::string MonthAfter(std::string_view label);
 

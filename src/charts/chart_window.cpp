@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "base/fault.h"
+#include "base/file_suffix.h"
 #include "charts/chart_text.h"
 
 namespace vicetoll {
@@ -19,13 +20,17 @@ constexpr int kButtonWidth = 2000, kButtonHeight = 500, kGap = 100;
 }  // namespace
 
 ChartWindow::ChartWindow(std::string_view name, std::string_view caption, std::string_view chartName,
-                         std::string_view readoutName, Platform& platform)
+                         std::string_view readoutName, Platform& platform, bool exports)
     : Form(name, caption), platform_(platform) {
   chart_ = &Add<Chart>({std::string(chartName)});
   if (!readoutName.empty()) readout_ = &Add<Label>({std::string(readoutName)}, "");
   AddButton("cmdCopy", "Copy Picture", &ChartWindow::Copy);
   AddButton("cmdSaveAs", "Save Picture\x85", &ChartWindow::SaveAs);
   AddButton("cmdPrint", "Print", &ChartWindow::Print);
+  if (exports) {
+    buttons_.push_back(&Add<Button>({"cmdExport"}, kExportCaption));
+    buttons_.back()->SetKeys(kExportKeys);
+  }
   AddButton("cmdExit", "Close", &ChartWindow::Exit);
   onResize = [this] {
     if (GetWindowState() == WindowState::Minimised) return;
@@ -82,14 +87,8 @@ void ChartWindow::Print() {
 }
 
 PictureFormat PictureFormatOf(std::string_view path) {
-  const auto endsWith = [path](std::string_view suffix) {
-    return path.size() >= suffix.size() &&
-           std::ranges::equal(path.substr(path.size() - suffix.size()), suffix, {}, [](char c) {
-             return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-           });
-  };
-  if (endsWith(".svg")) return PictureFormat::Svg;
-  if (endsWith(".pdf")) return PictureFormat::Pdf;
+  if (HasSuffix(path, ".svg")) return PictureFormat::Svg;
+  if (HasSuffix(path, ".pdf")) return PictureFormat::Pdf;
   return PictureFormat::Png;
 }
 

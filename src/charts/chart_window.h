@@ -19,9 +19,10 @@ class ChartWindow : public Form {
   Control* FirstFocus() const override { return chart_; }
 
  protected:
-  // `readoutName` is that of a label below the chart, empty if there is none.
+  // `readoutName` is that of a label below the chart, empty if there is none. A window that exports has a
+  // button for it, which whoever makes the window gives its action.
   ChartWindow(std::string_view name, std::string_view caption, std::string_view chartName,
-              std::string_view readoutName, Platform& platform);
+              std::string_view readoutName, Platform& platform, bool exports = false);
 
   Label* readout_ = nullptr;
 

@@ -13,14 +13,6 @@ bool IsWorthCounting(const SinWorkspace& ws, Side side) {
   return CountedOf(ws, side, ws.SideIndex(side)).worthCounting;
 }
 
-// The Total report leaves out a side that comes to nothing. Where both do, one of them is shown all the same:
-// a sin that costs nothing is a line along the axis.
-ReportScope ScopeOf(const SinWorkspace& ws) {
-  for (Side side : kSides)
-    if (IsWorthCounting(ws, side)) return ReportScope::Total;
-  return Counts(ws, Side::Past) ? ReportScope::Past : ReportScope::Future;
-}
-
 ChartMonthKind KindOf(MonthKind kind) {
   switch (kind) {
     case MonthKind::Disabled:
@@ -67,28 +59,55 @@ std::vector<ChartBand> BandsOf(const std::vector<ChartMonth>& months) {
   return bands;
 }
 
-}  // namespace
-
-ChartContents GrowthOf(const SinWorkspace& ws, const MonthAndYear& present) {
-  const std::string sin(ws.Sin().checkCaption);
+ChartContents NothingYet(const SinWorkspace& ws) {
   ChartContents contents;
   contents.currency = ws.GetSession().currency;
-  contents.emptyText = "Nothing is set and enabled for " + sin +
+  contents.emptyText = "Nothing is set and enabled for " + std::string(ws.Sin().checkCaption) +
                        ". Set a period, or enable one, and its growth is drawn here.";
-  if (!Counts(ws, Side::Past) && !Counts(ws, Side::Future)) return contents;
-  const MonthReport report = ReportOf(ws, ScopeOf(ws));
+  return contents;
+}
+
+ChartContents MonthsOf(const SinWorkspace& ws, const MonthReport& report) {
+  ChartContents contents = NothingYet(ws);
   for (const ReportMonth& month : report.months)
     contents.months.push_back({month.label, KindOf(month.kind), month.side, month.period,
                                month.cumulativeCost, month.cumulativeCostWithInterest});
-  if (contents.months.empty()) return contents;
-  if (const auto figure = FutureDateFigureOf(ws)) AddMonthsAhead(*figure, contents.months);
+  return contents;
+}
+
+// What stands beside the months: bands, the present, the title.
+void Describe(const SinWorkspace& ws, const MonthAndYear& present, ChartContents& contents) {
   contents.bands = BandsOf(contents.months);
   const std::string now =
       MakeDateLabel(static_cast<std::int16_t>(present.month), static_cast<std::int16_t>(present.year));
   for (int i = 0; i < static_cast<int>(contents.months.size()) && contents.present == -1; ++i)
     if (contents.months[i].label == now) contents.present = i;
-  contents.title = sin + ": cost out of pocket and with interest, " + contents.months.front().label + " to " +
-                   contents.months.back().label;
+  contents.title = std::string(ws.Sin().checkCaption) + ": cost out of pocket and with interest, " +
+                   contents.months.front().label + " to " + contents.months.back().label;
+}
+
+}  // namespace
+
+// The Total report leaves out a side that comes to nothing. Where both do, one of them is shown all the same:
+// a sin that costs nothing is a line along the axis.
+ReportScope GrowthScopeOf(const SinWorkspace& ws) {
+  for (Side side : kSides)
+    if (IsWorthCounting(ws, side)) return ReportScope::Total;
+  return Counts(ws, Side::Past) ? ReportScope::Past : ReportScope::Future;
+}
+
+ChartContents GrowthOf(const SinWorkspace& ws, const MonthAndYear& present) {
+  if (!Counts(ws, Side::Past) && !Counts(ws, Side::Future)) return NothingYet(ws);
+  ChartContents contents = MonthsOf(ws, ReportOf(ws, GrowthScopeOf(ws)));
+  if (contents.months.empty()) return contents;
+  if (const auto figure = FutureDateFigureOf(ws)) AddMonthsAhead(*figure, contents.months);
+  Describe(ws, present, contents);
+  return contents;
+}
+
+ChartContents GrowthOf(const SinWorkspace& ws, const MonthReport& report, const MonthAndYear& present) {
+  ChartContents contents = MonthsOf(ws, report);
+  if (!contents.months.empty()) Describe(ws, present, contents);
   return contents;
 }
 

@@ -5,6 +5,7 @@
 
 #include "base/platform.h"
 #include "controls/chart.h"
+#include "reports/month_report.h"
 #include "workspace/sin_workspace.h"
 
 namespace vicetoll {
@@ -13,5 +14,11 @@ namespace vicetoll {
 // other does not. A figure at a future date adds the months that lead there, the last of which is the number
 // in its box. Changes nothing in the workspace.
 ChartContents GrowthOf(const SinWorkspace& ws, const MonthAndYear& present);
+
+// The same of the months of a report, without those ahead.
+ChartContents GrowthOf(const SinWorkspace& ws, const MonthReport& report, const MonthAndYear& present);
+
+// The report whose months the chart of the sin shows.
+ReportScope GrowthScopeOf(const SinWorkspace& ws);
 
 }  // namespace vicetoll

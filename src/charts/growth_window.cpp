@@ -7,7 +7,8 @@
 namespace vicetoll {
 
 GrowthWindow::GrowthWindow(Platform& platform)
-    : ChartWindow("frmGrowth", "Growth Chart", "chtGrowth", "lblReadout", platform), platform_(platform) {
+    : ChartWindow("frmGrowth", "Growth Chart", "chtGrowth", "lblReadout", platform, true),
+      platform_(platform) {
   GetChart().onCursor = [this] {
     const ChartContents& contents = GetChart().Contents();
     readout_->SetCaption(contents.Empty() ? contents.emptyText : Readout(contents, GetChart().Cursor()));

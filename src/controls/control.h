@@ -172,6 +172,9 @@ class Button : public CaptionedControl {
   char accessKey_ = 0;
 };
 
+// The button that takes what a window shows along, the same in each window that has one.
+inline constexpr std::string_view kExportCaption = "Export\x85", kExportKeys = "Ctrl+E";
+
 // An entry of a window's right-click menu.
 class MenuEntry : public Button {
  public:

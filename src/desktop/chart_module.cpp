@@ -11,6 +11,9 @@
 namespace vicetoll {
 namespace {
 
+// Of a picture for paper, in pixels: its letters come out as large as those around it.
+constexpr QSize kDrawnSize{760, 380};
+
 ChartStyle StyleIn(Theme theme) {
   return {.ground = Colour(Tone::BoxGround, theme),
           .text = Colour(Tone::Text, theme),
@@ -74,6 +77,17 @@ std::unique_ptr<ControlView> MakeChartView(Chart& chart, QWidget* parent, Deskto
   const auto make = FromModule<MakeChartWidgetFunction>(kMakeChartWidget, error);
   if (make == nullptr) return std::make_unique<NoChartView>(chart, parent, error);
   return std::make_unique<ChartView>(chart, make(parent), desktop);
+}
+
+std::string DrawChart(const ChartContents& contents) {
+  QString error;
+  const auto make = FromModule<MakeChartWidgetFunction>(kMakeChartWidget, error);
+  if (make == nullptr) return {};
+  const std::unique_ptr<ChartWidget> widget(make(nullptr));
+  widget->resize(kDrawnSize);
+  widget->SetStyle(StyleIn(Theme::Light));
+  widget->SetContents(contents);
+  return widget->Picture(PictureFormat::Svg, StyleIn(Theme::Light));
 }
 
 bool PaintPicture(QPainter& painter, const QRectF& room, std::string_view svg) {

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QWheelEvent>
 
+#include "desktop/chart_module.h"
 #include "desktop/chart_widget.h"
 #include "desktop/form_window.h"
 #include "desktop/widgets.h"
@@ -87,12 +88,14 @@ class SystemWatch : public QObject {
 
 Desktop::Desktop(Program& program) : program_(program), watch_(std::make_unique<SystemWatch>(*this)) {
   program_.onWindowCreated = [this](Form& form) { Listen(form); };
+  program_.GetExporter().drawChart = DrawChart;
   for (Form* form : program_.Windows()) Listen(*form);
   Flush();
 }
 
 Desktop::~Desktop() {
   program_.onWindowCreated = nullptr;
+  program_.GetExporter().drawChart = nullptr;
   for (Form* form : program_.Windows()) form->SetListener(nullptr);
 }
 

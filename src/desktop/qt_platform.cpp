@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPushButton>
 #include <QSettings>
@@ -25,6 +26,7 @@
 #include "base/file_writer.h"
 #include "desktop/places.h"
 #include "desktop/printing.h"
+#include "desktop/report_pages.h"
 #include "desktop/text.h"
 
 namespace vicetoll {
@@ -150,6 +152,45 @@ std::optional<std::string> QtPlatform::AskEntriesPath(FilePurpose purpose, std::
   if (!start.isDir() && !open) dialog.selectFile(start.fileName());
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return Chosen(dialog.selectedFiles().value(0));
+}
+
+std::optional<std::string> QtPlatform::AskExportPath(std::string_view lastPath) {
+  ShowChanges();
+  QFileDialog dialog(QApplication::activeWindow(), QStringLiteral("Export"));
+  const QStringList kinds{QStringLiteral("csv"), QStringLiteral("xlsx"), QStringLiteral("pdf")};
+  const QStringList names{QStringLiteral("Comma-separated values (*.csv)"),
+                          QStringLiteral("Spreadsheet (*.xlsx)"), QStringLiteral("PDF document (*.pdf)")};
+  dialog.setNameFilters(names);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  // A name without a suffix gets that of the kind.
+  const auto takeKind = [&](const QString& name) {
+    dialog.setDefaultSuffix(kinds.value(static_cast<int>(names.indexOf(name)), kinds.first()));
+  };
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, takeKind);
+  const QFileInfo start(StartOf(lastPath));
+  dialog.setDirectory(start.isDir() ? start.filePath() : start.path());
+  const auto last = std::max<qsizetype>(kinds.indexOf(start.suffix().toLower()), 0);
+  dialog.selectNameFilter(names[last]);
+  takeKind(names[last]);
+  if (!start.isDir()) dialog.selectFile(start.fileName());
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return Chosen(dialog.selectedFiles().value(0));
+}
+
+std::string QtPlatform::PdfOf(const Pages& pages) { return MakePdf(pages).toStdString(); }
+
+void QtPlatform::PreviewPages(const Pages& pages) {
+  ShowChanges();
+  openPrint_.reset();  // the next print lets the open page out
+  QPrinter printer(QPrinter::HighResolution);
+  TurnPaper(pages, printer);
+  printer.setDocName(ToQt(pages.title));
+  QPrintPreviewDialog dialog(&printer, QApplication::activeWindow());
+  dialog.setWindowTitle(QStringLiteral("Preview"));
+  QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
+                   [&pages](QPrinter* paper) { PaintPages(pages, *paper); });
+  dialog.exec();
 }
 
 std::string QtPlatform::DataFolder() {

@@ -4,6 +4,8 @@
 #include <QAbstractItemView>
 #include <QAbstractListModel>
 #include <QAccessible>
+#include <QAction>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QListView>
 #include <QMouseEvent>
@@ -244,6 +246,18 @@ void ResultBox::Fit() {
   cut_ = QFontMetricsF(fitted).horizontalAdvance(text()) > room;
   fitting_ = false;
   update();
+}
+
+// Where the window itself has something to copy, its keys are not the box's.
+bool ResultBox::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride &&
+      static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
+    for (const QAction* action : window()->actions())
+      if (action->shortcuts().contains(QKeySequence(QKeySequence::Copy))) {
+        event->ignore();
+        return false;
+      }
+  return QLineEdit::event(event);
 }
 
 void ResultBox::resizeEvent(QResizeEvent* event) {

@@ -68,6 +68,7 @@ class ResultBox : public QLineEdit {
   bool IsCut() const { return cut_; }
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;

@@ -110,6 +110,8 @@ SideEntries CaptureSide(SinWorkspace& ws, Side side) {
   return entries;
 }
 
+}  // namespace
+
 SinEntries CaptureSin(SinWorkspace& ws) {
   SinEntries sin;
   sin.position = ws.Position();
@@ -125,8 +127,6 @@ SinEntries CaptureSin(SinWorkspace& ws) {
   sin.oldFigure = OldFutureDateFigure(ws);
   return sin;
 }
-
-}  // namespace
 
 Entries Capture(Workspaces& program) {
   const Session& session = program.GetSession();

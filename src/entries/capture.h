@@ -11,6 +11,9 @@ namespace vicetoll {
 // for a period whose texts are no numbers.
 Entries Capture(Workspaces& program);
 
+// The same of one sin.
+SinEntries CaptureSin(SinWorkspace& ws);
+
 // A program as it has just started, which takes entries.
 class FreshProgram : public Workspaces {
  public:

@@ -69,6 +69,12 @@ std::string_view HeadingCell(std::string_view heading, int position) {
   return cell.substr(cell.find_first_not_of("<^ "));
 }
 
+// "Cost of a Drink" of " Cost of a Drink: ".
+std::string_view Stripped(std::string_view words) {
+  words.remove_prefix(words.find_first_not_of(' '));
+  return words.substr(0, words.find_last_not_of(": ") + 1);
+}
+
 }  // namespace
 
 const ReportColumn& ColumnOf(ColumnKey key) { return kColumns[static_cast<std::size_t>(key)]; }
@@ -98,6 +104,9 @@ std::optional<double> NumberOf(const ReportColumn& column, const ReportMonth& mo
 std::string_view HeadingOf(const SinRow& sin, const ReportColumn& column) {
   const auto key = static_cast<int>(column.key);
   const auto headings = static_cast<int>(std::ranges::count(sin.gridHeading, '|')) + 1;
+  // Soliciting's grid heads a column less than its rows have: the cost of one has the document's words.
+  if (column.key == ColumnKey::UnitCost && headings < static_cast<int>(ColumnsOf(sin.costClass).size()))
+    return Stripped(sin.month.unitCost);
   const bool behindCosts = column.key >= ColumnKey::MonthCost;
   return HeadingCell(
       sin.gridHeading,

@@ -30,6 +30,7 @@ void ReportWindow::Furnish(Control& report) {
   cmdSaveAs_->SetKeys("Ctrl+S");
   AddMenuEntry("cmdSelectAll", "Select All", [this] { SelectAll(); });
   AddMenuEntry("cmdCopy", "Copy", [this] { Copy(); });
+  AddMore();
   onResize = [this] { OnResize(); };
   Resize(kReportWidth, shape_.height);
   SetNextStep("Print or save what is selected, or everything; Exit closes the report");
@@ -54,6 +55,12 @@ void ReportWindow::PlaceControls() {
   cmdSaveAs_->SetPlace({left + kButtonWidth, top, kButtonWidth, kButtonHeight});
   cmdExit_->SetPlace({report.left + report.width - kExitWidth, top, kExitWidth, kButtonHeight});
   PlaceBeside(report.left, top);
+}
+
+Place ReportWindow::RoomBetweenButtons() const {
+  const Place left = cmdSaveAs_->GetPlace(), right = cmdExit_->GetPlace();
+  const int begin = left.left + left.width;
+  return {begin, left.top, right.left - begin, left.height};
 }
 
 void ReportWindow::OnResize() {

@@ -33,6 +33,9 @@ class ReportWindow : public Form {
   // Adds buttons and menu behind the controls that are there, and gives the window its size. `report` is
   // the control that shows the report.
   void Furnish(Control& report);
+  // Makes what comes after all that: additions, the last for the Tab key.
+  virtual void AddMore() {}
+  Button& AddButton(const char* name, const char* caption, std::function<void()> action);
   void AddMenuEntry(const char* name, const char* caption, std::function<void()> action);
 
   Workspaces& AllWorkspaces() const { return workspaces_; }
@@ -48,11 +51,12 @@ class ReportWindow : public Form {
   virtual std::string FileBytes() = 0;
   // Before the window goes.
   virtual void Leave() {}
-  // Places what stands in the row of the buttons besides them.
+  // Places what stands in the row of the buttons besides them. `left` is the report's edge.
   virtual void PlaceBeside(int /*left*/, int /*top*/) {}
+  // The room between the buttons at the left and that at the right, and below them, in twips.
+  Place RoomBetweenButtons() const;
 
  private:
-  Button& AddButton(const char* name, const char* caption, std::function<void()> action);
   void PlaceControls();
   void OnResize();
   void SaveAs();

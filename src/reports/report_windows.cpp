@@ -33,15 +33,21 @@ void ShowReport(const Press& press, ReportStyle style) {
   DisableResultButtonsOfSin(press.workspaces, style);
 }
 
+void Filled(const Press& press, ReportScope scope) {
+  if (press.windows.Spd().onFilled) press.windows.Spd().onFilled(press.ws, scope);
+}
+
 void ShowSpdSide(const Press& press, Side side) {
   press.ws.FuturePast_Flag = side == Side::Past ? kShowsPast : kShowsFuture;
   BuildSpdRows(press.ws, side, press.windows.Spd().Rows(), true, true, press.Index(),
                press.ws.SideIndex(side));
+  Filled(press, side == Side::Past ? ReportScope::Past : ReportScope::Future);
   ShowReport(press, ReportStyle::Spreadsheet);
 }
 
 void ShowSpdTotal(const Press& press) {
   BuildTotalSpdRows(press.ws, press.windows.Spd().Rows());
+  Filled(press, ReportScope::Total);
   ShowReport(press, ReportStyle::Spreadsheet);
 }
 

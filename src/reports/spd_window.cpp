@@ -12,6 +12,9 @@ namespace {
 // What the grid's selection reads while nobody has selected anything: the first cell of a report.
 constexpr std::string_view kUntouchedClip = "1 ";
 
+// Of the buttons that take a report along, in twips.
+constexpr int kAdditionWidth = 1500, kAdditionGap = 100;
+
 }  // namespace
 
 SpdWindow::SpdWindow(Workspaces& workspaces)
@@ -24,6 +27,28 @@ SpdWindow::SpdWindow(Workspaces& workspaces)
                     .buttonsGap = 100}) {
   fgdAdvResultsSpd_ = &Add<Grid>({"fgdAdvResultsSpd"}, kReportColumnCount);
   Furnish(*fgdAdvResultsSpd_);
+}
+
+void SpdWindow::AddMore() {
+  additions_ = {&Add<Button>({"cmdExport"}, kExportCaption), &Add<Button>({"cmdPrintPreview"}, "Preview")};
+  additions_[0]->SetKeys(kExportKeys);
+}
+
+// Between the other buttons, or below them where they leave no room.
+void SpdWindow::PlaceBeside(int left, int) {
+  Place place = RoomBetweenButtons();
+  const int wanted = static_cast<int>(additions_.size()) * (kAdditionWidth + kAdditionGap) + kAdditionGap;
+  if (place.width >= wanted) {
+    place.left += kAdditionGap;
+  } else {
+    place.left = left;
+    place.top += place.height + kAdditionGap;
+  }
+  place.width = kAdditionWidth;
+  for (Button* button : additions_) {
+    button->SetPlace(place);
+    place.left += kAdditionWidth + kAdditionGap;
+  }
 }
 
 void SpdWindow::Print() {

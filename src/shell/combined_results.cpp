@@ -44,6 +44,15 @@ double AmountIn(const std::string& text) {
   return IsNumeric(stripped) ? TextToNumber(stripped) : 0;
 }
 
+constexpr std::string_view kTotalCaption = "Total";
+
+// The caption of the frame that a control stands in.
+std::string CaptionAround(const Control& control) {
+  std::string caption = dynamic_cast<const Frame&>(*control.Container()).Caption();
+  caption.erase(caption.find_last_not_of(' ') + 1);
+  return caption;
+}
+
 bool IsZeroOrEmpty(const std::string& text) { return text.empty() || text == "0"; }
 
 }  // namespace
@@ -135,6 +144,12 @@ void CombinedResults::MakeBottom() {
   cmdExit_->SetPlace({kCombinedWidth - kMargin - 2200, kBottom + 250, 2200, 600});
   cmdExit_->onClick = [this] { Hide(); };
   Add<Button>({"cmdChart"}, "Chart").SetPlace({8000, kBottom + 250, 2200, 600});
+  Button& take = Add<Button>({"cmdExport"}, kExportCaption);
+  take.SetPlace({10400, kBottom + 250, 2200, 600});
+  take.SetKeys(kExportKeys);
+  Add<MenuEntry>({"cmdCopy"}, "Copy").onClick = [this] {
+    workspaces_.GetSession().platform.SetClipboard(TabSeparated(TickedRows()));
+  };
 }
 
 void CombinedResults::PopulateCombResultsText() {
@@ -217,6 +232,23 @@ void CombinedResults::PopulateTotals() {
   }
 }
 
+SinsAsShown CombinedResults::TickedRows() const {
+  static_assert(kColumns == kSinAmounts);
+  SinsAsShown table{
+      .title = Caption(), .headings = {CaptionAround(*chkWhichSins_[0])}, .sins = {}, .total = {}};
+  table.total.caption = kTotalCaption;
+  for (int i = 0; i < kSinCount; ++i)
+    if (chkWhichSins_[i]->Value()) table.sins.push_back({chkWhichSins_[i]->Caption(), {}});
+  for (std::size_t c = 0; c < kSinAmounts; ++c) {
+    table.headings.push_back(CaptionAround(*columns_[c].cells[0]));
+    auto row = table.sins.begin();
+    for (int i = 0; i < kSinCount; ++i)
+      if (chkWhichSins_[i]->Value()) (row++)->amounts[c] = columns_[c].cells[i]->Text();
+    table.total.amounts[c] = columns_[c].total->Text();
+  }
+  return table;
+}
+
 SinFigures CombinedResults::Figures() const {
   // A cell whose text is no amount counts as nothing.
   const auto bar = [this](std::string caption, const auto& cellOf) {
@@ -230,7 +262,8 @@ SinFigures CombinedResults::Figures() const {
     const auto cell = [i](const ColumnControls& column) -> const TextBox& { return *column.cells[i]; };
     figures.sins.push_back(bar(chkWhichSins_[i]->Caption(), cell));
   }
-  figures.total = bar("Total", [](const ColumnControls& column) -> const TextBox& { return *column.total; });
+  figures.total = bar(std::string(kTotalCaption),
+                      [](const ColumnControls& column) -> const TextBox& { return *column.total; });
   return figures;
 }
 

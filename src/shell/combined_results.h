@@ -12,6 +12,7 @@
 #include "charts/sins_points.h"
 #include "controls/drop_down_list.h"
 #include "controls/form.h"
+#include "exports/sins_export.h"
 #include "workspace/workspaces.h"
 
 namespace vicetoll {
@@ -34,6 +35,11 @@ class CombinedResults : public Form {
 
   // Fills the totals from the rows that are ticked.
   void PopulateTotals();
+
+  // What the table shows of the sins that are ticked.
+  SinsAsShown TickedRows() const;
+  // The right-click menu, and Ctrl+C in the whole window, copy that.
+  std::string_view MenuTitle() const override { return "Edit"; }
 
   // The amounts that the table shows: of each sin that is ticked and has one, and the totals.
   SinFigures Figures() const;

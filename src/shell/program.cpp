@@ -131,7 +131,14 @@ SinChooser& Program::Chooser() {
   return chooser_ ? *chooser_ : Created(chooser_, std::make_unique<SinChooser>(*this, *this));
 }
 
-SpdWindow& Program::Spd() { return spd_ ? *spd_ : Created(spd_, std::make_unique<SpdWindow>(*this)); }
+SpdWindow& Program::Spd() {
+  if (spd_) return *spd_;
+  SpdWindow& made = Created(spd_, std::make_unique<SpdWindow>(*this));
+  made.onFilled = [this](SinWorkspace& ws, ReportScope scope) { exporter_.Remember(ws, scope); };
+  made.Get<Button>("cmdExport").onClick = [this] { exporter_.ExportGrid(*spd_); };
+  made.Get<Button>("cmdPrintPreview").onClick = [this] { exporter_.PreviewGrid(); };
+  return made;
+}
 
 DocWindow& Program::Doc() { return doc_ ? *doc_ : Created(doc_, std::make_unique<DocWindow>(*this)); }
 
@@ -139,6 +146,10 @@ CombinedResults& Program::Combined() {
   if (combined_) return *combined_;
   CombinedResults& made = Created(combined_, std::make_unique<CombinedResults>(*this));
   made.Get<Button>("cmdChart").onClick = [this] { SinsChart().Show(); };
+  made.Get<Button>("cmdExport").onClick = [this] {
+    exporter_.ExportSins(*combined_, combined_->TickedRows(),
+                         SinBarsOf(combined_->Figures(), session_.currency));
+  };
   return made;
 }
 
@@ -147,7 +158,12 @@ InfoWindow& Program::Info() {
 }
 
 GrowthWindow& Program::Growth() {
-  return growth_ ? *growth_ : Created(growth_, std::make_unique<GrowthWindow>(session_.platform));
+  if (growth_) return *growth_;
+  GrowthWindow& made = Created(growth_, std::make_unique<GrowthWindow>(session_.platform));
+  made.Get<Button>("cmdExport").onClick = [this] {
+    exporter_.ExportGrowth(*growth_, Current(), growth_->GetChart().Contents());
+  };
+  return made;
 }
 
 SinsChartWindow& Program::SinsChart() {

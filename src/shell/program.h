@@ -21,6 +21,7 @@
 #include "shell/chooser.h"
 #include "shell/combined_results.h"
 #include "shell/entries_keeper.h"
+#include "shell/exporter.h"
 #include "shell/info_window.h"
 
 namespace vicetoll {
@@ -52,6 +53,7 @@ class Program final : public FreshProgram, public SinSwitching, public ReportWin
   DocWindow& Doc() override;
   Balloons& GetBalloons() { return balloons_; }
   EntriesKeeper& Keeper() { return keeper_; }
+  Exporter& GetExporter() { return exporter_; }
 
   SinWorkspace& Enter(int position) override;
   void TurnToEuro() override;
@@ -85,6 +87,7 @@ class Program final : public FreshProgram, public SinSwitching, public ReportWin
   Session session_;
   Balloons balloons_;
   EntriesKeeper keeper_{*this};
+  Exporter exporter_{*this};
   std::vector<Form*> windows_;
   std::unordered_map<const Form*, SpokenChanges> spoken_;
   std::array<std::unique_ptr<SinWorkspace>, kSinCount> workspaces_;

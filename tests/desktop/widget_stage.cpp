@@ -17,6 +17,7 @@
 #include "desktop/grid_view.h"
 #include "desktop/look.h"
 #include "desktop/qt_platform.h"
+#include "desktop/report_pages.h"
 #include "desktop/text.h"
 #include "desktop/widgets.h"
 #include "scenario/script.h"
@@ -284,6 +285,8 @@ CellSpan WidgetStage::Selection(Grid& grid) {
   const CellRange cells = table.SelectedCells();
   return {cells.row, cells.col, cells.rowSel, cells.colSel};
 }
+
+std::string WidgetPlatform::PdfOf(const Pages& pages) { return MakePdf(pages).toStdString(); }
 
 Answer WidgetPlatform::ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) {
   const Answer answer = ScriptedPlatform::ShowMessage(title, text, buttons);

@@ -10,6 +10,7 @@
 #include "base/code_page.h"
 #include "base/fault.h"
 #include "charts/chart_text.h"
+#include "scenario/read_export.h"
 #include "scenario/script.h"
 #include "vocabulary/operations.h"
 
@@ -36,12 +37,12 @@ struct Command {
 
 constexpr std::size_t kAny = 100;
 constexpr Command kCommands[] = {
-    {"clock", 2, 2},  {"in", 1, 1},      {"focus", 1, 1},   {"choose", 2, 2},       {"click", 1, 1},
-    {"tab", 1, 1},    {"type", 2, 2},    {"select", 3, 5},  {"resize", 2, 2},       {"answer", 2, 2},
-    {"show", 1, 1},   {"dump", 0, 0},    {"results", 0, 0}, {"entries", 1, 1},      {"record", 2, 2},
-    {"fields", 0, 0}, {"globals", 0, 0}, {"call", 1, kAny}, {"rows", 0, 0},         {"selection", 0, 0},
-    {"text", 1, 1},   {"file", 1, 1},    {"tips", 0, 0},    {"clipboard", 0, 0},    {"balloons", 0, 0},
-    {"place", 1, 1},  {"canvas", 0, 0},  {"chart", 1, 1},   {"entries-file", 0, 0},
+    {"clock", 2, 2},  {"in", 1, 1},      {"focus", 1, 1},   {"choose", 2, 2},    {"click", 1, 1},
+    {"tab", 1, 1},    {"type", 2, 2},    {"select", 3, 5},  {"resize", 2, 2},    {"answer", 2, 2},
+    {"show", 1, 1},   {"dump", 0, 0},    {"results", 0, 0}, {"entries", 1, 1},   {"record", 2, 2},
+    {"fields", 0, 0}, {"globals", 0, 0}, {"call", 1, kAny}, {"rows", 0, 0},      {"selection", 0, 0},
+    {"text", 1, 1},   {"file", 1, 1},    {"tips", 0, 0},    {"clipboard", 0, 0}, {"balloons", 0, 0},
+    {"place", 1, 1},  {"canvas", 0, 0},  {"chart", 1, 1},   {"export", 1, 1},    {"entries-file", 0, 0},
 };
 
 // A line is understood or refused as a whole, before anything is done.
@@ -199,6 +200,8 @@ void Player::RunQuestion(Line& line) {
     ShowSelection();
   } else if (command == "file") {
     ShowFile(line.TakeQuoted().utf8);
+  } else if (command == "export") {
+    ShowExport(line.TakeQuoted().utf8);
   } else if (command == "clipboard") {
     print_("clipboard " + Quoted(platform_.Clipboard()));
   } else if (command == "tips") {
@@ -455,6 +458,10 @@ void Player::ShowFile(const std::string& path) {
   const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   print_("file " + Quoted(FromUtf8(path)) + " bytes=" + std::to_string(bytes.size()) + " " +
          QuotedBytes(bytes));
+}
+
+void Player::ShowExport(const std::string& path) {
+  for (const std::string& line : ReadExport(path)) print_(line);
 }
 
 void Player::ShowTips() {

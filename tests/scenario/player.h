@@ -50,6 +50,7 @@ class Player {
   void ShowGlobals();
   void CallOperationLine(Line& line);
   void ShowFile(const std::string& path);
+  void ShowExport(const std::string& path);
   void ShowTips();
   void ShowBalloons();
   void ShowPlace(const std::string& name);

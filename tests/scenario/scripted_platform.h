@@ -56,6 +56,7 @@ class ScriptedPlatform : public Platform {
   std::vector<std::string> savePathsOffered;  // the names the save dialogs started from
   std::map<std::string, std::string> files;   // that stayed in memory
   std::vector<Printed> printed;
+  std::vector<Pages> previewed;
   std::string clipboard;
   std::string programFolder;
   std::vector<std::string> browsed;
@@ -69,6 +70,7 @@ class ScriptedPlatform : public Platform {
   std::optional<std::string> AskEntriesPath(FilePurpose, std::string_view) override {
     return QueuedAnswers::Take(answers.files, std::optional<std::string>());
   }
+  void PreviewPages(const Pages& pages) override { previewed.push_back(pages); }
   std::string DataFolder() override { return {}; }
   std::optional<std::string> AskSavePath(std::string_view lastPath) override;
   void WriteFile(const std::string& path, std::string_view bytes) override;
