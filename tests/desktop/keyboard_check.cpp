@@ -109,7 +109,7 @@ TEST_F(Keyboard, TheTableIsWalkedByArrows) {
     stops.insert(Focus());
     Press(Qt::Key_Tab);
   }
-  EXPECT_EQ(stops.size(), 5u);  // the table, the list and three buttons
+  EXPECT_EQ(stops.size(), 6u);  // the table, the list and four buttons, Export the last
 }
 
 // ---- Enter, Escape, and the keys of a window ----

@@ -113,7 +113,7 @@ TEST_F(ControlRows, WhatDoesNotFitIsRefusedByName) {
 }
 
 TEST_F(ControlRows, WhatStandsOnceHasNoSide) {
-  EXPECT_EQ(Refusal(Row(ControlKind::List, "comCheer{Fut}", "cmdExit", kPlace), std::nullopt),
+  EXPECT_EQ(Refusal(Row(ControlKind::List, "comCheer{Fut}", "", kPlace), std::nullopt),
             "Gambling: the control comCheer{Fut}: it stands on no side, but its text asks for one.");
   EXPECT_EQ(Refusal(Row(ControlKind::Frame, "frmA", "", kPlace).Is<&SideControls::frmRates>(), std::nullopt),
             "Gambling: the control frmA: its field belongs to a side, and it stands on none.");
