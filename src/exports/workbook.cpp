@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <ctime>
 #include <map>
+#include <utility>
 
 #include "base/code_page.h"
 #include "base/fault.h"
@@ -103,12 +104,6 @@ class WorkbookWriter {
     properties.created = timegm(&created);
     workbook_set_properties(book_, &properties);
   }
-
-  struct Style {
-    CellKind kind;
-    bool total;
-    auto operator<=>(const Style&) const = default;
-  };
 
   // Clear of the figures to their left.
   static void AlignWords(lxw_format& format) {
@@ -264,7 +259,7 @@ class WorkbookWriter {
   const Workbook& workbook_;
   MemoryFile file_;
   lxw_workbook* book_;
-  std::map<Style, lxw_format*> formats_;
+  std::map<std::pair<CellKind, bool>, lxw_format*> formats_;  // by kind, and whether of totals
 };
 
 }  // namespace
