@@ -75,9 +75,11 @@ CountedIn ResultsBy(const SinWorkspace& ws, Side side, const SideEntries& entrie
     all += cost;
     if (enabled) on += cost;
   }
-  const double total = MoneyToNumber(c.txtResultsTotal->Text());
+  // Compared as they show: sums of more than 15 digits lose their last.
+  const std::string allShown = ws.Money(all, kResultFormat);
   const bool restIsZero = count == kPeriodCount || c.txtResultsPeriod(count + 1).Text() == "0";
-  const bool byPress = all == on ? restIsZero : total == all;
+  const bool byPress =
+      allShown == ws.Money(on, kResultFormat) ? restIsZero : allShown == c.txtResultsTotal->Text();
   if (!byPress) return CountedIn::Switch;
   return c.txtResultsPeriod(1).Enabled() ? CountedIn::Press : CountedIn::PressHidingFirst;
 }

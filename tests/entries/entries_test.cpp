@@ -69,6 +69,24 @@ TEST(Apply, GivesTheResultsOfOldMonths) {
   EXPECT_EQ(c.comStop->Text(), "Mar - 2000");
 }
 
+// A period of 4,814,403,578,892,790 and one of 2,929, the first switched off and counted by a press all the
+// same: the total shows no more than 15 of its digits.
+TEST(Capturing, KnowsAPressWhereTheTotalHasLostDigits) {
+  std::string bytes = BytesOf("Watering");
+  const std::size_t begin = bytes.find("{\n          \"start\""), end = bytes.find("}", begin) + 1;
+  const std::string year = bytes.substr(begin, end - begin);
+  const std::string first =
+      Replaced(Replaced(Replaced(Replaced(year, "\"2031-06\"", "\"1922-07\""), "\"2032-05\"", "\"1988-07\""),
+                        "\"increase\": \"10\"", "\"increase\": \"42\""),
+               "true", "false");
+  bytes.replace(begin, end - begin, first + "," + year);
+  bytes = Replaced(bytes, "\"period\": 1,", "\"period\": 2, \"results\": \"all\",");
+  const Entries entries = ReadEntries(bytes);
+  RunningProgram run;
+  Apply(run.program, entries);
+  EXPECT_EQ(Capture(run.program).sins.at(1).future.resultsBy, CountedIn::Press);
+}
+
 TEST(Reading, NamesThePlaceAndWhatIsWrong) {
   const std::string good = BytesOf("Drinking");
   const struct {
