@@ -55,8 +55,11 @@ class Platform {
     return AskSavePath(lastPath);
   }
 
-  // The pages as a PDF file's bytes; empty on a platform that cannot lay pages out.
-  virtual std::string PdfOf(const Pages& pages) { return static_cast<void>(pages), std::string(); }
+  // The pages as a PDF file's bytes; empty on a platform that cannot lay pages out. None if the user did not
+  // wait for them.
+  virtual std::optional<std::string> PdfOf(const Pages& pages) {
+    return static_cast<void>(pages), std::string();
+  }
 
   // Shows the pages as they would be printed, and lets the user print them.
   virtual void PreviewPages(const Pages& pages) { static_cast<void>(pages); }

@@ -18,6 +18,7 @@
 #include "base/file_writer.h"
 #include "desktop/chart_module.h"
 #include "desktop/document_view.h"
+#include "desktop/report_pages.h"
 #include "desktop/text.h"
 
 namespace vicetoll {
@@ -109,6 +110,29 @@ bool PaintText(QPainter& painter, QPagedPaintDevice& device, std::string_view te
 
 }  // namespace
 
+std::string PrintToFile(const QPrinter& printer, const std::function<bool(QPagedPaintDevice&)>& paint) {
+  // Without a printer Qt falls back to PDF, and without a file name that goes nowhere.
+  if (printer.outputFileName().isEmpty()) return "There is no printer, and no file was named to print to.";
+  QBuffer pages;
+  pages.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&pages);
+  writer.setPageLayout(printer.pageLayout());
+  writer.setResolution(printer.resolution());
+  writer.setTitle(printer.docName());
+  if (!paint(writer)) return "The pages could not be made.";
+  const std::string path = QFile::encodeName(printer.outputFileName()).toStdString();
+  const std::string_view bytes(pages.data().constData(), static_cast<std::size_t>(pages.size()));
+  if (const int error = ReplaceFile(path, bytes)) return NotWritten(path, error);
+  return {};
+}
+
+std::string PrintPages(const Pages& pages, QPrinter& printer) {
+  const auto paint = [&pages](QPagedPaintDevice& device) { return PaintPages(pages, device); };
+  if (printer.outputFormat() == QPrinter::PdfFormat) return PrintToFile(printer, paint);
+  if (paint(printer) && printer.printerState() != QPrinter::Error) return {};
+  return "The printer stopped.";
+}
+
 QPageLayout::Orientation PrintJob::SuggestedOrientation(std::string_view text) const {
   const QList<double> columns = ColumnsOf(Unpadded(text), FontOf(style_), printer_);
   QPageLayout upright = printer_.pageLayout();
@@ -130,32 +154,19 @@ bool PrintJob::PrintPicture(std::string_view svg) {
 }
 
 bool PrintJob::Run(const Painting& paint) {
-  if (printer_.outputFormat() == QPrinter::PdfFormat) return RunToFile(paint);
+  if (printer_.outputFormat() == QPrinter::PdfFormat) {
+    problem_ = PrintToFile(printer_, [&paint](QPagedPaintDevice& file) {
+      QPainter painter;
+      return painter.begin(&file) && paint(painter, file) && painter.end();
+    });
+    return problem_.empty();
+  }
   if (!painter_.begin(&printer_)) return Failed("The printer does not answer.");
   if (!paint(painter_, printer_) || printer_.printerState() == QPrinter::Error) {
     printer_.abort();
     painter_.end();
     return Failed("The printer stopped.");
   }
-  return true;
-}
-
-bool PrintJob::RunToFile(const Painting& paint) {
-  // Without a printer Qt falls back to PDF, and without a file name that goes nowhere.
-  if (printer_.outputFileName().isEmpty())
-    return Failed("There is no printer, and no file was named to print to.");
-  QBuffer pages;
-  pages.open(QIODevice::WriteOnly);
-  QPdfWriter writer(&pages);
-  writer.setPageLayout(printer_.pageLayout());
-  writer.setResolution(printer_.resolution());
-  writer.setTitle(printer_.docName());
-  QPainter painter;
-  if (!painter.begin(&writer) || !paint(painter, writer) || !painter.end())
-    return Failed("The pages could not be made.");
-  const std::string path = QFile::encodeName(printer_.outputFileName()).toStdString();
-  const std::string_view bytes(pages.data().constData(), static_cast<std::size_t>(pages.size()));
-  if (const int error = ReplaceFile(path, bytes)) return Failed(NotWritten(path, error));
   return true;
 }
 

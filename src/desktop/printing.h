@@ -8,7 +8,19 @@
 #include <string>
 #include <string_view>
 
+#include "base/pages.h"
+
 namespace vicetoll {
+
+// Paints pages with a painter that has begun on the device; false if it cannot.
+using Painting = std::function<bool(QPainter&, QPagedPaintDevice&)>;
+
+// Prints at once and whole to the file that the printer has been given in the place of paper. Paints with a
+// painter of its own. Returns why that failed, a sentence in UTF-8; empty if it did not.
+std::string PrintToFile(const QPrinter& printer, const std::function<bool(QPagedPaintDevice&)>& paint);
+
+// Prints the pages of a report, on paper or to the file. Returns the same.
+std::string PrintPages(const Pages& pages, QPrinter& printer);
 
 // In which font: that of the windows, or the document's own.
 enum class PrintStyle { Plain, Document };
@@ -40,11 +52,7 @@ class PrintJob {
   const std::string& Problem() const { return problem_; }
 
  private:
-  // Paints the pages; false if it cannot.
-  using Painting = std::function<bool(QPainter&, QPagedPaintDevice&)>;
-
   bool Run(const Painting& paint);
-  bool RunToFile(const Painting& paint);
   bool Failed(std::string_view problem);
 
   PrintStyle style_;

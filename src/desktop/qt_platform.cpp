@@ -13,6 +13,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QMimeData>
+#include <QPaintEngine>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
@@ -24,6 +25,7 @@
 #include <cstdio>
 
 #include "base/file_writer.h"
+#include "desktop/page_progress.h"
 #include "desktop/places.h"
 #include "desktop/printing.h"
 #include "desktop/report_pages.h"
@@ -178,18 +180,29 @@ std::optional<std::string> QtPlatform::AskExportPath(std::string_view lastPath) 
   return Chosen(dialog.selectedFiles().value(0));
 }
 
-std::string QtPlatform::PdfOf(const Pages& pages) { return MakePdf(pages).toStdString(); }
+std::optional<std::string> QtPlatform::PdfOf(const Pages& pages) {
+  ShowChanges();
+  const auto pdf = MakePdf(pages, ReportPaper(), ShowPageProgress());
+  if (!pdf) return std::nullopt;
+  return pdf->toStdString();
+}
 
 void QtPlatform::PreviewPages(const Pages& pages) {
   ShowChanges();
-  openPrint_.reset();  // the next print lets the open page out
+  CloseOpenPrint();  // the next print lets the open page out
   QPrinter printer(QPrinter::HighResolution);
+  printer.setPageSize(ReportPaper());
   TurnPaper(pages, printer);
   printer.setDocName(ToQt(pages.title));
   QPrintPreviewDialog dialog(&printer, QApplication::activeWindow());
   dialog.setWindowTitle(QStringLiteral("Preview"));
-  QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                   [&pages](QPrinter* paper) { PaintPages(pages, *paper); });
+  QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* paper) {
+    // The dialog has the pages painted for its own eyes, and again to print them.
+    if (paper->paintEngine()->type() == QPaintEngine::Picture)
+      PaintPages(pages, *paper);
+    else if (const std::string problem = PrintPages(pages, *paper); !problem.empty())
+      Tell(QStringLiteral("Nothing was printed. %1").arg(QString::fromStdString(problem)));
+  });
   dialog.exec();
 }
 

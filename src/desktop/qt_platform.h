@@ -45,7 +45,7 @@ class QtPlatform : public Platform {
   std::optional<std::string> AskSavePath(std::string_view lastPath) override;
   std::optional<std::string> AskFirstSavePath() override;
   std::optional<std::string> AskExportPath(std::string_view lastPath) override;
-  std::string PdfOf(const Pages& pages) override;
+  std::optional<std::string> PdfOf(const Pages& pages) override;
   void PreviewPages(const Pages& pages) override;
   void WriteFile(const std::string& path, std::string_view bytes) override;
   void Print(std::string_view text, bool selection) override;

@@ -6,6 +6,7 @@
 #include <QMarginsF>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QPrinterInfo>
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -24,6 +25,7 @@ constexpr double kRowLeading = 1.55, kHeadingLeading = 1.2;  // of the size of t
 constexpr double kPictureShape = 0.5;                        // height to width
 constexpr int kFewestRows = 4;                               // below a picture; fewer go to the next page
 constexpr int kResolution = 1200;                            // dots per inch
+constexpr QSizeF kSmallestPaper{140, 200};                   // millimetres; a little less than A5
 
 const QColor kInk(0x20, 0x20, 0x28), kPale(0x60, 0x60, 0x70), kRule(0xA0, 0xA0, 0xB0),
     kBand(0xF3, 0xF4, 0xF8);
@@ -186,23 +188,29 @@ class TableLayout {
   std::vector<double> columns_;
 };
 
+// How painting went.
+enum class Painted { Whole, GivenUp, Failed };
+
 // Lays the pages out, twice: to count them, and to paint them.
 class PagePainter {
  public:
-  PagePainter(const Pages& pages, QPagedPaintDevice& device)
+  PagePainter(const Pages& pages, QPagedPaintDevice& device, const GoOn& goOn)
       : pages_(pages),
         device_(device),
+        goOn_(goOn),
         page_(device.pageLayout().paintRectPixels(device.logicalDpiX()).size()),
         summary_(pages.summary, device, page_.width()),
         rows_(pages.rows, device, page_.width()) {}
 
-  bool Paint() {
+  Painted Paint() {
     LayOut();
     count_ = number_;
-    if (!painter_.begin(&device_)) return false;
+    if (!painter_.begin(&device_)) return Painted::Failed;
     painting_ = true;
     LayOut();
-    return painter_.end();
+    const bool whole = painting_ && painter_.end();
+    if (givenUp_) return Painted::GivenUp;
+    return whole ? Painted::Whole : Painted::Failed;
   }
 
  private:
@@ -220,7 +228,10 @@ class PagePainter {
   }
 
   void StartPage() {
-    if (painting_ && number_ > 0) device_.newPage();
+    if (painting_ && number_ > 0) {
+      givenUp_ = goOn_ && !goOn_(number_, count_);
+      painting_ = !givenUp_ && device_.newPage();
+    }
     ++number_;
     y_ = 0;
     if (!painting_) return;
@@ -291,10 +302,11 @@ class PagePainter {
 
   const Pages& pages_;
   QPagedPaintDevice& device_;
+  const GoOn& goOn_;
   QSizeF page_;
   TableLayout summary_, rows_;
   QPainter painter_;
-  bool painting_ = false;
+  bool painting_ = false, givenUp_ = false;
   int number_ = 0, count_ = 0;
   double y_ = 0;
 };
@@ -329,6 +341,14 @@ void SetMargins(QPagedPaintDevice& device) {
 
 }  // namespace
 
+QPageSize ReportPaper() { return ReportPaperOf(QPrinterInfo::defaultPrinter().defaultPageSize()); }
+
+QPageSize ReportPaperOf(const QPageSize& printersPaper) {
+  const QSizeF size = printersPaper.size(QPageSize::Millimeter);
+  const bool large = size.width() >= kSmallestPaper.width() && size.height() >= kSmallestPaper.height();
+  return printersPaper.isValid() && large ? printersPaper : QPageSize(QPageSize::A4);
+}
+
 void TurnPaper(const Pages& pages, QPagedPaintDevice& device) {
   SetMargins(device);
   device.setPageOrientation(QPageLayout::Portrait);
@@ -337,20 +357,29 @@ void TurnPaper(const Pages& pages, QPagedPaintDevice& device) {
     device.setPageOrientation(QPageLayout::Landscape);
 }
 
-bool PaintPages(const Pages& pages, QPagedPaintDevice& device) { return PagePainter(pages, device).Paint(); }
+bool PaintPages(const Pages& pages, QPagedPaintDevice& device, const GoOn& goOn) {
+  return PagePainter(pages, device, goOn).Paint() == Painted::Whole;
+}
 
-QByteArray MakePdf(const Pages& pages) {
+std::optional<QByteArray> MakePdf(const Pages& pages, const QPageSize& paper, const GoOn& goOn) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   {
     QPdfWriter writer(&buffer);
     writer.setResolution(kResolution);
-    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setPageSize(paper);
     writer.setTitle(ToQt(pages.subtitle.empty() ? pages.title : pages.title + ": " + pages.subtitle));
     writer.setCreator(QStringLiteral("The Vicetoll Financial Calculator"));
     TurnPaper(pages, writer);
-    if (!PaintPages(pages, writer)) return {};
+    switch (PagePainter(pages, writer, goOn).Paint()) {
+      case Painted::Whole:
+        break;
+      case Painted::GivenUp:
+        return std::nullopt;
+      case Painted::Failed:
+        return QByteArray();
+    }
   }
   AddLanguage(bytes);
   return bytes;

@@ -73,16 +73,18 @@ void Exporter::Export(Form& window, const Forms& forms) {
   if (!chosen || chosen->empty()) return;
   path_ = WithSuffix(*chosen);
   Guarded([&] {
-    GetPlatform().WriteFile(path_, BytesFor(path_, forms));
+    const std::optional<std::string> bytes = BytesFor(path_, forms);
+    if (!bytes) return;
+    GetPlatform().WriteFile(path_, *bytes);
     window.Say("Saved in " + path_);
   });
 }
 
-std::string Exporter::BytesFor(const std::string& path, const Forms& forms) const {
+std::optional<std::string> Exporter::BytesFor(const std::string& path, const Forms& forms) const {
   if (HasSuffix(path, kWorkbook)) return BytesOf(forms.workbook());
   if (!HasSuffix(path, kPdf)) return CsvOf(forms.table());
-  std::string bytes = GetPlatform().PdfOf(WithPicture(forms.pages(), forms.chart));
-  if (bytes.empty()) throw Fault(FaultKind::File, "A PDF cannot be made without the program's windows.");
+  std::optional<std::string> bytes = GetPlatform().PdfOf(WithPicture(forms.pages(), forms.chart));
+  if (bytes && bytes->empty()) throw Fault(FaultKind::File, "The pages of the PDF cannot be made here.");
   return bytes;
 }
 

@@ -43,7 +43,8 @@ class Exporter {
 
   void Export(Form& window, const Forms& forms);
   void ExportReport(Form& window, const ReportExport& report);
-  std::string BytesFor(const std::string& path, const Forms& forms) const;
+  // None if the user did not wait for them.
+  std::optional<std::string> BytesFor(const std::string& path, const Forms& forms) const;
   Pages WithPicture(Pages pages, const ChartContents& chart) const;
   Platform& GetPlatform() const { return workspaces_.GetSession().platform; }
   // Runs what may fail for a reason that the user is told.

@@ -4,10 +4,20 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QProgressDialog>
+#include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include "desktop/desktop.h"
 #include "desktop/form_window.h"
+#include "desktop/page_progress.h"
+#include "desktop/qt_platform.h"
 #include "scenario/scripted_platform.h"
 
 namespace vicetoll {
@@ -27,6 +37,85 @@ TEST(TakingAlong, CtrlCInACellOfAllSinsCopiesTheTickedRows) {
   cell->selectAll();
   QTest::keyClick(cell, Qt::Key_C, Qt::ControlModifier);
   EXPECT_TRUE(platform.clipboard.starts_with("Smoking\t$0\t")) << platform.clipboard;
+}
+
+// A report of that many months.
+Pages PagesWith(int months) {
+  Pages pages{.title = "Smoking", .subtitle = "Past", .summary = {}, .svg = {}, .rows = {}};
+  pages.rows.columns = {{"Index", false}, {"Month", true}};
+  for (int i = 1; i <= months; ++i) pages.rows.rows.push_back({std::to_string(i), "Jun - 2031"});
+  return pages;
+}
+
+TEST(PaperOfReports, IsThePrintersUnlessThatIsNoneOrTooSmall) {
+  const QPageSize a4(QPageSize::A4), letter(QPageSize::Letter);
+  EXPECT_TRUE(ReportPaperOf(letter) == letter);
+  EXPECT_TRUE(ReportPaperOf(QPageSize(QPageSize::A5)) == QPageSize(QPageSize::A5));
+  EXPECT_TRUE(ReportPaperOf(QPageSize()) == a4);
+  EXPECT_TRUE(ReportPaperOf(QPageSize(QSizeF(62, 100), QPageSize::Millimeter)) == a4);
+  EXPECT_TRUE(ReportPaperOf(QPageSize(QSizeF(80, 3000), QPageSize::Millimeter)) == a4);
+  if (QPrinterInfo::defaultPrinter().isNull()) {
+    EXPECT_TRUE(ReportPaper() == a4);
+  }
+}
+
+TEST(PaperOfReports, IsThatOfTheFile) {
+  EXPECT_TRUE(MakePdf(PagesWith(3), QPageSize(QPageSize::A4))->contains("/MediaBox [0 0 595"));
+  EXPECT_TRUE(MakePdf(PagesWith(3), QPageSize(QPageSize::Letter))->contains("/MediaBox [0 0 612"));
+}
+
+TEST(PagesOfAReport, AreGivenUpWhenToldSo) {
+  int asked = 0, pages = 0;
+  const auto countTo = [&](int last) {
+    asked = 0;
+    return MakePdf(PagesWith(500), QPageSize(QPageSize::A4), [&, last](int done, int of) {
+      EXPECT_EQ(done, ++asked);
+      pages = of;
+      return done < last;
+    });
+  };
+  EXPECT_TRUE(countTo(1000).has_value());
+  EXPECT_EQ(asked, pages - 1);
+  EXPECT_GT(pages, 5);
+  EXPECT_FALSE(countTo(3).has_value());
+  EXPECT_EQ(asked, 3);
+}
+
+TEST(Progress, ShowsWhereItTakesLongAndCanBeCancelled) {
+  const GoOn patient = ShowPageProgress();
+  for (int done = 1; done < 10; ++done) EXPECT_TRUE(patient(done, 10));
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  const GoOn goOn = ShowPageProgress(0);
+  EXPECT_TRUE(goOn(1, 10));
+  QTest::qWait(60);
+  EXPECT_TRUE(goOn(2, 10));
+  auto* dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_EQ(dialog->maximum(), 10);
+  EXPECT_EQ(dialog->value(), 2);
+  QTest::mouseClick(dialog->findChild<QPushButton*>(), Qt::LeftButton);
+  EXPECT_FALSE(goOn(3, 10));
+}
+
+TEST(Preview, TellsOfAPrintThatFails) {
+  QString told;
+  QTimer::singleShot(50, [&told] {
+    auto* preview = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(preview, nullptr);
+    preview->printer()->setOutputFormat(QPrinter::PdfFormat);
+    preview->printer()->setOutputFileName(QStringLiteral("/dev/full"));
+    QTimer::singleShot(20, [&told] {
+      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        told = box->text();
+        box->accept();
+      }
+    });
+    preview->findChild<QPrintPreviewWidget*>()->print();
+    preview->reject();
+  });
+  QtPlatform().PreviewPages(PagesWith(100));
+  EXPECT_TRUE(told.contains(QStringLiteral("/dev/full"))) << told.toStdString();
+  EXPECT_TRUE(told.contains(QStringLiteral("No space left on device"))) << told.toStdString();
 }
 
 }  // namespace

@@ -286,7 +286,9 @@ CellSpan WidgetStage::Selection(Grid& grid) {
   return {cells.row, cells.col, cells.rowSel, cells.colSel};
 }
 
-std::string WidgetPlatform::PdfOf(const Pages& pages) { return MakePdf(pages).toStdString(); }
+std::optional<std::string> WidgetPlatform::PdfOf(const Pages& pages) {
+  return MakePdf(pages, QPageSize(QPageSize::A4)).value().toStdString();
+}
 
 Answer WidgetPlatform::ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) {
   const Answer answer = ScriptedPlatform::ShowMessage(title, text, buttons);

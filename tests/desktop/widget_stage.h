@@ -58,7 +58,7 @@ class WidgetPlatform : public ScriptedPlatform {
   using ScriptedPlatform::ScriptedPlatform;
   Desktop* desktop = nullptr;
 
-  std::string PdfOf(const Pages& pages) override;
+  std::optional<std::string> PdfOf(const Pages& pages) override;
   Answer ShowMessage(std::string_view title, std::string_view text, MessageButtons buttons) override;
 };
 
