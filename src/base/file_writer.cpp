@@ -21,18 +21,6 @@
 namespace vicetoll {
 namespace {
 
-// Beyond the shell's limit for files a write fails, and does not kill the program.
-class NoKillByFileSize {
- public:
-  NoKillByFileSize() : before_(std::signal(SIGXFSZ, SIG_IGN)) {}
-  ~NoKillByFileSize() { std::signal(SIGXFSZ, before_); }
-  NoKillByFileSize(const NoKillByFileSize&) = delete;
-  NoKillByFileSize& operator=(const NoKillByFileSize&) = delete;
-
- private:
-  void (*before_)(int);
-};
-
 // The operations return 0 or the error number.
 class OpenFile {
  public:
@@ -159,6 +147,9 @@ int FillAndRename(OpenFile& file, const std::string& beside, const std::string& 
 }
 
 }  // namespace
+
+NoKillByFileSize::NoKillByFileSize() : before_(std::signal(SIGXFSZ, SIG_IGN)) {}
+NoKillByFileSize::~NoKillByFileSize() { std::signal(SIGXFSZ, before_); }
 
 int ReplaceFile(const std::string& name, std::string_view bytes, FileKind kind) {
   const NoKillByFileSize noKill;

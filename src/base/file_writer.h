@@ -25,7 +25,19 @@ int ReplaceFile(const std::string& path, std::string_view bytes, FileKind kind =
 // The same. Throws Fault(File) naming the file and the reason, in UTF-8.
 void WriteWholeFile(const std::string& path, std::string_view bytes, FileKind kind = FileKind::Own);
 
-// "the file "/home/häß.txt" could not be written: No space left on device.", in UTF-8.
+// While one lives, a write beyond the shell's limit for files fails, and does not kill the program.
+class NoKillByFileSize {
+ public:
+  NoKillByFileSize();
+  ~NoKillByFileSize();
+  NoKillByFileSize(const NoKillByFileSize&) = delete;
+  NoKillByFileSize& operator=(const NoKillByFileSize&) = delete;
+
+ private:
+  void (*before_)(int);
+};
+
+// "The file "/home/häß.txt" could not be written: No space left on device.", in UTF-8.
 std::string NotWritten(const std::string& path, int error);
 
 // The system's reason for an error number, in English whatever the locale is.

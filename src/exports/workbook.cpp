@@ -7,12 +7,14 @@
 #include <xlsxwriter.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <ctime>
 #include <map>
 #include <utility>
 
 #include "base/code_page.h"
 #include "base/fault.h"
+#include "base/file_writer.h"
 #include "calendar/date_label.h"
 #include "calendar/number_text.h"
 
@@ -83,8 +85,12 @@ class WorkbookWriter {
   std::string Write() {
     for (const ExportTable& table : workbook_.sheets) WriteSheet(table);
     if (workbook_.chart.points > 0) WriteChart();
-    if (const lxw_error error = workbook_close(book_); error != LXW_NO_ERROR)
-      throw Fault(FaultKind::File, std::string("The workbook cannot be made: ") + lxw_strerror(error));
+    errno = 0;
+    if (const lxw_error error = workbook_close(book_); error != LXW_NO_ERROR) {
+      // The library says where it failed; the system why.
+      const std::string reason = errno != 0 ? ReasonOf(errno) + "." : lxw_strerror(error);
+      throw Fault(FaultKind::File, "The workbook cannot be made: " + reason);
+    }
     return file_.Bytes();
   }
 
@@ -266,6 +272,7 @@ class WorkbookWriter {
 
 std::string BytesOf(const Workbook& workbook) {
   const PlainNumbers plainNumbers;
+  const NoKillByFileSize noKill;  // files in memory have the limit too
   return WorkbookWriter(workbook).Write();
 }
 
