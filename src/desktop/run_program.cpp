@@ -2,6 +2,7 @@
 #include "desktop/run_program.h"
 
 #include <csignal>
+#include <cstdio>
 #include <new>
 
 #include "base/fault.h"
@@ -55,14 +56,22 @@ int RunProgram(GuardedApplication& application, const std::string& file) {
   // Beyond the shell's limit for files a write fails, and does not kill the program.
   std::signal(SIGXFSZ, SIG_IGN);
   QtPlatform platform;
-  const Termination termination([&platform](int signal) {
+  std::function<void()> keepEntries;
+  const Termination termination([&platform, &keepEntries](int signal) {
     platform.NobodyThere();
+    // Now, not on the way out: the display may be gone in a moment.
+    if (keepEntries) keepEntries();
     QCoreApplication::exit(128 + signal);
   });
   int status = 1;
   try {
     Program program(platform);
     Desktop desktop(program);
+    keepEntries = [&] {
+      const std::string rescued = program.Keeper().Rescue(platform.DataFolder());
+      if (!rescued.empty())
+        std::fprintf(stderr, "vicetoll: What you entered is in the file \"%s\".\n", rescued.c_str());
+    };
     platform.beforeWaiting = [&desktop] { desktop.Flush(); };
     desktop.onEnded = [] { QCoreApplication::exit(0); };
     desktop.onFault = [&](const std::exception& cause) {
@@ -72,6 +81,7 @@ int RunProgram(GuardedApplication& application, const std::string& file) {
     application.onException = [&desktop](const std::exception& cause) { desktop.Fail(cause); };
     if (!file.empty()) desktop.Enter([&] { program.Keeper().OpenFile(file); });
     status = QCoreApplication::exec();
+    keepEntries = nullptr;
   } catch (const std::exception& cause) {  // before the first window is up
     Tell(cause, {});
   }

@@ -111,7 +111,9 @@ std::string EntriesKeeper::Rescue(const std::string& folder) {
     std::string path = folder + "/rescued.vicetoll";
     for (int number = 2; std::filesystem::exists(path); ++number)
       path = folder + "/rescued-" + std::to_string(number) + ".vicetoll";
-    return ReplaceFile(path, WriteEntries(Capture(program_))) == 0 ? path : std::string();
+    if (ReplaceFile(path, WriteEntries(Capture(program_))) != 0) return {};
+    timesSetWhenKept_ = program_.GetSession().timesSet;
+    return path;
   } catch (const std::exception&) {
     return {};  // there is no second rescue
   }

@@ -36,8 +36,9 @@ class EntriesKeeper {
   // The file in use for the foot of the window, in UTF-8, with an asterisk if something was set since.
   std::string Status() const;
 
-  // For a run that cannot go on: writes the entries to a new file in the folder, which is made. Returns its
-  // path, empty if nothing was set since the last save or it cannot be written. Asks and throws nothing.
+  // For a run that cannot go on, or is ended from outside: writes the entries to a new file in the folder,
+  // which is made. Returns its path, empty if nothing was set since the last save or rescue, or it cannot be
+  // written. Asks and throws nothing.
   std::string Rescue(const std::string& folder);
 
  private:

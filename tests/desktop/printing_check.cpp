@@ -4,13 +4,16 @@
 #include <sys/resource.h>
 
 #include <QApplication>
+#include <QDirIterator>
 #include <QFile>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <csignal>
 
 #include "desktop/printing.h"
 #include "desktop/run_program.h"
+#include "entries/entries_file.h"
 
 namespace vicetoll {
 namespace {
@@ -79,10 +82,45 @@ TEST(Print, ToAFileIsWholeBeforeThePrintIsClosed) {
   EXPECT_TRUE(file.readAll().trimmed().endsWith("%%EOF"));
 }
 
+int RunEndedBy(int signal) {
+  QTimer::singleShot(50, [signal] { std::raise(signal); });
+  return RunProgram(dynamic_cast<GuardedApplication&>(*QCoreApplication::instance()));
+}
+
+// Files of entries in the user's data folder.
+QStringList Rescued(const QTemporaryDir& data) {
+  QStringList found;
+  QDirIterator files(data.path(), {QStringLiteral("*.vicetoll")}, QDir::Files, QDirIterator::Subdirectories);
+  while (files.hasNext()) found << files.next();
+  return found;
+}
+
 TEST(ARunEndedFromOutside, ClosesWhatIsOpen) {
+  const QTemporaryDir data;
+  qputenv("XDG_DATA_HOME", data.path().toUtf8());
+  for (const int signal : {SIGTERM, SIGHUP, SIGINT}) EXPECT_EQ(RunEndedBy(signal), 128 + signal);
+  qunsetenv("XDG_DATA_HOME");
+  EXPECT_TRUE(Rescued(data).isEmpty());  // nothing was set
+}
+
+TEST(ARunEndedFromOutside, KeepsWhatWasSetAndSaysWhere) {
   for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
-    QTimer::singleShot(50, [signal] { std::raise(signal); });
-    EXPECT_EQ(RunProgram(dynamic_cast<GuardedApplication&>(*QCoreApplication::instance())), 128 + signal);
+    const QTemporaryDir data;
+    qputenv("XDG_DATA_HOME", data.path().toUtf8());
+    QTimer::singleShot(0, [] {
+      for (QWidget* widget : QApplication::topLevelWidgets())
+        if (auto* button = widget->findChild<QPushButton*>(QStringLiteral("cmdSetPeriodParamsPast")))
+          button->click();
+    });
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(RunEndedBy(signal), 128 + signal);
+    const std::string told = testing::internal::GetCapturedStderr();
+    qunsetenv("XDG_DATA_HOME");
+    const QStringList files = Rescued(data);
+    ASSERT_EQ(files.size(), 1);
+    const Entries entries = ReadEntries(ReadEntriesBytes(files[0].toStdString()));
+    EXPECT_EQ(entries.sins.at(0).past.periods.size(), 1u);
+    EXPECT_NE(told.find(files[0].toStdString()), std::string::npos) << told;
   }
 }
 
