@@ -24,12 +24,17 @@ Rates RatesOf(const PeriodRecord& record) {
 
 std::int16_t PeriodTerms::Months() const { return MonthsInclusive(StartLabel, StopLabel); }
 
-PeriodTerms TermsOf(const PeriodRecord& record, CostClass costClass, std::string_view quantityText,
-                    bool perDay) {
+PeriodTerms DatesAndRatesOf(const PeriodRecord& record) {
   PeriodTerms terms;
   terms.StartLabel = record.StartLabel;
   terms.StopLabel = record.StopLabel;
   terms.rates = RatesOf(record);
+  return terms;
+}
+
+PeriodTerms TermsOf(const PeriodRecord& record, CostClass costClass, std::string_view quantityText,
+                    bool perDay) {
+  PeriodTerms terms = DatesAndRatesOf(record);
   terms.cost.costClass = costClass;
   terms.cost.yearlyFraction = LeadingNumber(record.PercentIncreaseText) / 100;
   double quantity = MoneyToNumber(quantityText);
@@ -55,7 +60,7 @@ double CostInPeriod(const PeriodTerms& terms) {
   MonthWalk walk(terms.cost, months);
   double total = 0;
   for (int i = 1; i <= months; ++i) total += RoundToCents(walk.Next().monthCost);
-  return total;
+  return Finite(total);
 }
 
 double BalanceAfterMonths(double balance, std::int16_t count, double months, const CostTerms& cost,

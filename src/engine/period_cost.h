@@ -39,6 +39,9 @@ struct PeriodTerms {
   std::int16_t Months() const;
 };
 
+// The labels and rates of the period in a record, without its cost: for a walk over none of its months.
+PeriodTerms DatesAndRatesOf(const PeriodRecord& record);
+
 // The period in a record, its quantity given as the text of the list entry. A monthly entry (perDay
 // false) is turned into the daily figure by DaysPerMonth. Throws Fault(Conversion).
 PeriodTerms TermsOf(const PeriodRecord& record, CostClass costClass, std::string_view quantityText,

@@ -34,8 +34,7 @@ constexpr auto kCostInPeriod = [](SinWorkspace& ws, Side side, std::int16_t peri
 };
 constexpr auto kCumulativeCost = [](SinWorkspace& ws, Side side, const std::string& startingCost,
                                     std::int16_t period, const std::string& calculateToDate) {
-  return CumulativeCostInPeriod(startingCost, PeriodTermsOf(ws, side, period), calculateToDate,
-                                WarningOf(ws));
+  return CumulativeCostInPeriod(ws, side, startingCost, period, calculateToDate);
 };
 constexpr auto kCumulativeCostBetween = [](SinWorkspace& ws, Side side, const std::string& startingCost,
                                            std::int16_t period, const std::string& stop,

@@ -88,6 +88,7 @@ void CommitPeriod(SinWorkspace& ws, Side side, int count, SideIndex sideIndex) {
       ws.cmdAdvResultsSpdSummaryTot->SetEnabled(true);
     }
   }
+  if (count < 1) return;  // no period is set, and none is reckoned
   // Fresh again: all that come after the period set last, and, but for a full side, period 1.
   if (count < kPeriodCount)
     for (int p = 1; p <= kPeriodCount; ++p)

@@ -31,6 +31,20 @@ void PutOptionsBack(SinWorkspace& ws, Side side) {
   }
 }
 
+// The list of reasonable costs becomes another one as the gross cost moves. Where it did, it is filled anew,
+// so that the copy which the load appends stands behind an equal one.
+void PutReasonableCostsBack(SinWorkspace& ws, Side side) {
+  DropDownList* list = ws.Of(side).comSubCost;
+  if (list == nullptr) return;
+  const std::vector<std::string> entries = EntriesOf(ws, ws.Sin().secondCostList);
+  const int size = static_cast<int>(entries.size());
+  bool copies = list->Count() % size == 0;
+  for (int i = 0; copies && i < list->Count(); ++i) copies = list->Entry(i) == entries[i % size];
+  if (copies) return;
+  list->Clear();
+  list->Append(entries);
+}
+
 void FillValueLists(SinWorkspace& ws, Side side) {
   SideControls& c = ws.Of(side);
   const SinRow& sin = ws.Sin();
@@ -75,6 +89,7 @@ void HideResults(SinWorkspace& ws, Side side) {
 void LoadParameters(SinWorkspace& ws, Side side) {
   SideControls& c = ws.Of(side);
   PutOptionsBack(ws, side);
+  PutReasonableCostsBack(ws, side);
   ws.SSTab_PastFutureSwitch->SetEnabled(false);
   c.cmdSetPeriodParams->SetEnabled(false);
   SideState& state = ws.State(side);

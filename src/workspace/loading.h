@@ -11,7 +11,7 @@ namespace vicetoll {
 // Loads a side (LoadSmokingParametersPast and its like): period 1 on screen, nothing committed, from any
 // state. Unit and cost mode go back to those of the start. The value lists are not emptied first, so a
 // repeated load appends all their entries again; selection by position and by text always finds the first
-// copy, and all copies of a quantity list are equal.
+// copy, and all copies in a list are equal.
 void LoadParameters(SinWorkspace& ws, Side side);
 
 // LoadSmokingParametersInitialFuture and its like: a workspace starts with its future lists still empty.

@@ -190,7 +190,7 @@ const std::string& QuantityText(const SinWorkspace& ws, Side side, int period) {
   return QuantityListOf(ws, ws.Of(side)).EntryOrLast(ws.Record(side, period).QuantityListIndex);
 }
 
-void AppendEntries(const SinWorkspace& ws, DropDownList& list, const ListDefinition& definition) {
+std::vector<std::string> EntriesOf(const SinWorkspace& ws, const ListDefinition& definition) {
   const bool money = definition.format.starts_with('$');
   std::vector<std::string> entries;
   entries.reserve(EntryCount(definition));
@@ -200,7 +200,11 @@ void AppendEntries(const SinWorkspace& ws, DropDownList& list, const ListDefinit
       entries.push_back(money ? ws.Money(value, definition.format) : FormatNumber(value, definition.format));
     }
   }
-  list.Append(entries);
+  return entries;
+}
+
+void AppendEntries(const SinWorkspace& ws, DropDownList& list, const ListDefinition& definition) {
+  list.Append(EntriesOf(ws, definition));
 }
 
 int EntryCount(const ListDefinition& definition) {

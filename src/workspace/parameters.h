@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "workspace/sin_workspace.h"
 
@@ -41,6 +42,9 @@ void ShowCostMode(SinWorkspace& ws, Side side);
 // The text of the quantity that a stored period counts with: the entry at its position in the list of the
 // unit option that is on now, the last entry for a position past the end.
 const std::string& QuantityText(const SinWorkspace& ws, Side side, int period);
+
+// The entries of a value list, in the currency of the run.
+std::vector<std::string> EntriesOf(const SinWorkspace& ws, const ListDefinition& definition);
 
 // Appends the entries of a value list.
 void AppendEntries(const SinWorkspace& ws, DropDownList& list, const ListDefinition& definition);

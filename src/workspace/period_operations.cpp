@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workspace/period_operations.h"
 
+#include "calendar/date_label.h"
 #include "workspace/parameters.h"
 
 namespace vicetoll {
@@ -35,7 +36,18 @@ DateWarning WarningOf(const SinWorkspace& ws) {
 }
 
 double CostInPeriod(const SinWorkspace& ws, Side side, int period) {
+  const PeriodRecord& record = ws.Record(side, period);
+  if (MonthsInclusive(record.StartLabel, record.StopLabel) < 1) return 0;
   return CostInPeriod(PeriodTermsOf(ws, side, period));
+}
+
+double CumulativeCostInPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost, int period,
+                              std::string_view calculateToDate) {
+  const PeriodRecord& record = ws.Record(side, period);
+  const bool anyMonth = MonthsInclusive(record.StartLabel, calculateToDate) > 0;
+  return CumulativeCostInPeriod(startingCost,
+                                anyMonth ? PeriodTermsOf(ws, side, period) : DatesAndRatesOf(record),
+                                calculateToDate, WarningOf(ws));
 }
 
 double CumulativeCostBetweenPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost,

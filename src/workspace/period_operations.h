@@ -24,8 +24,11 @@ SideTerms SideTermsOf(const SinWorkspace& ws, Side side, SideIndex sideIndex);
 // Shows the message for a date out of range and lets the calculation go on.
 DateWarning WarningOf(const SinWorkspace& ws);
 
-// The operations under the workspace's names; labels, balances and rates as in the engine.
+// The operations under the workspace's names; labels, balances and rates as in the engine. Where they have no
+// month to walk they read no cost from the store, which may hold none yet.
 double CostInPeriod(const SinWorkspace& ws, Side side, int period);
+double CumulativeCostInPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost, int period,
+                              std::string_view calculateToDate);
 double CumulativeCostBetweenPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost,
                                    int period, std::string_view stop, std::string_view start);
 

@@ -50,6 +50,12 @@ TEST(PeriodCost, AddsMonthsAsRoundedToCents) {
   EXPECT_EQ(FormatNumber(CostInPeriod(terms), "0.0000"), "1.8000");
 }
 
+// Each month is 1e306 * 30.42, and seven of them are more than a number can hold.
+TEST(PeriodCost, ASumBeyondAllBoundsIsAFault) {
+  EXPECT_EQ(FaultOf([] { CostInPeriod(PackADay("Jan - 2000", "Jul - 2000", 1e306, {})); }),
+            FaultKind::Overflow);
+}
+
 // (0 + 60.84) * 1.01 = 61.4484; (61.4484 + 60.84) * 1.01 = 123.511284; then 186.19479684.
 TEST(CumulativeCost, PaysInterestOnTheMonthsOwnMoneyToo) {
   EXPECT_EQ(NumberToText(Cumulative("0", kFirst, "Jan - 2000")), "61.4484");

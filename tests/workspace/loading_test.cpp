@@ -146,6 +146,19 @@ TEST_P(Loading, ARepeatedLoadPutsTheOptionsBack) {
   EXPECT_TRUE(c.quantity->Enabled() && c.quantity->Visible());
 }
 
+// Coffeeing and Watering: a lower gross cost has made another list of the reasonable ones.
+TEST_P(Loading, ARepeatedLoadPutsTheReasonableCostsBack) {
+  if (c.comSubCost == nullptr) return;
+  run.Pick(*c.comInitialCost, "$0.50");
+  ASSERT_EQ(c.comSubCost->Count(), 10);
+  LoadParameters(ws, side);
+  DropDownList& expected = ws.Add<DropDownList>({"expected"});
+  for (int copy = 1; copy <= 2; ++copy) AppendEntries(ws, expected, sin.secondCostList);
+  EXPECT_EQ(c.comSubCost->Entries().All(), expected.Entries().All());
+  EXPECT_EQ(c.comSubCost->Text(), "$1.10");
+  EXPECT_EQ(Record(4).ReasonableCostText, "$1.10");
+}
+
 TEST_P(Loading, ARepeatedLoadPutsTheCostModeBack) {
   if (!HasCostModes(sin.costClass)) return;
   run.Click(*c.OptCigInitialFinalCostIncrease);
