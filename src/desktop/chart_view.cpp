@@ -37,6 +37,10 @@ QColor Faint(QColor colour, double opacity) {
   return colour;
 }
 
+// The value within bounds; the lower one where there is no room between them, as in a window not laid out
+// yet.
+double Between(double value, double lower, double upper) { return std::max(lower, std::min(value, upper)); }
+
 // ---- Axes ----
 
 // Marks at the beginning of months, years, decades, whatever there is room for.
@@ -204,7 +208,7 @@ class PresentItem : public PlotItem {
     painter->drawLine(QPointF(x, top), QPointF(x, Area().bottom()));
     const QString now = QStringLiteral("now");
     const double width = metrics.horizontalAdvance(now) + 2;
-    const double left = std::clamp(x - width / 2, Area().left(), Area().right() - width);
+    const double left = Between(x - width / 2, Area().left(), Area().right() - width);
     painter->setFont(mParentPlot->font());
     painter->setPen(style_.text);
     painter->drawText(QRectF(left, top - metrics.height(), width, metrics.height()), Qt::AlignCenter, now);
@@ -247,8 +251,8 @@ class EndItem : public PlotItem {
     const End& upper = swap ? ends_[0] : ends_[1];
     const End& lower = swap ? ends_[1] : ends_[0];
     const double lowest = Area().bottom() - height;
-    double upperTop = std::clamp(Y(upper.value) - height / 2, Area().top() - height / 2, lowest - height);
-    double lowerTop = std::clamp(Y(lower.value) - height / 2, upperTop + height, lowest);
+    const double upperTop = Between(Y(upper.value) - height / 2, Area().top() - height / 2, lowest - height);
+    const double lowerTop = Between(Y(lower.value) - height / 2, upperTop + height, lowest);
     for (const auto& [end, top] : {std::pair(&upper, upperTop), std::pair(&lower, lowerTop)}) {
       const QRectF room(Area().right() + kEndGap, top, Width(), height);
       painter->setFont(mParentPlot->font());
