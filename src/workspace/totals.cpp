@@ -205,9 +205,13 @@ void UpdateCombinedCumulative(SinWorkspace& ws, SideIndex pastSide, SideIndex fu
   for (Side side : kSides) WriteZeroIfEmpty(*ws.Of(side).txtResultsTotal);
   const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
   const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
-  const bool anything = past.worthCounting || future.worthCounting;
-  ws.txtCumulativeResultsTotalSummaryTot->SetText(
-      anything ? BalanceOfBothSides(ws, past, future, pastSide, futureSide, WarningOf(ws)) : "0");
+  TextBox& balance = *ws.txtCumulativeResultsTotalSummaryTot;
+  if (past.worthCounting || future.worthCounting)
+    balance.SetText(BalanceOfBothSides(ws, past, future, pastSide, futureSide, WarningOf(ws)));
+  else if (MoneyToNumber(ws.Of(Side::Past).txtResultsTotal->Text()) == 0 &&
+           MoneyToNumber(ws.Of(Side::Future).txtResultsTotal->Text()) == 0)
+    balance.SetText("0");
+  // Else a total shows what a press made of disabled periods: none of them has a balance to write.
 }
 
 void UpdateTotalTab(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {

@@ -58,7 +58,8 @@ std::optional<std::string> OldFutureDateFigure(const SinWorkspace& ws);
 void ShowOldFutureDateFigure(SinWorkspace& ws, const std::string& figure);
 
 // A short form of UpdateTotalTab for the table over all sins: brings txtCumulativeResultsTotalSummaryTot up
-// to date and leaves the rest of the tab alone. Where there is nothing it writes "0", not "n/a".
+// to date and leaves the rest of the tab alone. Where both totals are zero it writes "0", not "n/a"; where
+// one is not, but nothing counts, it leaves the box as it is.
 void UpdateCombinedCumulative(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide);
 
 // Smoking's euro button goes for good, and the window, which was higher to make room for it, is lowered.
