@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/code_page.h"
 
-#include <algorithm>
 #include <cstdint>
+#include <cstring>
 
 namespace vicetoll {
 namespace {
@@ -21,11 +21,22 @@ char ByteOf(char32_t character) {
   return '?';
 }
 
+// Whether all bytes are below 0x80: eight at a time, for most texts are long and have no others.
+bool IsAscii(std::string_view text) {
+  std::uint64_t seen = 0;
+  for (; text.size() >= sizeof seen; text.remove_prefix(sizeof seen)) {
+    std::uint64_t bytes;
+    std::memcpy(&bytes, text.data(), sizeof bytes);
+    seen |= bytes;
+  }
+  for (const char c : text) seen |= static_cast<std::uint8_t>(c);
+  return (seen & 0x8080808080808080) == 0;
+}
+
 }  // namespace
 
 std::string ToUtf8(std::string_view codePageText) {
-  if (std::ranges::none_of(codePageText, [](char c) { return static_cast<std::uint8_t>(c) >= 0x80; }))
-    return std::string(codePageText);
+  if (IsAscii(codePageText)) return std::string(codePageText);
   std::string utf8;
   utf8.reserve(codePageText.size());
   for (const char c : codePageText) {

@@ -71,7 +71,10 @@ std::int16_t MonthsInclusive(std::string_view first, std::string_view last) {
 std::string IsoMonth(std::string_view label) {
   const int month = MonthNumberFromLabel(label);
   if (month == 0 || label.size() < 4) return std::string(label);
-  return std::string(label.substr(label.size() - 4)) + (month < 10 ? "-0" : "-") + std::to_string(month);
+  std::string iso(label.substr(label.size() - 4));
+  iso += month < 10 ? "-0" : "-1";
+  iso += static_cast<char>('0' + month % 10);
+  return iso;
 }
 
 std::string MonthAfter(std::string_view label) {

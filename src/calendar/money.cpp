@@ -6,10 +6,17 @@
 namespace vicetoll {
 namespace {
 
-std::string InCurrency(Currency currency, char euro, std::string_view format) {
+NumberFormat InCurrency(Currency currency, char euro, std::string_view format) {
+  if (currency == Currency::Dollar || format.empty()) return NumberFormat(format);
   std::string own(format);
-  if (currency == Currency::Euro && !own.empty()) own[0] = euro;
-  return own;
+  own[0] = euro;
+  return NumberFormat(own);
+}
+
+std::string Formatted(const NumberFormat& format, double value) {
+  std::string text;
+  format.Append(text, value);
+  return text;
 }
 
 std::string_view WithoutEuroSign(std::string_view text) {
@@ -19,14 +26,22 @@ std::string_view WithoutEuroSign(std::string_view text) {
 
 }  // namespace
 
+NumberFormat MoneyFormat(Currency currency, std::string_view format) {
+  return InCurrency(currency, kEuroSign, format);
+}
+
 std::string FormatMoney(Currency currency, double value, std::string_view format) {
-  return FormatNumber(value, InCurrency(currency, kEuroSign, format));
+  return Formatted(MoneyFormat(currency, format), value);
 }
 
 std::string StripCurrency(std::string_view text) { return std::string(WithoutEuroSign(text)); }
 
+NumberFormat MoneyLetterFormat(Currency currency, std::string_view format) {
+  return InCurrency(currency, 'e', format);
+}
+
 std::string FormatMoneyLetter(Currency currency, double value, std::string_view format) {
-  return FormatNumber(value, InCurrency(currency, 'e', format));
+  return Formatted(MoneyLetterFormat(currency, format), value);
 }
 
 double MoneyToNumber(std::string_view text) { return TextToNumber(WithoutEuroSign(text)); }

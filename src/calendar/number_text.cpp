@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/number_text.h"
 
+#include <algorithm>
+#include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -21,29 +24,6 @@ constexpr double kFastLimit = 1e11;
 constexpr double kTieWidth = 1e-4;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-// A format taken apart.
-struct Pattern {
-  std::string_view symbol;  // what stands before the first digit place
-  int forcedDigits = 0;     // integer digits that are shown even if they are leading zeros
-  int decimals = 0;
-  bool thousands = false;
-  bool percent = false;
-};
-
-Pattern ParsePattern(std::string_view format) {
-  Pattern pattern;
-  const std::size_t first = std::min(format.find_first_of("#0."), format.size());
-  pattern.symbol = format.substr(0, first);
-  bool inDecimals = false;
-  for (char c : format.substr(first)) {
-    if (c == '.') inDecimals = true;
-    if (c == ',') pattern.thousands = true;
-    if (c == '%') pattern.percent = true;
-    if (c == '0') inDecimals ? ++pattern.decimals : ++pattern.forcedDigits;
-  }
-  return pattern;
-}
 
 // The digits of |value| * 10^decimals, rounded half away from zero on the decimal text; "" for zero.
 std::string RoundedDigits(const Decimal& decimal, int decimals) {
@@ -71,31 +51,6 @@ std::optional<std::uint64_t> FastRounded(double value, double scale) {
   const double fraction = scaled - static_cast<double>(whole);
   if (std::fabs(fraction - 0.5) < kTieWidth) return std::nullopt;
   return static_cast<std::uint64_t>(whole) + (fraction > 0.5 ? 1 : 0);
-}
-
-// `digits` are those of the value times 10^decimals, without leading zeros.
-std::string Assemble(bool negative, std::string_view digits, const Pattern& pattern) {
-  char buffer[512];
-  const std::size_t decimals = static_cast<std::size_t>(pattern.decimals);
-  const std::size_t integerDigits = digits.size() > decimals ? digits.size() - decimals : 0;
-  const std::size_t shown = std::max(integerDigits, static_cast<std::size_t>(pattern.forcedDigits));
-  if (shown + shown / 3 + decimals + pattern.symbol.size() + 4 > sizeof buffer)
-    throw Fault(FaultKind::Overflow, "An amount is too long to be shown.");
-  char* out = buffer;
-  if (negative) *out++ = '-';
-  std::memcpy(out, pattern.symbol.data(), pattern.symbol.size());
-  out += pattern.symbol.size();
-  for (std::size_t left = shown; left > 0; --left) {
-    *out++ = left > integerDigits ? '0' : digits[integerDigits - left];
-    if (pattern.thousands && left > 1 && left % 3 == 1) *out++ = ',';
-  }
-  if (decimals > 0) {
-    *out++ = '.';
-    for (std::size_t left = decimals; left > 0; --left)
-      *out++ = left > digits.size() ? '0' : digits[digits.size() - left];
-  }
-  if (pattern.percent) *out++ = '%';
-  return std::string(buffer, out);
 }
 
 // The end of the longest decimal number (digits, point, exponent) at the beginning of the text.
@@ -170,17 +125,53 @@ Parsed ParseNumber(std::string_view text, double& value) {
   return result;
 }
 
-}  // namespace
+// Where exact arithmetic in integers knows the 15 digits of a value: from 1, and below 10^15.
+constexpr double kFirstInexact = 1e15;
 
-Decimal ToDecimal(double value) {
-  Finite(value);
+constexpr auto kPowersOfTen = [] {
+  std::array<std::uint64_t, kSignificantDigits + 1> powers{1};
+  for (std::size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * 10;
+  return powers;
+}();
+
+__extension__ using Wide = unsigned __int128;
+
+// The value is a whole number of 53 bits over a power of two, from 2^3 to 2^52. Times the power of ten that
+// makes 15 digits of it, that has 100 bits at most.
+Decimal ExactDecimal(double size) {
+  constexpr int kFractionBits = 52, kBias = 1023;
+  const auto bits = std::bit_cast<std::uint64_t>(size);
+  const std::uint64_t leading = std::uint64_t{1} << kFractionBits;
+  const std::uint64_t mantissa = (bits & (leading - 1)) | leading;
+  const int shift = kFractionBits + kBias - static_cast<int>(bits >> kFractionBits);
+  int point = 1;
+  while (point < kSignificantDigits && mantissa >> shift >= kPowersOfTen[point]) ++point;
+  const Wide scaled = Wide{mantissa} * kPowersOfTen[kSignificantDigits - point];
+  auto digits = static_cast<std::uint64_t>(scaled >> shift);
+  const std::uint64_t half = std::uint64_t{1} << (shift - 1);
+  const std::uint64_t rest = static_cast<std::uint64_t>(scaled) & (2 * half - 1);
+  // A tie goes to the even digit here, as where the library makes digits of a double.
+  if (rest > half || (rest == half && digits % 2 == 1)) ++digits;
   Decimal decimal;
-  if (value == 0) return decimal;
+  decimal.pointAfter = point;
+  if (digits == kPowersOfTen[kSignificantDigits]) {
+    digits /= 10;
+    ++decimal.pointAfter;
+  }
+  decimal.count = kSignificantDigits;
+  for (; digits % 10 == 0; digits /= 10) --decimal.count;
+  for (int i = decimal.count; i > 0; digits /= 10) decimal.digits[--i] = static_cast<char>('0' + digits % 10);
+  return decimal;
+}
+
+Decimal DecimalOf(double size) {
+  if (size >= 1 && size < kFirstInexact) return ExactDecimal(size);
+  Decimal decimal;
+  if (size == 0) return decimal;
   char text[32];
-  const auto end = std::to_chars(text, text + sizeof text, std::fabs(value), std::chars_format::scientific,
-                                 kSignificantDigits - 1)
-                       .ptr;
-  decimal.negative = value < 0;
+  const auto end =
+      std::to_chars(text, text + sizeof text, size, std::chars_format::scientific, kSignificantDigits - 1)
+          .ptr;
   decimal.digits[0] = text[0];
   std::memcpy(decimal.digits + 1, text + 2, kSignificantDigits - 1);
   decimal.count = kSignificantDigits;
@@ -192,8 +183,6 @@ Decimal ToDecimal(double value) {
   decimal.pointAfter = exponent + 1;
   return decimal;
 }
-
-namespace {
 
 // A whole number of cents has at most 15 digits here, so they are those of the value. False for other values.
 bool AppendCents(std::string& out, double value) {
@@ -216,6 +205,13 @@ bool AppendCents(std::string& out, double value) {
 
 }  // namespace
 
+Decimal ToDecimal(double value) {
+  Finite(value);
+  Decimal decimal = DecimalOf(std::fabs(value));
+  decimal.negative = value < 0;
+  return decimal;
+}
+
 void AppendNumberText(std::string& out, double value) {
   if (AppendCents(out, value)) return;
   const Decimal decimal = ToDecimal(value);
@@ -224,14 +220,15 @@ void AppendNumberText(std::string& out, double value) {
     out += "0.";
     out.append(-decimal.pointAfter, '0');
     out.append(decimal.digits, decimal.count);
-    return;
-  }
-  const int integerDigits = std::min(decimal.pointAfter, decimal.count);
-  out.append(decimal.digits, integerDigits);
-  out.append(decimal.pointAfter - integerDigits, '0');
-  if (decimal.count > integerDigits) {
-    out += '.';
-    out.append(decimal.digits + integerDigits, decimal.count - integerDigits);
+  } else if (decimal.pointAfter >= decimal.count) {
+    out.append(decimal.digits, decimal.count);
+    out.append(decimal.pointAfter - decimal.count, '0');
+  } else {
+    char text[kSignificantDigits + 1];
+    char* end = std::copy_n(decimal.digits, decimal.pointAfter, text);
+    *end++ = '.';
+    end = std::copy(decimal.digits + decimal.pointAfter, decimal.digits + decimal.count, end);
+    out.append(text, end);
   }
 }
 
@@ -268,19 +265,61 @@ double LeadingNumber(std::string_view text) {
   return negative ? -value : value;
 }
 
-std::string FormatNumber(double value, std::string_view format) {
+NumberFormat::NumberFormat(std::string_view format) {
+  std::size_t first = 0;
+  while (first < format.size() && format[first] != '#' && format[first] != '0' && format[first] != '.')
+    ++first;
+  symbol_ = format.substr(0, first);
+  bool inDecimals = false;
+  for (char c : format.substr(first)) {
+    if (c == '.') inDecimals = true;
+    if (c == ',') thousands_ = true;
+    if (c == '%') percent_ = true;
+    if (c == '0') inDecimals ? ++decimals_ : ++forcedDigits_;
+  }
+}
+
+void NumberFormat::Append(std::string& out, double value) const {
   static constexpr double kScales[] = {1, 10, 100, 1000, 10000};
-  const Pattern pattern = ParsePattern(format);
-  const int decimals = pattern.decimals + (pattern.percent ? 2 : 0);
+  const std::size_t decimals = decimals_ + (percent_ ? 2 : 0);
   const bool negative = value < 0;
-  if (decimals < static_cast<int>(std::size(kScales))) {
+  if (decimals < std::size(kScales)) {
     if (const auto rounded = FastRounded(value, kScales[decimals])) {
       char digits[24];
       const auto end = std::to_chars(digits, digits + sizeof digits, *rounded).ptr;
-      return Assemble(negative, *rounded == 0 ? std::string_view() : std::string_view(digits, end), pattern);
+      return Assemble(out, negative, *rounded == 0 ? std::string_view() : std::string_view(digits, end));
     }
   }
-  return Assemble(negative, RoundedDigits(ToDecimal(value), decimals), pattern);
+  Assemble(out, negative, RoundedDigits(ToDecimal(value), static_cast<int>(decimals)));
+}
+
+// `digits` are those of the value times 10^decimals, without leading zeros.
+void NumberFormat::Assemble(std::string& text, bool negative, std::string_view digits) const {
+  char buffer[512];
+  const std::size_t integerDigits = digits.size() > decimals_ ? digits.size() - decimals_ : 0;
+  const std::size_t shown = std::max(integerDigits, forcedDigits_);
+  if (shown + shown / 3 + decimals_ + symbol_.size() + 4 > sizeof buffer)
+    throw Fault(FaultKind::Overflow, "An amount is too long to be shown.");
+  char* out = buffer;
+  if (negative) *out++ = '-';
+  for (const char c : symbol_) *out++ = c;
+  for (std::size_t left = shown; left > 0; --left) {
+    *out++ = left > integerDigits ? '0' : digits[integerDigits - left];
+    if (thousands_ && left > 1 && left % 3 == 1) *out++ = ',';
+  }
+  if (decimals_ > 0) {
+    *out++ = '.';
+    for (std::size_t left = decimals_; left > 0; --left)
+      *out++ = left > digits.size() ? '0' : digits[digits.size() - left];
+  }
+  if (percent_) *out++ = '%';
+  text.append(buffer, out);
+}
+
+std::string FormatNumber(double value, std::string_view format) {
+  std::string text;
+  NumberFormat(format).Append(text, value);
+  return text;
 }
 
 double RoundToCents(double value) {

@@ -40,9 +40,26 @@ bool IsNumeric(std::string_view text);
 // read with it: "7.5%" gives 7.5.
 double LeadingNumber(std::string_view text);
 
-// The value in a format such as "$#,##0.00", "##.00", "$#,###" or "0%": an optional symbol, a pattern of
-// integer digits ("0" forces one, a comma asks for thousands), decimals after a point, and "%" for a
-// hundredfold. A value below zero has its minus before the symbol, also where it rounds to zero ("-$0").
+// A format such as "$#,##0.00", "##.00", "$#,###" or "0%": an optional symbol, a pattern of integer digits
+// ("0" forces one, a comma asks for thousands), decimals after a point, and "%" for a hundredfold. A value
+// below zero has its minus before the symbol, also where it rounds to zero ("-$0").
+class NumberFormat {
+ public:
+  explicit NumberFormat(std::string_view format);
+
+  void Append(std::string& out, double value) const;
+
+ private:
+  void Assemble(std::string& text, bool negative, std::string_view digits) const;
+
+  std::string symbol_;            // what stands before the first digit place
+  std::size_t forcedDigits_ = 0;  // integer digits that are shown even if they are leading zeros
+  std::size_t decimals_ = 0;
+  bool thousands_ = false;
+  bool percent_ = false;
+};
+
+// The value in a format.
 std::string FormatNumber(double value, std::string_view format);
 
 // The number that FormatNumber(value, "$#,##0.00") shows: rounded to cents. What TextToNumber would read

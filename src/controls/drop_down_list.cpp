@@ -38,13 +38,12 @@ void DropDownList::Insert(int position, std::string_view entry) {
   Changed();
 }
 
-void DropDownList::Append(const std::vector<std::string>& entries) {
-  const int before = Count();
-  entries_.Append(entries);
+void DropDownList::Append(std::vector<std::string> entries) {
   if (position_ == -1) {
     const auto found = std::find(entries.begin(), entries.end(), text_);
-    if (found != entries.end()) position_ = before + static_cast<int>(found - entries.begin());
+    if (found != entries.end()) position_ = Count() + static_cast<int>(found - entries.begin());
   }
+  entries_.Append(std::move(entries));
   Changed();
 }
 

@@ -39,7 +39,7 @@ class DropDownList : public Control {
   // an added one that does becomes the position. Throws Fault(Index) outside 0..Count().
   void Insert(int position, std::string_view entry);
   void Append(std::string_view entry) { Insert(Count(), entry); }
-  void Append(const std::vector<std::string>& entries);
+  void Append(std::vector<std::string> entries);
   // Takes away entries, text and position.
   void Clear();
   void TakeStateOf(const Control& other) override;

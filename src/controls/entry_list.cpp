@@ -29,13 +29,13 @@ std::vector<std::string> EntryList::All() const {
   return all;
 }
 
-void EntryList::Append(const std::vector<std::string>& entries) {
+void EntryList::Append(std::vector<std::string> entries) {
   if (entries.empty()) return;
   count_ += static_cast<int>(entries.size());
   if (!stretches_.empty() && stretches_.back().texts == entries)
     ++stretches_.back().times;
   else
-    stretches_.push_back({entries});
+    stretches_.push_back({std::move(entries)});
 }
 
 void EntryList::Insert(int position, std::string_view entry) {

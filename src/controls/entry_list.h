@@ -21,7 +21,7 @@ class EntryList {
   std::vector<std::string> All() const;
 
   // Adds entries at the end. Those that were added last, once more, only count.
-  void Append(const std::vector<std::string>& entries);
+  void Append(std::vector<std::string> entries);
   // Adds an entry at a position of 0..Count().
   void Insert(int position, std::string_view entry);
   void Clear();

@@ -116,9 +116,13 @@ std::string_view HeadingOf(const SinRow& sin, const ReportColumn& column) {
 ReportCells::ReportCells(ReportLayout layout, Currency currency) : layout_(layout), currency_(currency) {
   for (const ReportColumn& column : kColumns) {
     const CellStyle& style = StyleOf(column);
-    const bool zero = style.free.starts_with('$');
-    AppendPadded(shown_[static_cast<std::size_t>(column.key)].free,
-                 zero ? Format(0, style.free) : std::string(style.free), style.freeWidth);
+    Shown& shown = shown_[static_cast<std::size_t>(column.key)];
+    shown.format = FormatOf(style.format);
+    if (style.free.starts_with('$'))
+      FormatOf(style.free).Append(shown.free, 0);
+    else
+      shown.free = style.free;
+    Pad(shown.free, 0, style.freeWidth);
   }
 }
 
@@ -129,17 +133,19 @@ void ReportCells::Append(std::string& out, const ReportColumn& column, const Rep
     out += shown.free;
     return;
   }
-  const CellStyle& style = StyleOf(column);
+  const std::size_t width = StyleOf(column).width;
   const double figure = month.*column.figure;
   if (figure != shown.figure) {
     // Most figures change from month to month: only one that comes again is worth keeping.
     shown.figure = figure;
     shown.text.clear();
-    AppendPadded(out, Format(figure, style.format), style.width);
+    const std::size_t start = out.size();
+    shown.format.Append(out, figure);
+    Pad(out, start, width);
     return;
   }
-  if (shown.text.empty()) shown.text = Format(figure, style.format);
-  AppendPadded(out, shown.text, style.width);
+  if (shown.text.empty()) shown.format.Append(shown.text, figure);
+  AppendPadded(out, shown.text, width);
 }
 
 void ReportCells::AppendLine(std::string& out, const std::vector<const ReportColumn*>& columns,
@@ -153,10 +159,10 @@ void ReportCells::AppendLine(std::string& out, const std::vector<const ReportCol
   }
 }
 
-std::string ReportCells::Format(double figure, std::string_view format) const {
-  if (!format.starts_with('$')) return FormatNumber(figure, format);
-  return layout_ == ReportLayout::Grid ? FormatMoney(currency_, figure, format)
-                                       : FormatMoneyLetter(currency_, figure, format);
+NumberFormat ReportCells::FormatOf(std::string_view format) const {
+  if (!format.starts_with('$')) return NumberFormat(format);
+  return layout_ == ReportLayout::Grid ? MoneyFormat(currency_, format)
+                                       : MoneyLetterFormat(currency_, format);
 }
 
 }  // namespace vicetoll

@@ -92,22 +92,29 @@ class ReportCells {
     double figure = std::numeric_limits<double>::quiet_NaN();  // of the last month
     std::string text;                                          // it as text, once it has come again
     std::string free;                                          // of a month without cost, padded
+    NumberFormat format{{}};
   };
 
   const CellStyle& StyleOf(const ReportColumn& column) const {
     return layout_ == ReportLayout::Grid ? column.grid : column.document;
   }
-  std::string Format(double figure, std::string_view format) const;
+  NumberFormat FormatOf(std::string_view format) const;
 
   ReportLayout layout_;
   Currency currency_;
   std::array<Shown, kReportColumnCount> shown_;
 };
 
+// Appends blanks until what stands behind `start` is `width` characters long.
+inline void Pad(std::string& out, std::size_t start, std::size_t width) {
+  if (const std::size_t size = out.size() - start; size < width) out.append(width - size, ' ');
+}
+
 // Appends the text and blanks up to `width` characters; a longer text as it is.
 inline void AppendPadded(std::string& out, std::string_view text, std::size_t width) {
+  const std::size_t start = out.size();
   out += text;
-  if (text.size() < width) out.append(width - text.size(), ' ');
+  Pad(out, start, width);
 }
 
 // Appends the number's digits.

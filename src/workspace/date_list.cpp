@@ -10,14 +10,14 @@ namespace vicetoll {
 
 void FillDateList(bool clear, DropDownList& list, const std::string& first, const std::string& last,
                   std::int16_t step) {
-  const std::vector<std::string> months = MonthList(first, last, step);
+  std::vector<std::string> months = MonthList(first, last, step);
   // In an empty list nothing is there yet; the months of steps of a year at most are all different.
   const bool allDifferent = clear && step > 0 && step <= kMonthsPerYear && MonthNumberFromLabel(first) != 0;
   const bool onlyMissing = !allDifferent && ReachesAStep(first, last, step);
   const std::string selected = list.Text();
   if (clear) list.Clear();
   if (clear && !onlyMissing) {
-    list.Append(months);
+    list.Append(std::move(months));
   } else {
     int position = 0;
     for (const std::string& month : months)

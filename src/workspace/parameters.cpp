@@ -191,13 +191,15 @@ const std::string& QuantityText(const SinWorkspace& ws, Side side, int period) {
 }
 
 std::vector<std::string> EntriesOf(const SinWorkspace& ws, const ListDefinition& definition) {
-  const bool money = definition.format.starts_with('$');
+  const NumberFormat format = definition.format.starts_with('$')
+                                  ? MoneyFormat(ws.GetSession().currency, definition.format)
+                                  : NumberFormat(definition.format);
   std::vector<std::string> entries;
   entries.reserve(EntryCount(definition));
   for (const Run& run : definition.runs) {
     for (int i = run.first; i <= run.last; ++i) {
       const double value = static_cast<double>(i) * run.multiplier / run.divisor;
-      entries.push_back(money ? ws.Money(value, definition.format) : FormatNumber(value, definition.format));
+      format.Append(entries.emplace_back(), value);
     }
   }
   return entries;

@@ -115,6 +115,45 @@ TEST(NumberText, WhatIsNotFiniteIsAFault) {
   }
 }
 
+// ---- The 15 digits, checked against the library's ----
+
+void ExpectDigitsOfTheLibrary(double value) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.14e", value);
+  std::string wanted{text[0]};
+  wanted.append(text + 2, 14);
+  wanted.erase(wanted.find_last_not_of('0') + 1);
+  const Decimal decimal = ToDecimal(-value);
+  ASSERT_EQ(std::string(decimal.digits, decimal.count), wanted) << text;
+  ASSERT_EQ(decimal.pointAfter, std::atoi(text + 17) + 1) << text;
+  ASSERT_TRUE(decimal.negative);
+}
+
+TEST(Digits, AreThoseOfTheLibraryForRandomValues) {
+  std::mt19937_64 random(3);
+  std::uniform_real_distribution<double> exponent(-2, 17);
+  for (int i = 0; i < 300'000; ++i)
+    ASSERT_NO_FATAL_FAILURE(ExpectDigitsOfTheLibrary(std::pow(10, exponent(random))));
+}
+
+// Around every power of ten, and where a half, a quarter or an eighth lies exactly between two texts.
+TEST(Digits, AreThoseOfTheLibraryAtTheEdges) {
+  std::mt19937_64 random(4);
+  for (double power = 1e-3; power < 1e19; power *= 10) {
+    double above = std::round(power * 1000) / 1000, below = above;
+    for (int i = 0; i < 100; ++i) {
+      ASSERT_NO_FATAL_FAILURE(ExpectDigitsOfTheLibrary(above));
+      ASSERT_NO_FATAL_FAILURE(ExpectDigitsOfTheLibrary(below));
+      above = std::nextafter(above, 1e300);
+      below = std::nextafter(below, 0);
+    }
+  }
+  for (double eighths = 1e14; eighths < 8e15; eighths *= 1.1)
+    for (int i = 0; i < 2000; ++i)
+      ASSERT_NO_FATAL_FAILURE(ExpectDigitsOfTheLibrary(
+          std::floor(std::uniform_real_distribution<double>(eighths, eighths * 1.1)(random)) / 8));
+}
+
 // ---- Rounding, checked against integers ----
 
 // Digits in groups of three, by a loop that knows nothing of formats.
