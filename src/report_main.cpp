@@ -93,40 +93,66 @@ std::string_view SideWord(const ReportMonth& month) { return kSides3[month.side 
 void AddTable(const SinWorkspace& ws, ReportScope scope, const MonthReport& report, std::string& out) {
   out += std::string(ws.Sin().key) + ", " + std::string(kSides3[static_cast<int>(scope)]) + "\n";
   const auto columns = ColumnsOf(ws.Class());
-  // The cells row by row in one text, each ended by its place in `ends`.
+  // The cells row by row in one text, and where each ends.
   std::string text;
   std::vector<std::size_t> ends, widths(columns.size());
-  const auto endCell = [&](std::size_t start, std::size_t& width) {
-    while (text.size() > start && text.back() == ' ') text.pop_back();
-    width = std::max(width, text.size() - start);
-    ends.push_back(text.size());
-  };
-  for (std::size_t c = 0; c < columns.size(); ++c) {
-    const std::size_t start = text.size();
-    text += HeadingOf(ws.Sin(), *columns[c]);
-    endCell(start, widths[c]);
-  }
-  ReportCells cells(ReportLayout::Grid, ws.GetSession().currency);
-  for (const ReportMonth& month : report.months)
+  ends.reserve((report.months.size() + 1) * columns.size());
+  const auto addRow = [&](const auto& appendCell) {
     for (std::size_t c = 0; c < columns.size(); ++c) {
       const std::size_t start = text.size();
-      cells.Append(text, *columns[c], month);
-      endCell(start, widths[c]);
+      appendCell(*columns[c]);
+      std::size_t end = text.size();
+      while (end > start && text[end - 1] == ' ') --end;
+      text.resize(end);
+      widths[c] = std::max(widths[c], end - start);
+      ends.push_back(end);
     }
+  };
+  addRow([&](const ReportColumn& column) { text += HeadingOf(ws.Sin(), column); });
+  ReportCells cells(ReportLayout::Grid, ws.GetSession().currency);
+  for (const ReportMonth& month : report.months)
+    addRow([&](const ReportColumn& column) { cells.Append(text, column, month); });
   std::size_t start = 0;
-  for (std::size_t i = 0; i < ends.size(); start = ends[i++]) {
-    const std::size_t c = i % columns.size(), size = ends[i] - start;
-    out.append((c == 0 ? 0 : 2) + widths[c] - size, ' ');
-    out.append(text, start, size);
-    if (c + 1 == columns.size()) out += '\n';
+  for (auto end = ends.begin(); end != ends.end();) {
+    for (std::size_t c = 0; c < columns.size(); start = *end++, ++c) {
+      const std::size_t size = *end - start;
+      out.append((c == 0 ? 0 : 2) + widths[c] - size, ' ');
+      out.append(text, start, size);
+    }
+    out += '\n';
   }
 }
 
+// ---- The months in files ----
+
+// What the figures of a month are called, in the order of the columns.
+struct FigureName {
+  ColumnKey column;
+  std::string_view csv, json;
+};
+
+// clang-format off
+constexpr FigureName kFigures[] = {
+    {ColumnKey::Quantity,                   "quantity",                 "quantity"},
+    {ColumnKey::UnitCost,                   "unit_cost",                "unitCost"},
+    {ColumnKey::ReasonableCost,             "reasonable_cost",          "reasonableCost"},
+    {ColumnKey::AdjustedCost,               "adjusted_cost",            "adjustedCost"},
+    {ColumnKey::MonthCost,                  "month_cost",               "monthCost"},
+    {ColumnKey::MonthWithInterest,          "month_with_interest",      "monthWithInterest"},
+    {ColumnKey::CumulativeCost,             "cumulative_cost",          "cumulativeCost"},
+    {ColumnKey::CumulativeCostWithInterest, "cumulative_with_interest", "cumulativeWithInterest"},
+};
+// clang-format on
+
+double FigureOf(const ReportMonth& month, ColumnKey column) { return month.*ColumnOf(column).figure; }
+
 // ---- Comma-separated values: only words, months and numbers, so nothing needs quoting ----
 
-constexpr std::string_view kCsvHeading =
-    "sin,report,index,kind,side,period,month,quantity,unit_cost,reasonable_cost,adjusted_cost,month_cost,"
-    "month_with_interest,cumulative_cost,cumulative_with_interest\r\n";
+std::string CsvHeading() {
+  std::string heading = "sin,report,index,kind,side,period,month";
+  for (const FigureName& figure : kFigures) (heading += ',') += figure.csv;
+  return heading + "\r\n";
+}
 
 void AddCsv(const SinWorkspace& ws, ReportScope scope, const MonthReport& report, std::string& out) {
   const std::string start =
@@ -138,10 +164,7 @@ void AddCsv(const SinWorkspace& ws, ReportScope scope, const MonthReport& report
     (out += ',') += SideWord(month);
     AppendNumber(out += ',', month.period);
     (out += ',') += IsoMonth(month.label);
-    for (const double figure :
-         {month.quantity, month.unitCost, month.reasonableCost, month.adjustedCost, month.monthCost,
-          month.monthWithInterest, month.cumulativeCost, month.cumulativeCostWithInterest})
-      AppendNumberText(out += ',', figure);
+    for (const FigureName& figure : kFigures) AppendNumberText(out += ',', FigureOf(month, figure.column));
     out += "\r\n";
   }
 }
@@ -151,31 +174,24 @@ void AddCsv(const SinWorkspace& ws, ReportScope scope, const MonthReport& report
 // As lists and boxes have numbers: of 15 digits at most.
 double Digits15(double value) { return TextToNumber(NumberToText(value)); }
 
-// The months are most of a report: written as they come, a month a line.
+// The months are most of a report: written as they come, a month a line. One without cost has no figures of
+// its own, only what went before with its interest.
 void AddMonths(const MonthReport& report, std::string& out) {
-  const auto number = [&out](const char* name, double value) {
-    AppendNumberText(((out += ", \"") += name) += "\": ", value);
-  };
-  bool first = true;
+  std::array<std::string, std::size(kFigures)> labels;
+  for (std::size_t i = 0; i < labels.size(); ++i) ((labels[i] = ", \"") += kFigures[i].json) += "\": ";
   for (const ReportMonth& month : report.months) {
-    out += first ? "\n      {\"index\": " : ",\n      {\"index\": ";
-    first = false;
+    out += &month == &report.months.front() ? "\n      {\"index\": " : ",\n      {\"index\": ";
     AppendNumber(out, month.index);
     (out += ", \"kind\": \"") += KindWord(month.kind);
     (out += "\", \"side\": \"") += SideWord(month);
     AppendNumber(out += "\", \"period\": ", month.period);
     (out += ", \"month\": \"") += IsoMonth(month.label);
     out += '"';
-    if (month.kind == MonthKind::Active) {
-      number("quantity", month.quantity);
-      number("unitCost", month.unitCost);
-      number("reasonableCost", month.reasonableCost);
-      number("adjustedCost", month.adjustedCost);
-      number("monthCost", month.monthCost);
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+      const ColumnKey column = kFigures[i].column;
+      if (column <= ColumnKey::MonthCost && month.kind != MonthKind::Active) continue;
+      AppendNumberText(out += labels[i], FigureOf(month, column));
     }
-    number("monthWithInterest", month.monthWithInterest);
-    number("cumulativeCost", month.cumulativeCost);
-    number("cumulativeWithInterest", month.cumulativeCostWithInterest);
     out += '}';
   }
 }
@@ -199,45 +215,47 @@ Json TotalsOf(SinWorkspace& ws, ReportScope scope, const MonthReport& report) {
   return totals;
 }
 
-Json PeriodsOf(const Json& sin, ReportScope scope) {
-  Json periods = Json::array();
-  for (const std::string_view side : {"past", "future"}) {
-    if (scope != ReportScope::Total && kSides3[static_cast<int>(scope)] != side) continue;
-    if (const auto found = sin.find(side); found != sin.end())
-      for (Json period : *found) {
-        period["side"] = side;
-        periods.push_back(std::move(period));
-      }
+// The periods that the report is about.
+std::string PeriodsOf(const SinEntries& sin, ReportScope scope) {
+  switch (scope) {
+    case ReportScope::Past:
+      return WritePeriods(sin, {Side::Past});
+    case ReportScope::Future:
+      return WritePeriods(sin, {Side::Future});
+    default:
+      return WritePeriods(sin, {Side::Past, Side::Future});
   }
-  return periods;
 }
 
-void AddJson(SinWorkspace& ws, ReportScope scope, const MonthReport& report, const Json& written,
+void AddJson(SinWorkspace& ws, ReportScope scope, const MonthReport& report, const SinEntries& entries,
              std::string& out) {
-  const auto inner = [](const Json& json) {
-    std::string text;
-    for (const char c : json.dump(2)) (text += c) += c == '\n' ? "    " : "";
-    return text;
+  const auto addInner = [&out](const std::string& json) {
+    for (std::size_t start = 0, end; start < json.size(); start = end) {
+      end = std::min(json.find('\n', start), json.size() - 1) + 1;
+      out.append(json, start, end - start);
+      if (json[end - 1] == '\n') out += "    ";
+    }
   };
-  const std::string key(ws.Sin().key);
-  ((out += out == "[" ? "\n  {\n" : ",\n  {\n") += "    \"sin\": \"") += key;
+  ((out += out == "[" ? "\n  {\n" : ",\n  {\n") += "    \"sin\": \"") += ws.Sin().key;
   ((out += "\",\n    \"report\": \"") += kSides3[static_cast<int>(scope)]) += "\",\n    \"periods\": ";
-  (out += inner(PeriodsOf(written["sins"][key], scope))) += ",\n    \"months\": [";
+  addInner(PeriodsOf(entries, scope));
+  out += ",\n    \"months\": [";
   AddMonths(report, out);
-  (out += "\n    ],\n    \"totals\": ") += inner(TotalsOf(ws, scope, report));
+  out += "\n    ],\n    \"totals\": ";
+  addInner(TotalsOf(ws, scope, report).dump(2));
   out += "\n  }";
 }
 
 // ---- A file ----
 
-std::string ReportsOf(const Entries& entries, const Options& options) {
+// Into `out`, whose room is that of the report before.
+void ReportOn(const Entries& entries, const Options& options, std::string& out) {
   QuietPlatform quiet(options.now);
   BareProgram program(quiet);
   Apply(program, entries);
-  std::string out;
-  if (options.format == kCsv) out = kCsvHeading;
+  out.clear();
+  if (options.format == kCsv) out = CsvHeading();
   if (options.format == kJson) out = "[";
-  const Json written = options.format == kJson ? Json::parse(WriteEntries(entries)) : Json();
   for (const SinEntries& sin : entries.sins) {
     if (options.sin != -1 && options.sin != sin.position) continue;
     SinWorkspace& ws = program.At(sin.position);
@@ -250,22 +268,22 @@ std::string ReportsOf(const Entries& entries, const Options& options) {
         AddCsv(ws, options.scope, report, out);
         break;
       case kJson:
-        AddJson(ws, options.scope, report, written, out);
+        AddJson(ws, options.scope, report, sin, out);
     }
   }
   if (options.format == kJson) out += "\n]\n";
-  return options.format == kTable ? ToUtf8(out) : out;
+  if (options.format == kTable) out = ToUtf8(out);
 }
 
 // Throws EntriesRefused or Fault.
-std::string ReportsOfFile(const std::string& path, const Options& options) {
+void ReportOnFile(const std::string& path, const Options& options, std::string& out) {
   const Entries entries = ReadEntries(ReadEntriesBytes(path));
   bool there = options.sin == -1;
   for (const SinEntries& sin : entries.sins) there = there || sin.position == options.sin;
   if (!there)
     throw EntriesRefused("there is nothing about " +
                          std::string(Catalogue()[static_cast<std::size_t>(options.sin)].key));
-  return ReportsOf(entries, options);
+  ReportOn(entries, options, out);
 }
 
 void Put(const std::string& path, const std::string& report, const Options& options, bool intoFolder) {
@@ -287,9 +305,11 @@ int MakeReports(const Options& options) {
   mallopt(M_TRIM_THRESHOLD, kKept);
   const bool intoFolder = options.files.size() > 1 || std::filesystem::is_directory(options.output);
   int status = 0;
+  std::string report;
   for (const std::string& path : options.files) {
     try {
-      Put(path, ReportsOfFile(path, options), options, intoFolder);
+      ReportOnFile(path, options, report);
+      Put(path, report, options, intoFolder);
     } catch (const std::runtime_error& error) {  // EntriesRefused, Fault
       std::cerr << "vicetoll-report: " << path << ": " << error.what() << '\n';
       status = 1;

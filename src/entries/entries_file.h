@@ -2,6 +2,7 @@
 // Entries as a file: UTF-8 JSON, described in docs/entries.md.
 #pragma once
 
+#include <initializer_list>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -23,6 +24,9 @@ class EntriesRefused : public std::runtime_error {
 // The file's bytes: keys in a fixed order, one line a field. Months that have no year of four digits cannot
 // be written; then it throws EntriesRefused.
 std::string WriteEntries(const Entries& entries);
+
+// What the file says of the periods of these sides, as one JSON list: each with its side behind.
+std::string WritePeriods(const SinEntries& sin, std::initializer_list<Side> sides);
 
 // Reads a file's bytes, whatever they are. Throws EntriesRefused.
 Entries ReadEntries(std::string_view bytes);

@@ -100,4 +100,16 @@ std::string WriteEntries(const Entries& entries) {
   return json.dump(2) + "\n";
 }
 
+std::string WritePeriods(const SinEntries& sin, std::initializer_list<Side> sides) {
+  Json list = Json::array();
+  for (const Side side : sides) {
+    for (const PeriodEntries& period : sin.Of(side).periods) {
+      Json json = PeriodOf(period, sin.position);
+      json["side"] = SideWord(side);
+      list.push_back(std::move(json));
+    }
+  }
+  return list.dump(2);
+}
+
 }  // namespace vicetoll
