@@ -96,7 +96,7 @@ void CreateAndLoad(State& state, const char* key) {
   Session session(platform);
   for (auto _ : state) {
     SinWorkspace workspace(session, SinPosition(key));
-    LoadParameters(workspace, Side::Past);
+    LoadParameters(workspace.Of(Side::Past));
     benchmark::DoNotOptimize(workspace.Controls().data());
   }
 }
@@ -105,9 +105,9 @@ void CreateAndLoad(State& state, const char* key) {
 struct FullWorkspace {
   explicit FullWorkspace(const char* key) : program(platform), ws(program.At(SinPosition(key))) {
     program.GetSession().CurrentSinKey = key;
-    program.GetSession().CurrentSinNumber = ws.SideIndex(Side::Past);
+    program.GetSession().CurrentSinNumber = ws.Of(Side::Past).Index();
     ws.Show();
-    LoadParameters(ws, Side::Past);
+    LoadParameters(ws.Of(Side::Past));
     Commit(Side::Past, 1946);
     ws.SSTab_PastFutureSwitch->SetTab(kFutureTab);
     Commit(Side::Future, 2030);

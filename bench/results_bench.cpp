@@ -51,7 +51,7 @@ void DocumentTextOf(benchmark::State& state, bool docFlag) {
   std::size_t bytes = 0;
   for (auto _ : state) {
     const std::string text =
-        TotalDocText(ws, docFlag, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future), IndexUse::Moved);
+        TotalDocText(ws, docFlag, ws.Of(Side::Past).Index(), ws.Of(Side::Future).Index(), IndexUse::Moved);
     bytes = text.size();
     benchmark::DoNotOptimize(text.data());
   }

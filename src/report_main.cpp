@@ -69,9 +69,10 @@ class BareProgram final : public FreshProgram {
   SinWorkspace& Enter(int position) override {
     SinWorkspace& ws = At(position);
     session_.CurrentSinKey = ws.Sin().key;
-    session_.CurrentSinNumber = ws.SideIndex(Side::Past);
+    WorkspaceSide& past = ws.Of(Side::Past);
+    session_.CurrentSinNumber = past.Index();
     ws.SSTab_PastFutureSwitch->SetTab(kPastTab);
-    if (ws.State(Side::Past).CurrentPeriod == 0) LoadParameters(ws, Side::Past);
+    if (past.state.CurrentPeriod == 0) LoadParameters(past);
     return ws;
   }
   void TurnToEuro() override { session_.currency = Currency::Euro; }
@@ -202,16 +203,16 @@ Json TotalsOf(SinWorkspace& ws, ReportScope scope, const MonthReport& report) {
   totals["outOfPocket"] = Digits15(report.after.cost);
   totals["withInterest"] = Digits15(report.after.withInterest);
   if (scope == ReportScope::Total) {
-    UpdateTotalTab(ws, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future));
+    UpdateTotalTab(ws, ws.Of(Side::Past).Index(), ws.Of(Side::Future).Index());
     totals["shownOutOfPocket"] = ToUtf8(ws.txtResultsTotalSummaryTot->Text());
     totals["shownWithInterest"] = ToUtf8(ws.txtCumulativeResultsTotalSummaryTot->Text());
     return totals;
   }
-  const Side side = scope == ReportScope::Past ? Side::Past : Side::Future;
-  totals["shownOutOfPocket"] = ToUtf8(ws.Of(side).txtResultsTotal->Text());
+  const WorkspaceSide& side = ws.Of(scope == ReportScope::Past ? Side::Past : Side::Future);
+  totals["shownOutOfPocket"] = ToUtf8(side.txtResultsTotal->Text());
   for (int p = 1; p <= kPeriodCount; ++p)
-    if (const PeriodRecord& record = ws.Record(side, p); record.PeriodSet && record.PeriodEnabled)
-      totals["shownWithInterest"] = ToUtf8(ws.Of(side).txtCumulativeResultsPeriod(p).Text());
+    if (const PeriodRecord& record = side.Record(p); record.PeriodSet && record.PeriodEnabled)
+      totals["shownWithInterest"] = ToUtf8(side.txtCumulativeResultsPeriod(p).Text());
   return totals;
 }
 

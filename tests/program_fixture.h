@@ -118,7 +118,7 @@ class RunningProgram {
   }
 
   static void Commit(SinWorkspace& ws, Side side, int period, std::string_view start, std::string_view stop) {
-    if (ws.State(side).CurrentPeriod != period) GoTo(ws, side, period);
+    if (ws.Of(side).state.CurrentPeriod != period) GoTo(ws, side, period);
     Commit(ws, side, start, stop);
   }
 
@@ -162,7 +162,7 @@ class EverySinAndSide : public testing::TestWithParam<SinAndSide> {
   SinWorkspace& ws = run.Enter(sin.key, side);
   SideControls& c = ws.Of(side);
 
-  PeriodRecord& Record(int period) { return ws.Record(side, period); }
+  PeriodRecord& Record(int period) { return ws.Of(side).Record(period); }
   bool IsFlat() const { return sin.costClass == CostClass::FlatRateClass; }
 };
 
@@ -188,7 +188,7 @@ class EverySideOf : public testing::TestWithParam<Side> {
   SinWorkspace& ws;
   SideControls& c = ws.Of(side);
 
-  PeriodRecord& Record(int period) { return ws.Record(side, period); }
+  PeriodRecord& Record(int period) { return ws.Of(side).Record(period); }
 };
 
 }  // namespace vicetoll

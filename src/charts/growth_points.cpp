@@ -8,10 +8,8 @@
 namespace vicetoll {
 namespace {
 
-bool Counts(const SinWorkspace& ws, Side side) { return CountedOf(ws, side, ws.SideIndex(side)).last != 0; }
-bool IsWorthCounting(const SinWorkspace& ws, Side side) {
-  return CountedOf(ws, side, ws.SideIndex(side)).worthCounting;
-}
+bool Counts(const WorkspaceSide& side) { return CountedOf(side, side.Index()).last != 0; }
+bool IsWorthCounting(const WorkspaceSide& side) { return CountedOf(side, side.Index()).worthCounting; }
 
 ChartMonthKind KindOf(MonthKind kind) {
   switch (kind) {
@@ -92,12 +90,12 @@ void Describe(const SinWorkspace& ws, const MonthAndYear& present, ChartContents
 // a sin that costs nothing is a line along the axis.
 ReportScope GrowthScopeOf(const SinWorkspace& ws) {
   for (Side side : kSides)
-    if (IsWorthCounting(ws, side)) return ReportScope::Total;
-  return Counts(ws, Side::Past) ? ReportScope::Past : ReportScope::Future;
+    if (IsWorthCounting(ws.Of(side))) return ReportScope::Total;
+  return Counts(ws.Of(Side::Past)) ? ReportScope::Past : ReportScope::Future;
 }
 
 ChartContents GrowthOf(const SinWorkspace& ws, const MonthAndYear& present) {
-  if (!Counts(ws, Side::Past) && !Counts(ws, Side::Future)) return NothingYet(ws);
+  if (!Counts(ws.Of(Side::Past)) && !Counts(ws.Of(Side::Future))) return NothingYet(ws);
   ChartContents contents = MonthsOf(ws, ReportOf(ws, GrowthScopeOf(ws)));
   if (contents.months.empty()) return contents;
   if (const auto figure = FutureDateFigureOf(ws)) AddMonthsAhead(*figure, contents.months);

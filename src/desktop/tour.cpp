@@ -25,17 +25,18 @@ class Tour {
     Picture(ws, "The program starts with smoking");
 
     // Halfway down the list of stops: the second period needs room behind the first.
-    SetPeriod(ws, Side::Past, 1, [](const DropDownList& stops) { return stops.Count() / 2; });
+    SetPeriod(ws.Of(Side::Past), 1, [](const DropDownList& stops) { return stops.Count() / 2; });
     Picture(ws, "The first past period is set");
-    SetPeriod(ws, Side::Past, 2, [](const DropDownList& stops) { return stops.Count() - 1; });
+    SetPeriod(ws.Of(Side::Past), 2, [](const DropDownList& stops) { return stops.Count() - 1; });
     Picture(ws, "The second past period is set");
-    Figures(ws, Side::Past, 2);
+    Figures(ws.Of(Side::Past), 2);
 
     desktop_.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(kFutureTab); });
     Picture(ws, "The FUTURE tab");
-    SetPeriod(ws, Side::Future, 1, [](const DropDownList& stops) { return std::min(20, stops.Count() - 1); });
+    SetPeriod(ws.Of(Side::Future), 1,
+              [](const DropDownList& stops) { return std::min(20, stops.Count() - 1); });
     Picture(ws, "The first future period is set");
-    Figures(ws, Side::Future, 1);
+    Figures(ws.Of(Side::Future), 1);
 
     desktop_.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(kTotalTab); });
     Picture(ws, "The TOTAL tab");
@@ -52,26 +53,24 @@ class Tour {
 
  private:
   template <class Choose>
-  void SetPeriod(SinWorkspace& ws, Side side, int period, Choose stopOf) {
-    SideControls& c = ws.Of(side);
-    if (period > 1) desktop_.Enter([&] { c.optTimePeriod(period).UserClicks(); });
-    desktop_.Enter([&] { c.comStop->UserFocuses(); });
-    desktop_.Enter([&] { c.comStop->UserPicks(stopOf(*c.comStop)); });
-    desktop_.Enter([&] { c.cmdSetPeriodParams->UserClicks(); });
+  void SetPeriod(WorkspaceSide& side, int period, Choose stopOf) {
+    if (period > 1) desktop_.Enter([&] { side.optTimePeriod(period).UserClicks(); });
+    desktop_.Enter([&] { side.comStop->UserFocuses(); });
+    desktop_.Enter([&] { side.comStop->UserPicks(stopOf(*side.comStop)); });
+    desktop_.Enter([&] { side.cmdSetPeriodParams->UserClicks(); });
   }
 
   static void Line(const std::string& caption, const std::string& figure) {
     std::printf("     %-44s %14s\n", ToUtf8(caption).c_str(), ToUtf8(figure).c_str());
   }
 
-  void Figures(SinWorkspace& ws, Side side, int periods) {
-    const SideControls& c = ws.Of(side);
+  void Figures(WorkspaceSide& side, int periods) {
     for (int p = 1; p <= periods; ++p) {
-      std::printf("     %s\n", ToUtf8(c.optTimePeriod(p).Caption()).c_str());
-      Line("  Out of pocket", c.txtResultsPeriod(p).Text());
-      Line("  Put aside with interest", c.txtCumulativeResultsPeriod(p).Text());
+      std::printf("     %s\n", ToUtf8(side.optTimePeriod(p).Caption()).c_str());
+      Line("  Out of pocket", side.txtResultsPeriod(p).Text());
+      Line("  Put aside with interest", side.txtCumulativeResultsPeriod(p).Text());
     }
-    Line("Total out of pocket", c.txtResultsTotal->Text());
+    Line("Total out of pocket", side.txtResultsTotal->Text());
   }
 
   void Total(SinWorkspace& ws) {

@@ -25,92 +25,90 @@ void ShowMonths(DropDownList& list, const MonthRange& range, const std::string& 
 }
 
 // Turns the unit option on as a click does, all but the set button.
-void ShowUnit(SinWorkspace& ws, Side side, Unit unit, int place) {
-  SideControls& c = ws.Of(side);
-  (unit == Unit::PerDay ? c.firstUnit : c.secondUnit)->SetValue(true);
-  if (!HasListPerUnit(ws.Class())) return RefillUnitList(ws, side, place);
-  ShowPacksOrCigarettes(ws, side);
-  for (DropDownList* list : {c.quantity, c.comCigsPerDay}) list->SetText(list->EntryOrLast(place));
+void ShowUnit(WorkspaceSide& side, Unit unit, int place) {
+  (unit == Unit::PerDay ? side.firstUnit : side.secondUnit)->SetValue(true);
+  if (!HasListPerUnit(side.Class())) return RefillUnitList(side, place);
+  ShowPacksOrCigarettes(side);
+  for (DropDownList* list : {side.quantity, side.comCigsPerDay}) list->SetText(list->EntryOrLast(place));
 }
 
-void ShowUnitOf(SinWorkspace& ws, Side side, Unit unit) {
-  const SideControls& c = ws.Of(side);
-  if ((unit == Unit::PerDay ? c.firstUnit : c.secondUnit)->Value()) return;
-  ShowUnit(ws, side, unit, ws.Record(side, ws.State(side).CurrentPeriod).QuantityListIndex);
+void ShowUnitOf(WorkspaceSide& side, Unit unit) {
+  if ((unit == Unit::PerDay ? side.firstUnit : side.secondUnit)->Value()) return;
+  ShowUnit(side, unit, side.Record(side.state.CurrentPeriod).QuantityListIndex);
 }
 
-void ShowPeriod(SinWorkspace& ws, Side side, const PeriodEntries& period, int place) {
-  SideControls& c = ws.Of(side);
-  const SinRow& sin = ws.Sin();
-  ShowMonths(*c.comStart, period.startList, period.start);
-  ShowMonths(*c.comStop, period.stopList, period.stop);
-  ShowUnit(ws, side, period.unit, place);
-  ShowAmount(ws, c.comInitialCost, period.cost, sin.costList.format);
-  ShowAmount(ws, c.comFinalCost, period.finalCost, sin.secondCostList.format);
-  ShowAmount(ws, c.comSubCost, period.reasonableCost, sin.secondCostList.format);
-  if (c.OptCigPercentCostIncrease != nullptr) {
-    (period.percentMode ? c.OptCigPercentCostIncrease : c.OptCigInitialFinalCostIncrease)->SetValue(true);
-    ShowCostMode(ws, side);
+void ShowPeriod(WorkspaceSide& side, const PeriodEntries& period, int place) {
+  SinWorkspace& ws = side.Workspace();
+  const SinRow& sin = side.Sin();
+  ShowMonths(*side.comStart, period.startList, period.start);
+  ShowMonths(*side.comStop, period.stopList, period.stop);
+  ShowUnit(side, period.unit, place);
+  ShowAmount(ws, side.comInitialCost, period.cost, sin.costList.format);
+  ShowAmount(ws, side.comFinalCost, period.finalCost, sin.secondCostList.format);
+  ShowAmount(ws, side.comSubCost, period.reasonableCost, sin.secondCostList.format);
+  if (side.OptCigPercentCostIncrease != nullptr) {
+    (period.percentMode ? side.OptCigPercentCostIncrease : side.OptCigInitialFinalCostIncrease)
+        ->SetValue(true);
+    ShowCostMode(side);
   }
-  c.comPercentIncrease->SetText(RateText(period.increase));
-  c.comInterestRate1->SetText(RateText(period.interest));
-  c.comInflationRate1->SetText(RateText(period.inflation));
+  side.comPercentIncrease->SetText(RateText(period.increase));
+  side.comInterestRate1->SetText(RateText(period.interest));
+  side.comInflationRate1->SetText(RateText(period.inflation));
 }
 
-void GoToPeriod(SinWorkspace& ws, Side side, int p) {
-  ws.Of(side).optTimePeriod(p).SetValue(true);
-  SelectPeriod(ws, side, ws.SideIndex(side));
+void GoToPeriod(WorkspaceSide& side, int p) {
+  side.optTimePeriod(p).SetValue(true);
+  SelectPeriod(side, side.Index());
 }
 
 // The results as they came about when the entries were captured.
-void Reckon(SinWorkspace& ws, Side side, const SideEntries& entries) {
-  SideControls& c = ws.Of(side);
+void Reckon(WorkspaceSide& side, const SideEntries& entries) {
   const auto count = static_cast<std::int16_t>(entries.periods.size());
-  const SideIndex sideIndex = ws.SideIndex(side);
+  const SideIndex sideIndex = side.Index();
   const auto switchOff = [&] {
     for (int p = 1; p <= count; ++p)
-      if (!entries.periods[p - 1].enabled) c.rbnDisabledPeriod(p).SetValue(true);
+      if (!entries.periods[p - 1].enabled) side.rbnDisabledPeriod(p).SetValue(true);
   };
   if (entries.resultsBy != CountedIn::Switch) {
     // A press forces all radios on but that of period 1, and counts it none the less.
-    CommitPeriod(ws, side, count, sideIndex);
+    CommitPeriod(side, count, sideIndex);
     if (entries.periods[0].enabled && entries.resultsUnit == entries.periods.back().unit) return;
     switchOff();
-    ShowUnitOf(ws, side, entries.resultsUnit);
-    if (entries.resultsBy == CountedIn::PressHidingFirst) c.rbnDisabledPeriod(kPeriodCount).SetValue(true);
-    CommitPeriod(ws, side, count, sideIndex);
+    ShowUnitOf(side, entries.resultsUnit);
+    if (entries.resultsBy == CountedIn::PressHidingFirst) side.rbnDisabledPeriod(kPeriodCount).SetValue(true);
+    CommitPeriod(side, count, sideIndex);
     return;
   }
-  CommitPeriod(ws, side, count, sideIndex);
-  ShowUnitOf(ws, side, entries.resultsUnit);
+  CommitPeriod(side, count, sideIndex);
+  ShowUnitOf(side, entries.resultsUnit);
   switchOff();
-  RefreshResults(ws, side, sideIndex);
-  UpdateResultButtons(ws, side, sideIndex);
+  RefreshResults(side, sideIndex);
+  UpdateResultButtons(side, sideIndex);
 }
 
-void ApplySide(SinWorkspace& ws, Side side, const SideEntries& entries) {
+void ApplySide(WorkspaceSide& side, const SideEntries& entries) {
+  SinWorkspace& ws = side.Workspace();
   if (entries.periods.empty()) return;
   const QuantityPlaces places = PlacesOf(ws.Position(), entries).value();
   // Each arrival on a future tab without a set period appends its lists once more.
   for (int i = 0; i < places.copies; ++i) {
     ws.SSTab_PastFutureSwitch->SetTab(kPastTab);
-    if (side == Side::Future) ws.SSTab_PastFutureSwitch->SetTab(kFutureTab);
+    if (!side.IsPast()) ws.SSTab_PastFutureSwitch->SetTab(kFutureTab);
   }
   const int count = static_cast<int>(entries.periods.size());
   for (int p = 1; p <= count; ++p) {
-    if (p > 1) GoToPeriod(ws, side, p);
-    ShowPeriod(ws, side, entries.periods[p - 1], places.places[p - 1]);
-    SetParameters(ws, side, static_cast<std::int16_t>(p));
-    PeriodRecord& record = ws.Record(side, p);
+    if (p > 1) GoToPeriod(side, p);
+    ShowPeriod(side, entries.periods[p - 1], places.places[p - 1]);
+    SetParameters(side, static_cast<std::int16_t>(p));
+    PeriodRecord& record = side.Record(p);
     record.QuantityListIndex = static_cast<std::int16_t>(places.places[p - 1]);
     record.QuantityUnitFlag = entries.periods[p - 1].unit == Unit::PerDay;
-    if (ws.cmdEuro != nullptr && side == Side::Past) RetireEuroButton(ws);
+    if (ws.cmdEuro != nullptr && side.IsPast()) RetireEuroButton(ws);
   }
-  Reckon(ws, side, entries);
+  Reckon(side, entries);
   const int shown = entries.shownPeriod;
-  if (shown != count && shown <= count + 1 && ws.Of(side).optTimePeriod(shown).Enabled())
-    GoToPeriod(ws, side, shown);
-  ShowUnitOf(ws, side, entries.shownUnit);
+  if (shown != count && shown <= count + 1 && side.optTimePeriod(shown).Enabled()) GoToPeriod(side, shown);
+  ShowUnitOf(side, entries.shownUnit);
 }
 
 void ChooseFutureDate(SinWorkspace& ws, const FutureDateTerms& terms) {
@@ -126,7 +124,7 @@ void ApplyTotal(SinWorkspace& ws, const SinEntries& sin) {
   const bool open = ws.comCumulativeFutureDateTot->Enabled();
   ChooseFutureDate(ws, *sin.total);
   if (open)
-    UpdateFutureDateTotal(ws, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future));
+    UpdateFutureDateTotal(ws, ws.Of(Side::Past).Index(), ws.Of(Side::Future).Index());
   else
     ws.evaluatedAt = sin.total;
   if (sin.oldFigure) ShowOldFutureDateFigure(ws, *sin.oldFigure);
@@ -142,7 +140,7 @@ void Apply(FreshProgram& program, const Entries& entries) {
   const SinEntries* front = nullptr;
   for (const SinEntries& sin : entries.sins) {
     SinWorkspace& ws = program.Enter(sin.position);
-    for (Side side : kSides) ApplySide(ws, side, sin.Of(side));
+    for (Side side : kSides) ApplySide(ws.Of(side), sin.Of(side));
     // The way back to the sin in front, and its TOTAL tab, would undo a date chosen there.
     if (sin.position == entries.front && entries.tab == kTotalTab)
       front = &sin;

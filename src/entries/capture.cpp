@@ -19,15 +19,16 @@ int PercentOf(const std::string& rate) { return static_cast<int>(LeadingNumber(r
 
 // The text at a place of the quantity list in a unit: of smoking in the list as it stands, of all others in
 // the list as it is filled whenever the period is shown.
-std::string QuantityAt(const SinWorkspace& ws, Side side, Unit unit, int place) {
-  if (!HasListPerUnit(ws.Class())) return AmountAt(QuantityAmounts(ws.Position(), unit), place);
-  const SideControls& c = ws.Of(side);
-  return (unit == Unit::PerDay ? c.quantity : c.comCigsPerDay)->EntryOrLast(place);
+std::string QuantityAt(const WorkspaceSide& side, Unit unit, int place) {
+  if (!HasListPerUnit(side.Class()))
+    return AmountAt(QuantityAmounts(side.Workspace().Position(), unit), place);
+  return (unit == Unit::PerDay ? side.quantity : side.comCigsPerDay)->EntryOrLast(place);
 }
 
-PeriodEntries CapturePeriod(const SinWorkspace& ws, Side side, int p) {
-  const PeriodRecord& record = ws.Record(side, p);
-  const SinRow& sin = ws.Sin();
+PeriodEntries CapturePeriod(const WorkspaceSide& side, int p) {
+  const SinWorkspace& ws = side.Workspace();
+  const PeriodRecord& record = side.Record(p);
+  const SinRow& sin = side.Sin();
   PeriodEntries period;
   period.start = record.StartLabel;
   period.stop = record.StopLabel;
@@ -35,22 +36,22 @@ PeriodEntries CapturePeriod(const SinWorkspace& ws, Side side, int p) {
   period.stopList = {record.StopListFirst, record.StopListLast};
   period.unit = record.QuantityUnitFlag ? Unit::PerDay : Unit::PerMonth;
   const Unit other = OtherUnit(period.unit);
-  period.quantity = QuantityAt(ws, side, period.unit, record.QuantityListIndex);
-  const std::string elsewhere = QuantityAt(ws, side, other, record.QuantityListIndex);
+  period.quantity = QuantityAt(side, period.unit, record.QuantityListIndex);
+  const std::string elsewhere = QuantityAt(side, other, record.QuantityListIndex);
   const int usual = PlaceOf(QuantityAmounts(ws.Position(), period.unit), period.quantity);
   if (elsewhere != AmountAt(QuantityAmounts(ws.Position(), other), usual)) period.otherUnit = elsewhere;
-  if (ws.Class() != CostClass::FlatRateClass)
+  if (side.Class() != CostClass::FlatRateClass)
     period.cost = AmountOf(record.InitialCostText, sin.costList.format);
-  if (HasCostModes(ws.Class())) {
+  if (HasCostModes(side.Class())) {
     period.finalCost = AmountOf(record.FinalCostText, sin.secondCostList.format);
     period.percentMode = record.CostModeFlag;
   }
-  if (ws.Class() == CostClass::NetUnitsClass)
+  if (side.Class() == CostClass::NetUnitsClass)
     period.reasonableCost = AmountOf(record.ReasonableCostText, sin.secondCostList.format);
   period.increase = PercentOf(record.PercentIncreaseText);
   period.interest = PercentOf(record.InterestRateText);
   period.inflation = PercentOf(record.InflationRateText);
-  period.enabled = ws.Of(side).rbnEnabledPeriod(p).Value();
+  period.enabled = side.rbnEnabledPeriod(p).Value();
   return period;
 }
 
@@ -64,50 +65,48 @@ bool OutOfOrder(const std::vector<PeriodEntries>& periods) {
 
 // How the results came about. A switch hides what is off, and leaves it out of the total; a press counts all
 // that is set, and writes "0" into the boxes of the rest.
-CountedIn ResultsBy(const SinWorkspace& ws, Side side, const SideEntries& entries) {
-  const SideControls& c = ws.Of(side);
+CountedIn ResultsBy(const WorkspaceSide& side, const SideEntries& entries) {
   const int count = static_cast<int>(entries.periods.size());
   double all = 0, on = 0;
   for (int p = 1; p <= count; ++p) {
-    const double cost = MoneyToNumber(c.txtResultsPeriod(p).Text());
+    const double cost = MoneyToNumber(side.txtResultsPeriod(p).Text());
     const bool enabled = entries.periods[p - 1].enabled;
     if (!enabled && p > 1) return CountedIn::Switch;  // a press turns these on
     all += cost;
     if (enabled) on += cost;
   }
   // Compared as they show: sums of more than 15 digits lose their last.
-  const std::string allShown = ws.Money(all, kResultFormat);
-  const bool restIsZero = count == kPeriodCount || c.txtResultsPeriod(count + 1).Text() == "0";
+  const std::string allShown = side.Money(all, kResultFormat);
+  const bool restIsZero = count == kPeriodCount || side.txtResultsPeriod(count + 1).Text() == "0";
   const bool byPress =
-      allShown == ws.Money(on, kResultFormat) ? restIsZero : allShown == c.txtResultsTotal->Text();
+      allShown == side.Money(on, kResultFormat) ? restIsZero : allShown == side.txtResultsTotal->Text();
   if (!byPress) return CountedIn::Switch;
-  return c.txtResultsPeriod(1).Enabled() ? CountedIn::Press : CountedIn::PressHidingFirst;
+  return side.txtResultsPeriod(1).Enabled() ? CountedIn::Press : CountedIn::PressHidingFirst;
 }
 
 // Whether the cost boxes of the side hold what its periods cost in this unit.
-bool ShowsResultsIn(const SinWorkspace& ws, Side side, int count, Unit unit) {
+bool ShowsResultsIn(const WorkspaceSide& side, int count, Unit unit) {
   for (int p = 1; p <= count; ++p) {
-    const PeriodRecord& record = ws.Record(side, p);
-    const PeriodTerms terms = TermsOf(
-        record, ws.Class(), QuantityAt(ws, side, unit, record.QuantityListIndex), unit == Unit::PerDay);
-    if (ws.Money(CostInPeriod(terms), kResultFormat) != ws.Of(side).txtResultsPeriod(p).Text()) return false;
+    const PeriodRecord& record = side.Record(p);
+    const PeriodTerms terms =
+        TermsOf(record, side.Class(), QuantityAt(side, unit, record.QuantityListIndex), unit == Unit::PerDay);
+    if (side.Money(CostInPeriod(terms), kResultFormat) != side.txtResultsPeriod(p).Text()) return false;
   }
   return true;
 }
 
-SideEntries CaptureSide(SinWorkspace& ws, Side side) {
+SideEntries CaptureSide(WorkspaceSide& side) {
   SideEntries entries;
-  for (int p = 1; p <= kPeriodCount && ws.Record(side, p).PeriodSet; ++p)
-    entries.periods.push_back(CapturePeriod(ws, side, p));
+  for (int p = 1; p <= kPeriodCount && side.Record(p).PeriodSet; ++p)
+    entries.periods.push_back(CapturePeriod(side, p));
   if (entries.periods.empty()) return entries;
   entries.outOfOrder = OutOfOrder(entries.periods);
-  entries.shownPeriod = ws.State(side).CurrentPeriod;
-  entries.shownUnit = ws.Of(side).firstUnit->Value() ? Unit::PerDay : Unit::PerMonth;
-  entries.resultsBy = ResultsBy(ws, side, entries);
+  entries.shownPeriod = side.state.CurrentPeriod;
+  entries.shownUnit = side.firstUnit->Value() ? Unit::PerDay : Unit::PerMonth;
+  entries.resultsBy = ResultsBy(side, entries);
   const int count = static_cast<int>(entries.periods.size());
   const Unit usual = UsualResultsUnit(entries);
-  const bool otherwise =
-      !ShowsResultsIn(ws, side, count, usual) && ShowsResultsIn(ws, side, count, OtherUnit(usual));
+  const bool otherwise = !ShowsResultsIn(side, count, usual) && ShowsResultsIn(side, count, OtherUnit(usual));
   entries.resultsUnit = otherwise ? OtherUnit(usual) : usual;
   return entries;
 }
@@ -117,7 +116,7 @@ SideEntries CaptureSide(SinWorkspace& ws, Side side) {
 SinEntries CaptureSin(SinWorkspace& ws) {
   SinEntries sin;
   sin.position = ws.Position();
-  for (Side side : kSides) sin.Of(side) = CaptureSide(ws, side);
+  for (Side side : kSides) sin.Of(side) = CaptureSide(ws.Of(side));
   sin.total = ws.evaluatedAt;
   const FutureDateTerms chosen{ws.comCumulativeFutureDateTot->Text(), ws.comInterestRateFutureDateTot->Text(),
                                ws.comInflationRateFutureDateTot->Text()};

@@ -19,24 +19,25 @@ constexpr std::string_view kPeriodsSheet = "Periods", kMonthsSheet = "Months";
 
 // ---- The report as it stands ----
 
-bool IsInReport(const SinWorkspace& ws, ReportScope scope, Side side) {
-  if (scope == ReportScope::Total) return CountedOf(ws, side, ws.SideIndex(side)).worthCounting;
-  return (scope == ReportScope::Past) == (side == Side::Past);
+bool IsInReport(const WorkspaceSide& side, ReportScope scope) {
+  if (scope == ReportScope::Total) return CountedOf(side, side.Index()).worthCounting;
+  return (scope == ReportScope::Past) == side.IsPast();
 }
 
 void AddPeriods(SinWorkspace& ws, ReportExport& report) {
   const SinEntries entries = CaptureSin(ws);
-  for (Side side : kSides) {
-    const bool inReport = IsInReport(ws, report.scope, side);
-    const SideControls& c = ws.Of(side);
+  for (Side which : kSides) {
+    const WorkspaceSide& side = ws.Of(which);
+    const bool inReport = IsInReport(side, report.scope);
     int number = 0;
-    for (const PeriodEntries& period : entries.Of(side).periods) {
+    for (const PeriodEntries& period : entries.Of(which).periods) {
       ++number;
-      report.periods.push_back({.side = side,
-                                .number = number,
-                                .entries = period,
-                                .unit = (period.unit == Unit::PerDay ? c.firstUnit : c.secondUnit)->Caption(),
-                                .counted = inReport && IsCounted(ws, side, number, ws.SideIndex(side))});
+      report.periods.push_back(
+          {.side = which,
+           .number = number,
+           .entries = period,
+           .unit = (period.unit == Unit::PerDay ? side.firstUnit : side.secondUnit)->Caption(),
+           .counted = inReport && IsCounted(side, number, side.Index())});
     }
   }
 }

@@ -121,18 +121,19 @@ class TableWriter : public MonthSink {
 };
 
 // The lines of what a period costs, as its class has them.
-void AppendCosts(std::string& text, const SinWorkspace& ws, Side side, const PeriodRecord& record) {
-  const DocumentHeaderWords& words = ws.Sin().header;
+void AppendCosts(std::string& text, const WorkspaceSide& side, const PeriodRecord& record) {
+  const DocumentHeaderWords& words = side.Sin().header;
   const std::string position = std::to_string(record.QuantityListIndex);
-  if (ws.Class() == CostClass::FlatRateClass) {
-    AppendLine(text, {words.costLine[side], position});
+  if (side.Class() == CostClass::FlatRateClass) {
+    AppendLine(text, {words.costLine[side.Which()], position});
     return;
   }
-  AppendLine(text, {words.costLine[side], record.InitialCostText});
-  if (ws.Class() == CostClass::NetUnitsClass) {
+  AppendLine(text, {words.costLine[side.Which()], record.InitialCostText});
+  if (side.Class() == CostClass::NetUnitsClass) {
     const double excess = MoneyToNumber(record.InitialCostText) - MoneyToNumber(record.ReasonableCostText);
     AppendLine(text, {words.reasonableLine, record.ReasonableCostText});
-    AppendLine(text, {words.excessLine, FormatMoneyLetter(ws.GetSession().currency, excess, kExcessFormat)});
+    AppendLine(text,
+               {words.excessLine, FormatMoneyLetter(side.GetSession().currency, excess, kExcessFormat)});
     AppendLine(text, {words.percentLine, record.PercentIncreaseText});
   } else if (record.CostModeFlag) {
     AppendLine(text, {words.percentLine, record.PercentIncreaseText});
@@ -144,15 +145,15 @@ void AppendCosts(std::string& text, const SinWorkspace& ws, Side side, const Per
 
 }  // namespace
 
-std::string ParametersInPeriodDoc(const SinWorkspace& ws, Side side, int period) {
+std::string ParametersInPeriodDoc(const WorkspaceSide& side, int period) {
   std::string text;
-  const PeriodRecord& record = ws.Record(side, period);
+  const PeriodRecord& record = side.Record(period);
   if (!record.PeriodSet || !record.PeriodEnabled) return text;
-  AppendLine(text, {PeriodPrefix(side), std::to_string(period),
+  AppendLine(text, {PeriodPrefix(side.Which()), std::to_string(period),
                     " Set and Enabled and has the following Parmeters:"});
-  AppendLine(text, {ws.Sin().header.startLine, record.StartLabel});
-  AppendLine(text, {ws.Sin().header.stopLine, record.StopLabel});
-  AppendCosts(text, ws, side, record);
+  AppendLine(text, {side.Sin().header.startLine, record.StartLabel});
+  AppendLine(text, {side.Sin().header.stopLine, record.StopLabel});
+  AppendCosts(text, side, record);
   AppendLine(text, {"Yearly Savings Rate One can Earn on Saved Money: ", record.InterestRateText});
   AppendLine(text, {"Yearly Inflation Rate: ", record.InflationRateText});
   text += kRuleLine;

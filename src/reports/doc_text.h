@@ -15,7 +15,7 @@ namespace vicetoll {
 // The parameters of a period as they were entered (ParametersInPeriodDocPast and
 // ParametersInPeriodDocFuture); empty unless it is set and enabled. The quantity line has the stored
 // position in the quantity list and not the quantity, whatever its words promise.
-std::string ParametersInPeriodDoc(const SinWorkspace& ws, Side side, int period);
+std::string ParametersInPeriodDoc(const WorkspaceSide& side, int period);
 
 // The column heading of the table layout, five lines and an empty one; empty without `showHeading`.
 std::string CsvText(const SinWorkspace& ws, bool showHeading);

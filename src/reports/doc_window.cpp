@@ -62,7 +62,7 @@ void DocWindow::RefillForCurrentSin(bool docFlag) {
   const SinWorkspace& current = AllWorkspaces().Current();
   const int source = SinPosition(current.Sin().layoutSwitchReads);
   if (source == -1) return;
-  DocSinData(AllWorkspaces().At(source), current.SideIndex(Side::Past), current.SideIndex(Side::Future),
+  DocSinData(AllWorkspaces().At(source), current.Of(Side::Past).Index(), current.Of(Side::Future).Index(),
              docFlag);
 }
 
@@ -70,10 +70,10 @@ void DocWindow::DocSinData(SinWorkspace& ws, SideIndex past, SideIndex future, b
   std::int16_t index = ws.CurrentIndexSub;  // the workspace's own stays
   switch (ws.FuturePast_Flag) {
     case kShowsPast:
-      Text().SetText(DocText(ws, Side::Past, docFlag, true, index, past));
+      Text().SetText(DocText(ws.Of(Side::Past), docFlag, true, index, past));
       break;
     case kShowsFuture:
-      Text().SetText(DocText(ws, Side::Future, docFlag, true, index, future));
+      Text().SetText(DocText(ws.Of(Side::Future), docFlag, true, index, future));
       break;
     case kShowsBoth:
       Text().SetText(TotalDocText(ws, docFlag, past, future, IndexUse::Kept));

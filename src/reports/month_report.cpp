@@ -18,11 +18,11 @@ class MonthCollector : public MonthSink {
 };
 
 ReportState WalkScope(const SinWorkspace& ws, ReportScope scope, MonthSink& sink) {
-  const SideIndex past = ws.SideIndex(Side::Past);
-  const SideIndex future = ws.SideIndex(Side::Future);
-  if (scope == ReportScope::Past) return WalkSide(ReportSideOf(ws, Side::Past, past), {}, sink);
-  if (scope == ReportScope::Future) return WalkSide(ReportSideOf(ws, Side::Future, future), {}, sink);
-  return WalkTotal(TotalTermsOf(ws, past, future), {}, sink);
+  const WorkspaceSide& past = ws.Of(Side::Past);
+  const WorkspaceSide& future = ws.Of(Side::Future);
+  if (scope == ReportScope::Past) return WalkSide(ReportSideOf(past, past.Index()), {}, sink);
+  if (scope == ReportScope::Future) return WalkSide(ReportSideOf(future, future.Index()), {}, sink);
+  return WalkTotal(TotalTermsOf(ws, past.Index(), future.Index()), {}, sink);
 }
 
 }  // namespace

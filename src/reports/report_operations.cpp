@@ -35,8 +35,9 @@ void ClearSpdGrid(Grid& grid) {
   grid.Window().Hide();
 }
 
-void BuildSpdRows(SinWorkspace& ws, Side side, Grid& grid, bool resetIndex, bool clearGrid,
-                  std::int16_t& index, SideIndex sideIndex) {
+void BuildSpdRows(WorkspaceSide& side, Grid& grid, bool resetIndex, bool clearGrid, std::int16_t& index,
+                  SideIndex sideIndex) {
+  SinWorkspace& ws = side.Workspace();
   if (resetIndex) index = 0;
   ReportState state = LastReport(ws);
   state.index = index;
@@ -45,32 +46,33 @@ void BuildSpdRows(SinWorkspace& ws, Side side, Grid& grid, bool resetIndex, bool
     state = {.index = index};
   }
   SpdRowWriter rows(ws);
-  KeepReport(ws, index, WalkSide(ReportSideOf(ws, side, sideIndex), state, rows));
+  KeepReport(ws, index, WalkSide(ReportSideOf(side, sideIndex), state, rows));
   grid.Append(rows.Take());
-  FinishSpdGrid(grid, ws.GetSession().CurrentSinKey);
+  FinishSpdGrid(grid, side.GetSession().CurrentSinKey);
 }
 
-std::string SideText(const SinWorkspace& ws, Side side, const ReportSide& periods, bool docFlag,
-                     ReportState& state) {
+std::string SideText(const WorkspaceSide& side, const ReportSide& periods, bool docFlag, ReportState& state) {
+  const SinWorkspace& ws = side.Workspace();
   std::string text;
-  for (int p = 1; p <= kPeriodCount; ++p) text += ParametersInPeriodDoc(ws, side, p);
+  for (int p = 1; p <= kPeriodCount; ++p) text += ParametersInPeriodDoc(side, p);
   text += CsvText(ws, !docFlag);
   state.index = 0;
   state = WalkSide(periods, state, *MakeDocWriter(ws, docFlag, text));
   return text;
 }
 
-std::string DocText(SinWorkspace& ws, Side side, bool docFlag, bool resetTotals, std::int16_t& index,
+std::string DocText(WorkspaceSide& side, bool docFlag, bool resetTotals, std::int16_t& index,
                     SideIndex sideIndex) {
+  SinWorkspace& ws = side.Workspace();
   ReportState state = resetTotals ? ReportState{} : LastReport(ws);
-  std::string text = SideText(ws, side, ReportSideOf(ws, side, sideIndex), docFlag, state);
+  std::string text = SideText(side, ReportSideOf(side, sideIndex), docFlag, state);
   KeepReport(ws, index, state);
   return text;
 }
 
-std::string BuildDocText(SinWorkspace& ws, Side side, DocumentText& view, bool docFlag, bool resetTotals,
+std::string BuildDocText(WorkspaceSide& side, DocumentText& view, bool docFlag, bool resetTotals,
                          std::int16_t& index, SideIndex sideIndex) {
-  std::string text = DocText(ws, side, docFlag, resetTotals, index, sideIndex);
+  std::string text = DocText(side, docFlag, resetTotals, index, sideIndex);
   view.SetText(text);
   return text;
 }

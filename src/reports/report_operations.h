@@ -30,21 +30,20 @@ void ClearSpdGrid(Grid& grid);
 // Lists a side of the workspace in the grid. `resetIndex` numbers the rows from 1, `clearGrid` empties the
 // grid, hides its window and starts the totals from nothing; without them the rows go on from what stands.
 // Which periods count is read under `sideIndex`, the months are the workspace's own.
-void BuildSpdRows(SinWorkspace& ws, Side side, Grid& grid, bool resetIndex, bool clearGrid,
-                  std::int16_t& index, SideIndex sideIndex);
+void BuildSpdRows(WorkspaceSide& side, Grid& grid, bool resetIndex, bool clearGrid, std::int16_t& index,
+                  SideIndex sideIndex);
 
 // The text of a side whose periods were read: the parameters of all of them, the heading of the table, the
 // months. The months number from 1 and carry the totals of the state on; it becomes the state behind them.
-std::string SideText(const SinWorkspace& ws, Side side, const ReportSide& periods, bool docFlag,
-                     ReportState& state);
+std::string SideText(const WorkspaceSide& side, const ReportSide& periods, bool docFlag, ReportState& state);
 
 // The text of a side of the workspace: the parameters of all its periods, the heading of the table, the
 // months. The months number from 1 in every run; `resetTotals` starts the totals from nothing.
-std::string DocText(SinWorkspace& ws, Side side, bool docFlag, bool resetTotals, std::int16_t& index,
+std::string DocText(WorkspaceSide& side, bool docFlag, bool resetTotals, std::int16_t& index,
                     SideIndex sideIndex);
 
 // The same, shown in the view as well.
-std::string BuildDocText(SinWorkspace& ws, Side side, DocumentText& view, bool docFlag, bool resetTotals,
+std::string BuildDocText(WorkspaceSide& side, DocumentText& view, bool docFlag, bool resetTotals,
                          std::int16_t& index, SideIndex sideIndex);
 
 }  // namespace vicetoll

@@ -7,11 +7,11 @@
 
 namespace vicetoll {
 
-ReportPeriod ReportPeriodOf(const SinWorkspace& ws, Side side, int period, bool counted) {
-  const PeriodRecord& record = ws.Record(side, period);
-  ReportPeriod read{.side = side, .number = period, .set = record.PeriodSet, .counted = counted};
+ReportPeriod ReportPeriodOf(const WorkspaceSide& side, int period, bool counted) {
+  const PeriodRecord& record = side.Record(period);
+  ReportPeriod read{.side = side.Which(), .number = period, .set = record.PeriodSet, .counted = counted};
   if (read.set && counted) {
-    read.terms = PeriodTermsOf(ws, side, period);
+    read.terms = PeriodTermsOf(side, period);
   } else {
     read.terms.StartLabel = record.StartLabel;
     read.terms.StopLabel = record.StopLabel;
@@ -22,12 +22,12 @@ ReportPeriod ReportPeriodOf(const SinWorkspace& ws, Side side, int period, bool 
   return read;
 }
 
-ReportSide ReportSideOf(const SinWorkspace& ws, Side side, SideIndex sideIndex) {
+ReportSide ReportSideOf(const WorkspaceSide& side, SideIndex sideIndex) {
   ReportSide periods;
   for (int p = 1; p <= kPeriodCount; ++p) {
     ReportPeriod& period = periods[p - 1];
-    period = ReportPeriodOf(ws, side, p, IsCounted(ws, side, p, sideIndex));
-    const PeriodRecord& around = ws.Store().At(p, sideIndex);
+    period = ReportPeriodOf(side, p, IsCounted(side, p, sideIndex));
+    const PeriodRecord& around = side.Store().At(p, sideIndex);
     period.stretchStart = around.StartLabel;
     period.stretchStop = around.StopLabel;
   }
@@ -44,20 +44,21 @@ void KeepReport(SinWorkspace& ws, std::int16_t& index, const ReportState& state)
   ws.CurrentCumulativeCostWithInterest = state.withInterest;
 }
 
-TotalTerms TotalTermsOf(const SinWorkspace& ws, SideIndex past, SideIndex future) {
-  const CountedPeriods pastCounted = CountedOf(ws, Side::Past, past);
-  const CountedPeriods futureCounted = CountedOf(ws, Side::Future, future);
+TotalTerms TotalTermsOf(const SinWorkspace& ws, SideIndex pastIndex, SideIndex futureIndex) {
+  const WorkspaceSide& past = ws.Of(Side::Past);
+  const WorkspaceSide& future = ws.Of(Side::Future);
+  const CountedPeriods pastCounted = CountedOf(past, pastIndex);
+  const CountedPeriods futureCounted = CountedOf(future, futureIndex);
   TotalTerms terms{.hasPast = pastCounted.worthCounting, .hasFuture = futureCounted.worthCounting};
-  if (terms.hasPast) terms.past = ReportSideOf(ws, Side::Past, past);
-  if (terms.hasFuture) terms.future = ReportSideOf(ws, Side::Future, future);
+  if (terms.hasPast) terms.past = ReportSideOf(past, pastIndex);
+  if (terms.hasFuture) terms.future = ReportSideOf(future, futureIndex);
   if (terms.HasBorder()) {
-    const SideControls& boxes = ws.Of(Side::Past);
     const int last = pastCounted.last;
-    terms.borderPeriod = ReportPeriodOf(ws, Side::Past, last, false);
-    terms.borderFrom = ws.Store().At(last, past).StopLabel;
-    terms.borderTo = ws.Store().At(futureCounted.first, future).StartLabel;
-    terms.borderCost = MoneyToNumber(boxes.txtResultsTotal->Text());
-    terms.borderWithInterest = MoneyToNumber(boxes.txtCumulativeResultsPeriod(last).Text());
+    terms.borderPeriod = ReportPeriodOf(past, last, false);
+    terms.borderFrom = ws.Store().At(last, pastIndex).StopLabel;
+    terms.borderTo = ws.Store().At(futureCounted.first, futureIndex).StartLabel;
+    terms.borderCost = MoneyToNumber(past.txtResultsTotal->Text());
+    terms.borderWithInterest = MoneyToNumber(past.txtCumulativeResultsPeriod(last).Text());
   }
   return terms;
 }

@@ -11,11 +11,11 @@ namespace vicetoll {
 
 // A period, 1 to 4, as one that counts or one that does not. Its cost is read only where it counts; that
 // throws Fault(Conversion) for a money text that is none.
-ReportPeriod ReportPeriodOf(const SinWorkspace& ws, Side side, int period, bool counted);
+ReportPeriod ReportPeriodOf(const WorkspaceSide& side, int period, bool counted);
 
 // A side. Which periods count, and the labels around gaps, are read under `sideIndex`; the months
 // themselves are the workspace's own.
-ReportSide ReportSideOf(const SinWorkspace& ws, Side side, SideIndex sideIndex);
+ReportSide ReportSideOf(const WorkspaceSide& side, SideIndex sideIndex);
 
 // The state that the workspace's last report left, and where the next one leaves its own. The number of
 // months may stand in a place of the caller's.
@@ -36,8 +36,8 @@ struct TotalTerms {
   bool HasBorder() const { return hasPast && hasFuture; }
 };
 
-// Past and future are the numbers under which the counted periods are read.
-TotalTerms TotalTermsOf(const SinWorkspace& ws, SideIndex past, SideIndex future);
+// The numbers are those under which the counted periods are read.
+TotalTerms TotalTermsOf(const SinWorkspace& ws, SideIndex pastIndex, SideIndex futureIndex);
 
 // The months between the sides. Of the state only the number of months goes on.
 ReportState WalkBorder(const TotalTerms& terms, std::int16_t index, MonthSink& sink);

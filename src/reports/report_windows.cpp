@@ -37,11 +37,10 @@ void Filled(const Press& press, ReportScope scope) {
   if (press.windows.Spd().onFilled) press.windows.Spd().onFilled(press.ws, scope);
 }
 
-void ShowSpdSide(const Press& press, Side side) {
-  press.ws.FuturePast_Flag = side == Side::Past ? kShowsPast : kShowsFuture;
-  BuildSpdRows(press.ws, side, press.windows.Spd().Rows(), true, true, press.Index(),
-               press.ws.SideIndex(side));
-  Filled(press, side == Side::Past ? ReportScope::Past : ReportScope::Future);
+void ShowSpdSide(const Press& press, WorkspaceSide& side) {
+  press.ws.FuturePast_Flag = side.IsPast() ? kShowsPast : kShowsFuture;
+  BuildSpdRows(side, press.windows.Spd().Rows(), true, true, press.Index(), side.Index());
+  Filled(press, side.IsPast() ? ReportScope::Past : ReportScope::Future);
   ShowReport(press, ReportStyle::Spreadsheet);
 }
 
@@ -51,19 +50,18 @@ void ShowSpdTotal(const Press& press) {
   ShowReport(press, ReportStyle::Spreadsheet);
 }
 
-void ShowDocSide(const Press& press, Side side) {
+void ShowDocSide(const Press& press, WorkspaceSide& side) {
   DocWindow& window = press.windows.Doc();
-  press.ws.FuturePast_Flag = side == Side::Past ? kShowsPast : kShowsFuture;
-  BuildDocText(press.ws, side, window.Text(), window.BlockLayout(), true, press.Index(),
-               press.ws.SideIndex(side));
+  press.ws.FuturePast_Flag = side.IsPast() ? kShowsPast : kShowsFuture;
+  BuildDocText(side, window.Text(), window.BlockLayout(), true, press.Index(), side.Index());
   ShowReport(press, ReportStyle::Document);
 }
 
 void ShowDocTotal(const Press& press) {
   DocWindow& window = press.windows.Doc();
   press.ws.FuturePast_Flag = kShowsBoth;
-  window.Text().SetText(TotalDocText(press.ws, window.BlockLayout(), press.ws.SideIndex(Side::Past),
-                                     press.ws.SideIndex(Side::Future), IndexUse::Moved));
+  window.Text().SetText(TotalDocText(press.ws, window.BlockLayout(), press.ws.Of(Side::Past).Index(),
+                                     press.ws.Of(Side::Future).Index(), IndexUse::Moved));
   ShowReport(press, ReportStyle::Document);
 }
 
@@ -71,13 +69,13 @@ void ShowDocTotal(const Press& press) {
 
 void ConnectReports(SinWorkspace& ws, Workspaces& workspaces, ReportWindows& windows) {
   const Press press{ws, workspaces, windows};
-  for (Side side : kSides) {
-    SideControls& c = ws.Of(side);
+  for (Side which : kSides) {
+    WorkspaceSide& side = ws.Of(which);
     // The buttons of the TOTAL tab show exactly what those of the side's own tab show.
-    for (Button* button : {c.cmdAdvResultsSpd, c.cmdAdvResultsSpdSummary})
-      button->onClick = [press, side] { ShowSpdSide(press, side); };
-    for (Button* button : {c.cmdAdvResultsDoc, c.cmdAdvResultsDocSummary})
-      button->onClick = [press, side] { ShowDocSide(press, side); };
+    for (Button* button : {side.cmdAdvResultsSpd, side.cmdAdvResultsSpdSummary})
+      button->onClick = [press, &side] { ShowSpdSide(press, side); };
+    for (Button* button : {side.cmdAdvResultsDoc, side.cmdAdvResultsDocSummary})
+      button->onClick = [press, &side] { ShowDocSide(press, side); };
   }
   ws.cmdAdvResultsSpdSummaryTot->onClick = [press] { ShowSpdTotal(press); };
   ws.cmdAdvResultsDocSummaryTot->onClick = [press] { ShowDocTotal(press); };

@@ -10,13 +10,13 @@ namespace {
 
 // A report that crosses from the past into the future notes where.
 void NoteBorder(SinWorkspace& ws, const TotalTerms& terms) {
-  if (terms.HasBorder()) ws.State(Side::Past).BeginManualDate = terms.borderFrom;
+  if (terms.HasBorder()) ws.Of(Side::Past).state.BeginManualDate = terms.borderFrom;
 }
 
 }  // namespace
 
 void BuildTotalSpdRows(SinWorkspace& ws, Grid& grid) {
-  const TotalTerms terms = TotalTermsOf(ws, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future));
+  const TotalTerms terms = TotalTermsOf(ws, ws.Of(Side::Past).Index(), ws.Of(Side::Future).Index());
   if (terms.hasPast) ClearSpdGrid(grid);
   SpdRowWriter rows(ws);
   KeepReport(ws, ws.CurrentIndexSub, WalkTotal(terms, LastReport(ws), rows));
@@ -35,13 +35,13 @@ std::string TotalDocText(SinWorkspace& ws, bool docFlag, SideIndex past, SideInd
   std::string text;
   if (terms.hasPast) {
     state = {};
-    text += SideText(ws, Side::Past, terms.past, docFlag, state);
+    text += SideText(ws.Of(Side::Past), terms.past, docFlag, state);
   }
   if (terms.HasBorder()) {
     const std::int16_t before = indexUse == IndexUse::Moved ? state.index : ws.CurrentIndexSub;
     state = WalkBorder(terms, before, *MakeDocWriter(ws, docFlag, text));
   }
-  if (terms.hasFuture) text += SideText(ws, Side::Future, terms.future, docFlag, state);
+  if (terms.hasFuture) text += SideText(ws.Of(Side::Future), terms.future, docFlag, state);
   std::int16_t index = 0;
   KeepReport(ws, indexUse == IndexUse::Moved ? ws.CurrentIndexSub : index, state);
   NoteBorder(ws, terms);

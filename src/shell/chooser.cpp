@@ -70,13 +70,13 @@ void SinChooser::SwitchTo(int position) {
   Session& session = workspaces_.GetSession();
   switching_.ApplyFormLayout(target);
   session.CurrentSinKey = target.Sin().key;
-  session.CurrentSinNumber = target.SideIndex(Side::Past);
+  session.CurrentSinNumber = target.Of(Side::Past).Index();
   // The first visit: a workspace without results that was never left through the chooser.
   const bool noResults = target.Of(Side::Past).txtResultsTotal->Text().empty() &&
                          target.Of(Side::Future).txtResultsTotal->Text().empty();
   if (noResults && !session.SinVisited[position]) {
     if (!target.Sin().startsTheProgram) switching_.AttachToolTips(position, target);
-    LoadParameters(target, Side::Past);
+    LoadParameters(target.Of(Side::Past));
     LoadParametersInitialFuture(target);
   }
   ShowAndHideForms(target);

@@ -55,7 +55,7 @@ void Program::StartSmoking() {
   vicetoll::ApplyFormLayout(ws);
   ws.Resize(ws.Width(), ws.Height() + kEuroRow);
   AttachToolTips(0, ws);
-  LoadParameters(ws, Side::Past);
+  LoadParameters(ws.Of(Side::Past));
   LoadParametersInitialFuture(ws);
   ws.SetCaption(std::string(ws.Sin().windowCaption) + " (" + std::string(kWebAddress) + ")");
   for (const char* panel : {"cmdHideAdvertisingPast", "cmdHideAdvertisingFut"})

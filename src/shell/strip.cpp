@@ -30,7 +30,7 @@ constexpr int kAboveBottom = 500;
 bool AnyPeriodCounts(const SinWorkspace& ws) {
   for (Side side : kSides)
     for (int p = 1; p <= kPeriodCount; ++p)
-      if (const PeriodRecord& record = ws.Record(side, p); record.PeriodSet && record.PeriodEnabled)
+      if (const PeriodRecord& record = ws.Of(side).Record(p); record.PeriodSet && record.PeriodEnabled)
         return true;
   return false;
 }

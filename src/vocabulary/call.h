@@ -60,9 +60,9 @@ struct FromRun {
   static constexpr bool kFromTexts = false;
 };
 // clang-format off
-template <> struct Source<Side>            : FromRun { static auto Take(const Call& c, std::size_t) { return c.side; } };
 template <> struct Source<Currency>        : FromRun { static auto Take(const Call& c, std::size_t) { return c.ws.GetSession().currency; } };
 template <> struct Source<SinWorkspace>    : FromRun { static auto Take(const Call& c, std::size_t) { return std::ref(c.ws); } };
+template <> struct Source<WorkspaceSide>   : FromRun { static auto Take(const Call& c, std::size_t) { return std::ref(c.ws.Of(c.side)); } };
 template <> struct Source<Program>         : FromRun { static auto Take(const Call& c, std::size_t) { return std::ref(c.program); } };
 template <> struct Source<Workspaces>      : FromRun { static auto Take(const Call& c, std::size_t) { return std::ref<Workspaces>(c.program); } };
 template <> struct Source<SinChooser>      : FromRun { static auto Take(const Call& c, std::size_t) { return std::ref(c.program.Chooser()); } };

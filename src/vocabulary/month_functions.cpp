@@ -16,7 +16,7 @@ MonthCostCells CellsOfMonth(const SinWorkspace& ws, const CostTerms& terms, doub
                             std::int16_t period) {
   const Side side = ws.FuturePast_Flag == 1 ? Side::Past : Side::Future;
   std::string index = NumberToText(month);
-  DayCountOfMonthIndex(index, ws.Record(side, period).StartLabel);
+  DayCountOfMonthIndex(index, ws.Of(side).Record(period).StartLabel);
   return CellsOf(terms, FiguresOfMonth(terms, month, months));
 }
 

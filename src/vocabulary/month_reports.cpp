@@ -9,56 +9,56 @@ namespace vicetoll {
 namespace {
 
 // Lists a period's months on from that state. One that is not set leaves the workspace's totals alone.
-void ListPeriod(SinWorkspace& ws, Side side, int number, std::int16_t& index, const ReportState& state,
+void ListPeriod(WorkspaceSide& side, int number, std::int16_t& index, const ReportState& state,
                 MonthSink& sink) {
-  const ReportPeriod period = ReportPeriodOf(ws, side, number, true);
-  if (period.set) KeepReport(ws, index, WalkPeriod(period, state, sink));
+  const ReportPeriod period = ReportPeriodOf(side, number, true);
+  if (period.set) KeepReport(side.Workspace(), index, WalkPeriod(period, state, sink));
 }
 
-void ListBetweenPeriods(SinWorkspace& ws, Side side, bool periodIsDisabled, int number, std::int16_t& index,
+void ListBetweenPeriods(WorkspaceSide& side, bool periodIsDisabled, int number, std::int16_t& index,
                         const ReportState& state, std::string_view from, std::string_view to,
                         MonthSink& sink) {
-  const ReportPeriod period = ReportPeriodOf(ws, side, number, false);
-  if (period.set) KeepReport(ws, index, WalkBetweenPeriods(period, periodIsDisabled, from, to, state, sink));
+  const ReportPeriod period = ReportPeriodOf(side, number, false);
+  if (period.set)
+    KeepReport(side.Workspace(), index, WalkBetweenPeriods(period, periodIsDisabled, from, to, state, sink));
 }
 
 }  // namespace
 
-void ParametersForMonthInPeriodSpd(SinWorkspace& ws, Side side, Grid& grid, int period, std::int16_t& index,
+void ParametersForMonthInPeriodSpd(WorkspaceSide& side, Grid& grid, int period, std::int16_t& index,
                                    double cumulativeCost, double cumulativeCostWithInterest) {
-  SpdRowWriter rows(ws);
-  ListPeriod(ws, side, period, index, {index, cumulativeCost, cumulativeCostWithInterest}, rows);
+  SpdRowWriter rows(side.Workspace());
+  ListPeriod(side, period, index, {index, cumulativeCost, cumulativeCostWithInterest}, rows);
   grid.Append(rows.Take());
 }
 
-void ParametersForMonthInPeriodSpdBetweenPeriods(SinWorkspace& ws, Side side, Grid& grid,
-                                                 bool periodIsDisabled, int period, std::int16_t& index,
-                                                 double cumulativeCost, double cumulativeCostWithInterest,
-                                                 std::string_view from, std::string_view to) {
-  SpdRowWriter rows(ws);
-  ListBetweenPeriods(ws, side, periodIsDisabled, period, index,
+void ParametersForMonthInPeriodSpdBetweenPeriods(WorkspaceSide& side, Grid& grid, bool periodIsDisabled,
+                                                 int period, std::int16_t& index, double cumulativeCost,
+                                                 double cumulativeCostWithInterest, std::string_view from,
+                                                 std::string_view to) {
+  SpdRowWriter rows(side.Workspace());
+  ListBetweenPeriods(side, periodIsDisabled, period, index,
                      {index, cumulativeCost, cumulativeCostWithInterest}, from, to, rows);
   grid.Append(rows.Take());
 }
 
-std::string ParametersForMonthInPeriodDoc(SinWorkspace& ws, Side side, int period, bool docFlag,
-                                          std::int16_t& index, double cumulativeCost,
-                                          double cumulativeCostWithInterest) {
+std::string ParametersForMonthInPeriodDoc(WorkspaceSide& side, int period, bool docFlag, std::int16_t& index,
+                                          double cumulativeCost, double cumulativeCostWithInterest) {
   std::string text;
-  ListPeriod(ws, side, period, index, {index, cumulativeCost, cumulativeCostWithInterest},
-             *MakeDocWriter(ws, docFlag, text));
+  ListPeriod(side, period, index, {index, cumulativeCost, cumulativeCostWithInterest},
+             *MakeDocWriter(side.Workspace(), docFlag, text));
   return text;
 }
 
-std::string ParametersForMonthInPeriodDocBetweenPeriods(SinWorkspace& ws, Side side, bool periodIsDisabled,
+std::string ParametersForMonthInPeriodDocBetweenPeriods(WorkspaceSide& side, bool periodIsDisabled,
                                                         int period, bool docFlag, std::int16_t& index,
                                                         double cumulativeCost,
                                                         double cumulativeCostWithInterest,
                                                         std::string_view from, std::string_view to) {
   std::string text;
-  ListBetweenPeriods(ws, side, periodIsDisabled, period, index,
+  ListBetweenPeriods(side, periodIsDisabled, period, index,
                      {index, cumulativeCost, cumulativeCostWithInterest}, from, to,
-                     *MakeDocWriter(ws, docFlag, text));
+                     *MakeDocWriter(side.Workspace(), docFlag, text));
   return text;
 }
 

@@ -19,20 +19,19 @@ namespace vicetoll {
 // They throw Fault(Overflow) for an index beyond 16 bits.
 
 // Adds the rows of a period's months at the end of the grid.
-void ParametersForMonthInPeriodSpd(SinWorkspace& ws, Side side, Grid& grid, int period, std::int16_t& index,
+void ParametersForMonthInPeriodSpd(WorkspaceSide& side, Grid& grid, int period, std::int16_t& index,
                                    double cumulativeCost, double cumulativeCostWithInterest);
 
 // Adds the rows of the months between two labels: a gap, or a disabled period.
-void ParametersForMonthInPeriodSpdBetweenPeriods(SinWorkspace& ws, Side side, Grid& grid,
-                                                 bool periodIsDisabled, int period, std::int16_t& index,
-                                                 double cumulativeCost, double cumulativeCostWithInterest,
-                                                 std::string_view from, std::string_view to);
+void ParametersForMonthInPeriodSpdBetweenPeriods(WorkspaceSide& side, Grid& grid, bool periodIsDisabled,
+                                                 int period, std::int16_t& index, double cumulativeCost,
+                                                 double cumulativeCostWithInterest, std::string_view from,
+                                                 std::string_view to);
 
 // The same months as text: blocks if `docFlag`, table lines otherwise.
-std::string ParametersForMonthInPeriodDoc(SinWorkspace& ws, Side side, int period, bool docFlag,
-                                          std::int16_t& index, double cumulativeCost,
-                                          double cumulativeCostWithInterest);
-std::string ParametersForMonthInPeriodDocBetweenPeriods(SinWorkspace& ws, Side side, bool periodIsDisabled,
+std::string ParametersForMonthInPeriodDoc(WorkspaceSide& side, int period, bool docFlag, std::int16_t& index,
+                                          double cumulativeCost, double cumulativeCostWithInterest);
+std::string ParametersForMonthInPeriodDocBetweenPeriods(WorkspaceSide& side, bool periodIsDisabled,
                                                         int period, bool docFlag, std::int16_t& index,
                                                         double cumulativeCost,
                                                         double cumulativeCostWithInterest,

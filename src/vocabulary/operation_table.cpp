@@ -29,21 +29,21 @@ constexpr std::string_view kGeneral = "VTL_General", kCombined = "VTL_CombFuncti
 
 // ---- Functions of more than one form, and those that take past and future in another order ----
 
-constexpr auto kCostInPeriod = [](SinWorkspace& ws, Side side, std::int16_t period) {
-  return CostInPeriod(ws, side, period);
+constexpr auto kCostInPeriod = [](WorkspaceSide& side, std::int16_t period) {
+  return CostInPeriod(side, period);
 };
-constexpr auto kCumulativeCost = [](SinWorkspace& ws, Side side, const std::string& startingCost,
-                                    std::int16_t period, const std::string& calculateToDate) {
-  return CumulativeCostInPeriod(ws, side, startingCost, period, calculateToDate);
+constexpr auto kCumulativeCost = [](WorkspaceSide& side, const std::string& startingCost, std::int16_t period,
+                                    const std::string& calculateToDate) {
+  return CumulativeCostInPeriod(side, startingCost, period, calculateToDate);
 };
-constexpr auto kCumulativeCostBetween = [](SinWorkspace& ws, Side side, const std::string& startingCost,
+constexpr auto kCumulativeCostBetween = [](WorkspaceSide& side, const std::string& startingCost,
                                            std::int16_t period, const std::string& stop,
                                            const std::string& start) {
-  return CumulativeCostBetweenPeriod(ws, side, startingCost, period, stop, start);
+  return CumulativeCostBetweenPeriod(side, startingCost, period, stop, start);
 };
 template <Side side>
 constexpr auto kPeriodTotal = [](SinWorkspace& ws, double count, double months, std::int16_t period) {
-  return TotalCostInCurrentPeriod(ws, side, count, months, period);
+  return TotalCostInCurrentPeriod(ws.Of(side), count, months, period);
 };
 
 constexpr auto kUpdateTotalTab = [](SinWorkspace& ws, SideIndex future, SideIndex past) {

@@ -8,12 +8,12 @@
 
 namespace vicetoll {
 
-double TotalCostInCurrentPeriod(const SinWorkspace& ws, Side side, double count, double months, int period) {
+double TotalCostInCurrentPeriod(const WorkspaceSide& side, double count, double months, int period) {
   if (count < 1) return 0;  // the period may hold no texts yet
-  PeriodTerms terms = PeriodTermsOf(ws, side, period);
-  if (side == Side::Future && ws.Sin().futureTotalTakesListPosition)
-    terms.cost.quantity = ws.Record(side, period).QuantityListIndex;
-  if (side == Side::Future && ws.Sin().futureTotalHasNoIncrease) terms.cost.yearlyFraction = 0;
+  PeriodTerms terms = PeriodTermsOf(side, period);
+  if (!side.IsPast() && side.Sin().futureTotalTakesListPosition)
+    terms.cost.quantity = side.Record(period).QuantityListIndex;
+  if (!side.IsPast() && side.Sin().futureTotalHasNoIncrease) terms.cost.yearlyFraction = 0;
   // A part of a month is no month.
   return BalanceAfterMonths(0, RoundToInt16(std::floor(count)), months, terms.cost, terms.rates);
 }

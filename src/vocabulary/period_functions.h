@@ -11,6 +11,6 @@ namespace vicetoll {
 // store: 0, also for a period that holds no texts yet. Two sins differ: the future side of Drinking
 // takes the stored list position for the daily quantity, and the future side of Jailing knows no yearly
 // increase.
-double TotalCostInCurrentPeriod(const SinWorkspace& ws, Side side, double count, double months, int period);
+double TotalCostInCurrentPeriod(const WorkspaceSide& side, double count, double months, int period);
 
 }  // namespace vicetoll

@@ -15,31 +15,31 @@ std::string PeriodCaption(Side side, int period) {
   return std::string(PeriodPrefix(side)) + std::to_string(period);
 }
 
-void ClosePeriod(SideControls& c, Side side, int p, PeriodRecord& record) {
-  c.optTimePeriod(p).SetEnabled(false);
-  c.optTimePeriod(p).SetCaption(PeriodCaption(side, p));
-  c.optTimePeriod(p).SetColour(kRed);
-  c.frmEnabledDisabledPeriod(p).SetEnabled(false);
-  c.rbnEnabledPeriod(p).SetEnabled(false);
-  c.rbnDisabledPeriod(p).SetEnabled(false);
+void ClosePeriod(WorkspaceSide& side, int p, PeriodRecord& record) {
+  side.optTimePeriod(p).SetEnabled(false);
+  side.optTimePeriod(p).SetCaption(PeriodCaption(side.Which(), p));
+  side.optTimePeriod(p).SetColour(kRed);
+  side.frmEnabledDisabledPeriod(p).SetEnabled(false);
+  side.rbnEnabledPeriod(p).SetEnabled(false);
+  side.rbnDisabledPeriod(p).SetEnabled(false);
   record.PeriodSet = false;
-  c.txtResultsPeriod(p).SetAvailable(false);
-  c.txtCumulativeResultsPeriod(p).SetAvailable(false);
-  c.txtResultsPeriod(p).SetText("0");
+  side.txtResultsPeriod(p).SetAvailable(false);
+  side.txtCumulativeResultsPeriod(p).SetAvailable(false);
+  side.txtResultsPeriod(p).SetText("0");
 }
 
-void SetPeriod(SinWorkspace& ws, SideControls& c, Side side, int p, PeriodRecord& record) {
-  c.optTimePeriod(p).SetEnabled(true);
-  c.optTimePeriod(p).SetCaption(PeriodCaption(side, p) + " SET to Dates: (" + record.StartLabel + ") to (" +
-                                record.StopLabel + ")");
-  c.optTimePeriod(p).SetColour(kGreen);
-  c.frmEnabledDisabledPeriod(p).SetEnabled(true);
-  c.rbnEnabledPeriod(p).SetEnabled(true);
-  c.rbnDisabledPeriod(p).SetEnabled(true);
+void SetPeriod(WorkspaceSide& side, int p, PeriodRecord& record) {
+  side.optTimePeriod(p).SetEnabled(true);
+  side.optTimePeriod(p).SetCaption(PeriodCaption(side.Which(), p) + " SET to Dates: (" + record.StartLabel +
+                                   ") to (" + record.StopLabel + ")");
+  side.optTimePeriod(p).SetColour(kGreen);
+  side.frmEnabledDisabledPeriod(p).SetEnabled(true);
+  side.rbnEnabledPeriod(p).SetEnabled(true);
+  side.rbnDisabledPeriod(p).SetEnabled(true);
   record.PeriodSet = true;
-  c.txtResultsPeriod(p).SetAvailable(true);
-  c.txtCumulativeResultsPeriod(p).SetAvailable(true);
-  c.txtResultsPeriod(p).SetText(ws.Money(CostInPeriod(ws, side, p), kResultFormat));
+  side.txtResultsPeriod(p).SetAvailable(true);
+  side.txtCumulativeResultsPeriod(p).SetAvailable(true);
+  side.txtResultsPeriod(p).SetText(side.Money(CostInPeriod(side, p), kResultFormat));
 }
 
 // A past period that stops in the present month leaves no room behind it. The future side has the same
@@ -51,39 +51,38 @@ bool ClosesTheSide(Side side, const Present& now, std::int16_t stopMonth, std::i
 
 }  // namespace
 
-void PressSetButton(SinWorkspace& ws, Side side) {
-  const int period = ws.State(side).CurrentPeriod;
-  SetParameters(ws, side, period);
-  CommitPeriod(ws, side, period, ws.SideIndex(side));
+void PressSetButton(WorkspaceSide& side) {
+  SinWorkspace& ws = side.Workspace();
+  const int period = side.state.CurrentPeriod;
+  SetParameters(side, period);
+  CommitPeriod(side, period, side.Index());
   // Every press of the past side lowers the window, also when the button has long gone.
-  if (ws.cmdEuro != nullptr && side == Side::Past) RetireEuroButton(ws);
+  if (ws.cmdEuro != nullptr && side.IsPast()) RetireEuroButton(ws);
 }
 
-void CommitPeriod(SinWorkspace& ws, Side side, int count, SideIndex sideIndex) {
-  const Present now(ws.GetSession());
-  ++ws.GetSession().timesSet;
-  SideControls& c = ws.Of(side);
-  PeriodStore& store = ws.Store();
-  const std::int16_t stopMonth = MonthNumberFromLabel(c.comStop->Text());
-  const std::int16_t stopYear = YearFromLabel(c.comStop->Text());
+void CommitPeriod(WorkspaceSide& side, int count, SideIndex sideIndex) {
+  SinWorkspace& ws = side.Workspace();
+  const Present now(side.GetSession());
+  ++side.GetSession().timesSet;
+  PeriodStore& store = side.Store();
+  const std::int16_t stopMonth = MonthNumberFromLabel(side.comStop->Text());
+  const std::int16_t stopYear = YearFromLabel(side.comStop->Text());
   for (int p = 1; p <= kPeriodCount; ++p) {
     if (p > count)
-      ClosePeriod(c, side, p, store.At(p, sideIndex));
+      ClosePeriod(side, p, store.At(p, sideIndex));
     else
-      SetPeriod(ws, c, side, p, store.At(p, sideIndex));
+      SetPeriod(side, p, store.At(p, sideIndex));
   }
   if (count != kPeriodCount)
-    c.optTimePeriod(count + 1).SetEnabled(!ClosesTheSide(side, now, stopMonth, stopYear));
-  c.txtResultsTotal->SetAvailable(true);
+    side.optTimePeriod(count + 1).SetEnabled(!ClosesTheSide(side.Which(), now, stopMonth, stopYear));
+  side.txtResultsTotal->SetAvailable(true);
   // Period 1 is left out on purpose. A radio that changes here runs its change event at once.
-  for (int p = 2; p <= kPeriodCount; ++p) c.rbnEnabledPeriod(p).SetValue(true);
-  for (int p = 1; p <= count; ++p) store.At(p, sideIndex).PeriodEnabled = c.rbnEnabledPeriod(p).Value();
-  c.cmdSetPeriodParams->SetEnabled(false);
+  for (int p = 2; p <= kPeriodCount; ++p) side.rbnEnabledPeriod(p).SetValue(true);
+  for (int p = 1; p <= count; ++p) store.At(p, sideIndex).PeriodEnabled = side.rbnEnabledPeriod(p).Value();
+  side.cmdSetPeriodParams->SetEnabled(false);
   if (store.At(1, sideIndex).PeriodSet) {
-    for (Button* button :
-         {c.cmdAdvResultsDoc, c.cmdAdvResultsSpd, c.cmdAdvResultsDocSummary, c.cmdAdvResultsSpdSummary})
-      button->SetEnabled(true);
-    if (side == Side::Past) {  // the future press never opens these two
+    for (Button* button : side.ResultButtons()) button->SetEnabled(true);
+    if (side.IsPast()) {  // the future press never opens these two
       ws.cmdAdvResultsDocSummaryTot->SetEnabled(true);
       ws.cmdAdvResultsSpdSummaryTot->SetEnabled(true);
     }
@@ -98,47 +97,42 @@ void CommitPeriod(SinWorkspace& ws, Side side, int count, SideIndex sideIndex) {
   // results into the boxes of periods that are not set.
   double total = 0;
   for (int p = 1; p <= kPeriodCount; ++p) {
-    if (p > count) c.txtResultsPeriod(p).SetText("0");
-    total += MoneyToNumber(c.txtResultsPeriod(p).Text());
+    if (p > count) side.txtResultsPeriod(p).SetText("0");
+    total += MoneyToNumber(side.txtResultsPeriod(p).Text());
   }
-  c.txtResultsTotal->SetText(ws.Money(total, kResultFormat));
+  side.txtResultsTotal->SetText(side.Money(total, kResultFormat));
 
-  SideTerms terms = SideTermsOf(ws, side, sideIndex);
+  SideTerms terms = SideTermsOf(side, sideIndex);
   terms.counted.fill(true);  // a press chains disabled periods too
   const auto balances = ChainBalances(terms, count, "0", WarningOf(ws));
   for (int p = 1; p <= kPeriodCount; ++p)
-    c.txtCumulativeResultsPeriod(p).SetText(p <= count ? balances[p - 1] : "0");
+    side.txtCumulativeResultsPeriod(p).SetText(p <= count ? balances[p - 1] : "0");
 }
 
-void SelectPeriod(SinWorkspace& ws, Side side, SideIndex sideIndex) {
-  SideControls& c = ws.Of(side);
-  SideState& state = ws.State(side);
-  c.cmdSetPeriodParams->SetEnabled(false);
+void SelectPeriod(WorkspaceSide& side, SideIndex sideIndex) {
+  side.cmdSetPeriodParams->SetEnabled(false);
   for (int p = 1; p <= kPeriodCount; ++p) {
-    if (!c.optTimePeriod(p).Value()) continue;
-    state.CurrentPeriod = p;
-    PeriodRecord& record = ws.Store().At(p, sideIndex);
-    if (p != 1 && p > state.PreviousPeriod && record.PeriodFresh) {
+    if (!side.optTimePeriod(p).Value()) continue;
+    side.state.CurrentPeriod = p;
+    PeriodRecord& record = side.Store().At(p, sideIndex);
+    if (p != 1 && p > side.state.PreviousPeriod && record.PeriodFresh) {
       // All parameters but the dates are those of the period that was on screen.
-      PrepareNextPeriodDates(ws, side, p, sideIndex);
-      SetParameters(ws, side, p);
+      PrepareNextPeriodDates(side, p, sideIndex);
+      SetParameters(side, p);
       record.PeriodFresh = false;
     }
-    state.PreviousPeriod = p;
-    GetParameters(ws, side, p);
-    LabelMaker(ws, side, p);
+    side.state.PreviousPeriod = p;
+    GetParameters(side, p);
+    LabelMaker(side, p);
   }
-  c.cmdSetPeriodParams->SetEnabled(true);
+  side.cmdSetPeriodParams->SetEnabled(true);
 }
 
-void UpdateResultButtons(SinWorkspace& ws, Side side, SideIndex sideIndex) {
-  SideControls& c = ws.Of(side);
+void UpdateResultButtons(WorkspaceSide& side, SideIndex sideIndex) {
   bool any = false;
   for (int p = 1; p <= kPeriodCount; ++p)
-    any = any || (ws.Store().At(p, sideIndex).PeriodSet && c.rbnEnabledPeriod(p).Value());
-  for (Button* button :
-       {c.cmdAdvResultsDoc, c.cmdAdvResultsSpd, c.cmdAdvResultsDocSummary, c.cmdAdvResultsSpdSummary})
-    button->SetEnabled(any);
+    any = any || (side.Store().At(p, sideIndex).PeriodSet && side.rbnEnabledPeriod(p).Value());
+  for (Button* button : side.ResultButtons()) button->SetEnabled(any);
 }
 
 }  // namespace vicetoll

@@ -10,16 +10,16 @@
 namespace vicetoll {
 
 // The press itself: stores the period on screen and commits all periods up to it.
-void PressSetButton(SinWorkspace& ws, Side side);
+void PressSetButton(WorkspaceSide& side);
 
 // Commits the first `count` periods: results, chain and total of the side. Throws all later ones away.
-void CommitPeriod(SinWorkspace& ws, Side side, int count, SideIndex sideIndex);
+void CommitPeriod(WorkspaceSide& side, int count, SideIndex sideIndex);
 
 // The click on a period's option: seeds the period on the first forward step onto it, and shows what is
 // stored.
-void SelectPeriod(SinWorkspace& ws, Side side, SideIndex sideIndex);
+void SelectPeriod(WorkspaceSide& side, SideIndex sideIndex);
 
 // Opens the side's four result buttons if at least one set period is on, closes them otherwise.
-void UpdateResultButtons(SinWorkspace& ws, Side side, SideIndex sideIndex);
+void UpdateResultButtons(WorkspaceSide& side, SideIndex sideIndex);
 
 }  // namespace vicetoll

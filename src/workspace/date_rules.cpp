@@ -35,53 +35,53 @@ bool NearPresent(const Present& now, std::int16_t m, std::int16_t y) {
 }
 
 // Moves `lower` to the month after the previous period's stop where that is less than seven months away.
-void KeepBehindPreviousStop(SinWorkspace& ws, Side side, const std::string& thisDate,
-                            const std::string& previousStop, std::string& lower) {
+void KeepBehindPreviousStop(WorkspaceSide& side, const std::string& thisDate, const std::string& previousStop,
+                            std::string& lower) {
   const int gap = std::abs(MonthsBetween(thisDate, previousStop));
-  if (ws.State(side).CurrentPeriod != 1 && gap < 7) lower = MonthAfter(previousStop);
+  if (side.state.CurrentPeriod != 1 && gap < 7) lower = MonthAfter(previousStop);
 }
 
 enum class From { Start, Stop };
 
-std::string PreviousStop(SinWorkspace& ws, Side side, SideIndex sideIndex) {
-  const int current = ws.State(side).CurrentPeriod;
-  return current == 1 ? kNoPreviousStop : ws.Store().At(current - 1, sideIndex).StopLabel;
+std::string PreviousStop(WorkspaceSide& side, SideIndex sideIndex) {
+  const int current = side.state.CurrentPeriod;
+  return current == 1 ? kNoPreviousStop : side.Store().At(current - 1, sideIndex).StopLabel;
 }
 
-void RebuildDates(SinWorkspace& ws, Side side, From from) {
-  SideControls& c = ws.Of(side);
-  const std::string startText = c.comStart->Text();
-  const std::string stopText = c.comStop->Text();
-  const std::string lastStop = c.comStop->Entry(c.comStop->Count() - 1);
-  const std::string firstStart = c.comStart->Entry(0);
-  c.comStart->Clear();
-  c.comStop->Clear();
+void RebuildDates(WorkspaceSide& side, From from) {
+  const std::string startText = side.comStart->Text();
+  const std::string stopText = side.comStop->Text();
+  const std::string lastStop = side.comStop->Entry(side.comStop->Count() - 1);
+  const std::string firstStart = side.comStart->Entry(0);
+  side.comStart->Clear();
+  side.comStop->Clear();
   // The side in front by its number: the tabs keep it.
-  const SideIndex sideIndex = ws.GetSession().CurrentSinNumber;
-  const std::string previousStop = PreviousStop(ws, side, sideIndex);
-  const PeriodRecord& record = ws.Store().At(ws.State(side).CurrentPeriod, sideIndex);
+  const SideIndex sideIndex = side.GetSession().CurrentSinNumber;
+  const std::string previousStop = PreviousStop(side, sideIndex);
+  const PeriodRecord& record = side.Store().At(side.state.CurrentPeriod, sideIndex);
 
   // In coarse lists the two dates bound each other; the list that has the focus keeps its stored far end,
   // the other one the far end it has.
   const auto rebuildStart = [&] {
-    const bool coarse = from == From::Start ? c.optCourseDateStart->Value() : !c.optFineDateStart->Value();
+    const bool coarse =
+        from == From::Start ? side.optCourseDateStart->Value() : !side.optFineDateStart->Value();
     if (coarse)
-      FillDateList(true, *c.comStart, from == From::Start ? record.StartListFirst : firstStart, stopText,
+      FillDateList(true, *side.comStart, from == From::Start ? record.StartListFirst : firstStart, stopText,
                    kCoarseStep);
     else if (startText != stopText)
-      FineBetween(ws, side, *c.comStart, startText, stopText, previousStop);
+      FineBetween(side, *side.comStart, startText, stopText, previousStop);
     else
-      FineStart(ws, side, *c.comStart, startText, previousStop);
+      FineStart(side, *side.comStart, startText, previousStop);
   };
   const auto rebuildStop = [&] {
-    const bool coarse = from == From::Stop ? c.optCourseDateStop->Value() : !c.optFineDateStop->Value();
+    const bool coarse = from == From::Stop ? side.optCourseDateStop->Value() : !side.optFineDateStop->Value();
     if (coarse)
-      FillDateList(true, *c.comStop, startText, from == From::Stop ? record.StopListLast : lastStop,
+      FillDateList(true, *side.comStop, startText, from == From::Stop ? record.StopListLast : lastStop,
                    kCoarseStep);
     else if (startText != stopText)
-      FineBetween(ws, side, *c.comStop, stopText, startText, previousStop);
+      FineBetween(side, *side.comStop, stopText, startText, previousStop);
     else
-      FineStop(ws, side, *c.comStop, stopText);
+      FineStop(side, *side.comStop, stopText);
   };
   if (from == From::Start) {
     rebuildStart();
@@ -90,110 +90,108 @@ void RebuildDates(SinWorkspace& ws, Side side, From from) {
     rebuildStop();
     rebuildStart();
   }
-  c.comStart->SelectEntry(std::max(0, c.comStart->Find(startText)));
-  const int stop = c.comStop->Find(stopText);
-  c.comStop->SelectEntry(stop == -1 ? c.comStop->Count() - 1 : stop);
+  side.comStart->SelectEntry(std::max(0, side.comStart->Find(startText)));
+  const int stop = side.comStop->Find(stopText);
+  side.comStop->SelectEntry(stop == -1 ? side.comStop->Count() - 1 : stop);
 }
 
-void RefreshDates(SinWorkspace& ws, Side side, From from) {
-  SideControls& c = ws.Of(side);
-  c.cmdSetPeriodParams->SetEnabled(false);
+void RefreshDates(WorkspaceSide& side, From from) {
+  side.cmdSetPeriodParams->SetEnabled(false);
   try {
-    RebuildDates(ws, side, from);
-    c.cmdSetPeriodParams->SetEnabled(true);
+    RebuildDates(side, from);
+    side.cmdSetPeriodParams->SetEnabled(true);
   } catch (const Fault&) {
-    ws.GetPlatform().ShowMessage("",
-                                 "A minor error occurred due to a bug\r\n"
-                                 "The Date Listboxes will be reset to default values\r\n"
-                                 "Manually reset dates and proceed or Exit and Restart Program1",
-                                 MessageButtons::Ok);
+    side.Workspace().GetPlatform().ShowMessage(
+        "",
+        "A minor error occurred due to a bug\r\n"
+        "The Date Listboxes will be reset to default values\r\n"
+        "Manually reset dates and proceed or Exit and Restart Program1",
+        MessageButtons::Ok);
     // The set button stays disabled until a list receives the focus again.
-    ResetDateLists(ws, side);
+    ResetDateLists(side);
   }
 }
 
 }  // namespace
 
-void RefreshDatesFromStart(SinWorkspace& ws, Side side) { RefreshDates(ws, side, From::Start); }
-void RefreshDatesFromStop(SinWorkspace& ws, Side side) { RefreshDates(ws, side, From::Stop); }
+void RefreshDatesFromStart(WorkspaceSide& side) { RefreshDates(side, From::Start); }
+void RefreshDatesFromStop(WorkspaceSide& side) { RefreshDates(side, From::Stop); }
 
-void FineBetween(SinWorkspace& ws, Side side, DropDownList& list, const std::string& thisDate,
+void FineBetween(WorkspaceSide& side, DropDownList& list, const std::string& thisDate,
                  const std::string& otherDate, const std::string& previousStop) {
-  const Present now(ws.GetSession());
+  const Present now(side.GetSession());
   const std::int16_t m = MonthNumberFromLabel(thisDate);
   const std::int16_t y = YearFromLabel(thisDate);
   const std::int16_t span = MonthsBetween(thisDate, otherDate);
   const bool near = NearPresent(now, m, y);
   std::string lower = SixMonthsBefore(m, y);
-  std::string upper = SixMonthsAfter(side, m, y);
+  std::string upper = SixMonthsAfter(side.Which(), m, y);
   // The other date of the period bounds the list where it is near; otherwise the present does, on the
   // past side from above, on the future side, as the next month, from below.
   if (span > 0 && span < 6)
     upper = otherDate;
-  else if (side == Side::Past && near)
+  else if (side.IsPast() && near)
     upper = now.Label(0, 0);
   if (span > -6 && span < 0)
     lower = otherDate;
-  else if (side == Side::Future && near)
+  else if (!side.IsPast() && near)
     lower = now.Label(1, 0);
-  KeepBehindPreviousStop(ws, side, thisDate, previousStop, lower);
+  KeepBehindPreviousStop(side, thisDate, previousStop, lower);
   FillDateList(true, list, lower, upper, kFineStep);
 }
 
-void FineStart(SinWorkspace& ws, Side side, DropDownList& list, const std::string& thisDate,
+void FineStart(WorkspaceSide& side, DropDownList& list, const std::string& thisDate,
                const std::string& previousStop) {
-  const Present now(ws.GetSession());
+  const Present now(side.GetSession());
   const std::int16_t m = MonthNumberFromLabel(thisDate);
   const std::int16_t y = YearFromLabel(thisDate);
   std::string lower = SixMonthsBefore(m, y);
-  if (side == Side::Future && NearPresent(now, m, y)) lower = now.Label(1, 0);
-  KeepBehindPreviousStop(ws, side, thisDate, previousStop, lower);
+  if (!side.IsPast() && NearPresent(now, m, y)) lower = now.Label(1, 0);
+  KeepBehindPreviousStop(side, thisDate, previousStop, lower);
   FillDateList(true, list, lower, thisDate, kFineStep);
 }
 
-void FineStop(SinWorkspace& ws, Side side, DropDownList& list, const std::string& thisDate) {
-  const Present now(ws.GetSession());
+void FineStop(WorkspaceSide& side, DropDownList& list, const std::string& thisDate) {
+  const Present now(side.GetSession());
   const std::int16_t m = MonthNumberFromLabel(thisDate);
   const std::int16_t y = YearFromLabel(thisDate);
-  std::string upper = SixMonthsAfter(side, m, y);
-  if (side == Side::Past && NearPresent(now, m, y)) upper = now.Label(0, 0);
+  std::string upper = SixMonthsAfter(side.Which(), m, y);
+  if (side.IsPast() && NearPresent(now, m, y)) upper = now.Label(0, 0);
   FillDateList(true, list, thisDate, upper, kFineStep);
 }
 
-void PrepareNextPeriodDates(SinWorkspace& ws, Side side, int period, SideIndex sideIndex) {
-  const Present now(ws.GetSession());
-  SideControls& c = ws.Of(side);
-  const std::string next = MonthAfter(ws.Store().At(period - 1, sideIndex).StopLabel);
-  const std::string last = side == Side::Past ? now.Label(0, 0) : now.Label(1, 75);
-  for (DropDownList* list : {c.comStart, c.comStop}) {
+void PrepareNextPeriodDates(WorkspaceSide& side, int period, SideIndex sideIndex) {
+  const Present now(side.GetSession());
+  const std::string next = MonthAfter(side.Store().At(period - 1, sideIndex).StopLabel);
+  const std::string last = side.IsPast() ? now.Label(0, 0) : now.Label(1, 75);
+  for (DropDownList* list : {side.comStart, side.comStop}) {
     FillDateList(true, *list, next, last, kCoarseStep);
     list->SetText(next);
   }
 }
 
-void ResetDateLists(SinWorkspace& ws, Side side) {
-  const Present now(ws.GetSession());
-  SideControls& c = ws.Of(side);
-  const std::string first = side == Side::Past ? now.Label(0, -90) : now.Label(1, 0);
-  const std::string last = side == Side::Past ? now.Label(0, 0) : now.Label(1, 85);
-  c.optFineDateStart->SetValue(true);
-  c.optFineDateStop->SetValue(true);
+void ResetDateLists(WorkspaceSide& side) {
+  const Present now(side.GetSession());
+  const std::string first = side.IsPast() ? now.Label(0, -90) : now.Label(1, 0);
+  const std::string last = side.IsPast() ? now.Label(0, 0) : now.Label(1, 85);
+  side.optFineDateStart->SetValue(true);
+  side.optFineDateStop->SetValue(true);
   for (int p = 1; p <= kPeriodCount; ++p) {
-    c.rbnDisabledPeriod(p).SetValue(false);
-    c.rbnEnabledPeriod(p).SetValue(true);
-    c.optTimePeriod(p).SetValue(false);
-    c.optTimePeriod(p).SetEnabled(false);
+    side.rbnDisabledPeriod(p).SetValue(false);
+    side.rbnEnabledPeriod(p).SetValue(true);
+    side.optTimePeriod(p).SetValue(false);
+    side.optTimePeriod(p).SetEnabled(false);
   }
-  c.optTimePeriod(1).SetEnabled(true);
-  c.optTimePeriod(1).SetValue(true);
+  side.optTimePeriod(1).SetEnabled(true);
+  side.optTimePeriod(1).SetValue(true);
   // Of the future side, also when the past side is reset: the past side's current period stays.
-  ws.State(Side::Future).CurrentPeriod = 1;
-  for (DropDownList* list : {c.comStart, c.comStop}) {
+  side.Workspace().Of(Side::Future).state.CurrentPeriod = 1;
+  for (DropDownList* list : {side.comStart, side.comStop}) {
     list->Clear();
     FillDateList(true, *list, first, last, kCoarseStep);
   }
-  c.comStart->SelectEntry(0);
-  c.comStop->SelectEntry(c.comStop->Count() - 1);
+  side.comStart->SelectEntry(0);
+  side.comStop->SelectEntry(side.comStop->Count() - 1);
 }
 
 }  // namespace vicetoll

@@ -15,23 +15,23 @@ namespace vicetoll {
 
 // Rebuild both lists of a side, when its start or its stop list receives the focus. A fault on the way
 // shows a message and resets the side's dates; it never ends the run.
-void RefreshDatesFromStart(SinWorkspace& ws, Side side);
-void RefreshDatesFromStop(SinWorkspace& ws, Side side);
+void RefreshDatesFromStart(WorkspaceSide& side);
+void RefreshDatesFromStop(WorkspaceSide& side);
 
 // The fine list around `thisDate` where start and stop differ.
-void FineBetween(SinWorkspace& ws, Side side, DropDownList& list, const std::string& thisDate,
+void FineBetween(WorkspaceSide& side, DropDownList& list, const std::string& thisDate,
                  const std::string& otherDate, const std::string& previousStop);
 // The fine start list where start and stop are equal.
-void FineStart(SinWorkspace& ws, Side side, DropDownList& list, const std::string& thisDate,
+void FineStart(WorkspaceSide& side, DropDownList& list, const std::string& thisDate,
                const std::string& previousStop);
 // The fine stop list where start and stop are equal.
-void FineStop(SinWorkspace& ws, Side side, DropDownList& list, const std::string& thisDate);
+void FineStop(WorkspaceSide& side, DropDownList& list, const std::string& thisDate);
 
 // Seeds the lists of period p on the first forward step onto it: one month long, right behind the stop
 // of the period before.
-void PrepareNextPeriodDates(SinWorkspace& ws, Side side, int period, SideIndex sideIndex);
+void PrepareNextPeriodDates(WorkspaceSide& side, int period, SideIndex sideIndex);
 
 // Recovery after a fault: the side's dates and period options as at the beginning. Store and flags stay.
-void ResetDateLists(SinWorkspace& ws, Side side);
+void ResetDateLists(WorkspaceSide& side);
 
 }  // namespace vicetoll

@@ -13,68 +13,69 @@
 namespace vicetoll {
 namespace {
 
-void EnableSetButton(SinWorkspace& ws, Side side) { ws.Of(side).cmdSetPeriodParams->SetEnabled(true); }
+void EnableSetButton(WorkspaceSide& side) { side.cmdSetPeriodParams->SetEnabled(true); }
 
 void SayIfAny(SinWorkspace& ws, std::string news) {
   if (!news.empty()) ws.Say(std::move(news));
 }
 
 // The tabs stay shut while date lists are rebuilt.
-void OnDateFocus(SinWorkspace& ws, Side side, void (*refresh)(SinWorkspace&, Side)) {
-  const std::string start = ws.Of(side).comStart->Text();
-  const std::string stop = ws.Of(side).comStop->Text();
+void OnDateFocus(WorkspaceSide& side, void (*refresh)(WorkspaceSide&)) {
+  SinWorkspace& ws = side.Workspace();
+  const std::string start = side.comStart->Text();
+  const std::string stop = side.comStop->Text();
   ws.SSTab_PastFutureSwitch->SetEnabled(false);
-  refresh(ws, side);
+  refresh(side);
   ws.SSTab_PastFutureSwitch->SetEnabled(true);
   // The button stays shut where the lists could not be made and were reset.
-  if (ws.Of(side).cmdSetPeriodParams->Enabled())
-    SayIfAny(ws, DatesMoved(ws, side, start, stop));
+  if (side.cmdSetPeriodParams->Enabled())
+    SayIfAny(ws, DatesMoved(side, start, stop));
   else
     ws.Say("The date lists were reset; choose both dates anew");
 }
 
 // A click on Per Day or Per Month. The stored position is kept and no value converted: 6 a day becomes
 // the entry at the same place in the monthly list.
-void OnUnit(SinWorkspace& ws, Side side) {
-  const int period = ws.State(side).CurrentPeriod;
-  ws.Of(side).frmDaily->SetCaption(std::string(PeriodPrefix(side)) + std::to_string(period) +
-                                   std::string(ws.Sin().dailySuffix[side]));
-  EnableSetButton(ws, side);
-  RefillUnitList(ws, side, ws.Record(side, period).QuantityListIndex);
+void OnUnit(WorkspaceSide& side) {
+  const int period = side.state.CurrentPeriod;
+  side.frmDaily->SetCaption(std::string(PeriodPrefix(side.Which())) + std::to_string(period) +
+                            std::string(side.Sin().dailySuffix[side.Which()]));
+  EnableSetButton(side);
+  RefillUnitList(side, side.Record(period).QuantityListIndex);
 }
 
-void OnSetButton(SinWorkspace& ws, Side side) {
-  const int before = PeriodsSet(ws, side);
-  PressSetButton(ws, side);
-  ws.Say(PeriodWasSet(ws, side, before));
+void OnSetButton(WorkspaceSide& side) {
+  const int before = PeriodsSet(side);
+  PressSetButton(side);
+  side.Workspace().Say(PeriodWasSet(side, before));
 }
 
 // A month that was found in a fine list may be missing in the coarse one that brings it back.
-void OnTimePeriod(SinWorkspace& ws, Side side) {
-  SelectPeriod(ws, side, ws.SideIndex(side));
-  const PeriodRecord& record = ws.Record(side, ws.State(side).CurrentPeriod);
-  SayIfAny(ws, DatesMoved(ws, side, record.StartLabel, record.StopLabel));
+void OnTimePeriod(WorkspaceSide& side) {
+  SelectPeriod(side, side.Index());
+  const PeriodRecord& record = side.Record(side.state.CurrentPeriod);
+  SayIfAny(side.Workspace(), DatesMoved(side, record.StartLabel, record.StopLabel));
 }
 
-void OnReasonableCostFocus(SinWorkspace& ws, Side side) {
-  const std::string before = ws.Of(side).comSubCost->Text();
-  ReasonableCostEntered(ws, side);
-  SayIfAny(ws, ReasonableCostMoved(ws, side, before));
+void OnReasonableCostFocus(WorkspaceSide& side) {
+  const std::string before = side.comSubCost->Text();
+  ReasonableCostEntered(side);
+  SayIfAny(side.Workspace(), ReasonableCostMoved(side, before));
 }
 
-void OnPacksOrCigarettes(SinWorkspace& ws, Side side) {
-  EnableSetButton(ws, side);
-  ShowPacksOrCigarettes(ws, side);
+void OnPacksOrCigarettes(WorkspaceSide& side) {
+  EnableSetButton(side);
+  ShowPacksOrCigarettes(side);
 }
 
-void OnCostMode(SinWorkspace& ws, Side side) {
-  EnableSetButton(ws, side);
-  ShowCostMode(ws, side);
+void OnCostMode(WorkspaceSide& side) {
+  EnableSetButton(side);
+  ShowCostMode(side);
 }
 
-void OnEnabledRadio(SinWorkspace& ws, Side side) {
-  RefreshResults(ws, side, ws.SideIndex(side));
-  UpdateResultButtons(ws, side, ws.SideIndex(side));
+void OnEnabledRadio(WorkspaceSide& side) {
+  RefreshResults(side, side.Index());
+  UpdateResultButtons(side, side.Index());
 }
 
 void OnTab(SinWorkspace& ws) {
@@ -82,18 +83,18 @@ void OnTab(SinWorkspace& ws) {
   Session& session = ws.GetSession();
   switch (ws.SSTab_PastFutureSwitch->Tab()) {
     case kPastTab:
-      session.CurrentSinNumber = ws.SideIndex(Side::Past);
-      EnableSetButton(ws, Side::Past);
+      session.CurrentSinNumber = ws.Of(Side::Past).Index();
+      EnableSetButton(ws.Of(Side::Past));
       break;
     case kFutureTab:
       // Until its period 1 is committed, every arrival loads the side anew and drops what was chosen.
-      if (!ws.Record(Side::Future, 1).PeriodSet) LoadParameters(ws, Side::Future);
-      session.CurrentSinNumber = ws.SideIndex(Side::Future);
+      if (!ws.Of(Side::Future).Record(1).PeriodSet) LoadParameters(ws.Of(Side::Future));
+      session.CurrentSinNumber = ws.Of(Side::Future).Index();
       if (ws.cmdEuro != nullptr && ws.cmdEuro->Visible()) RetireEuroButton(ws);
-      EnableSetButton(ws, Side::Future);
+      EnableSetButton(ws.Of(Side::Future));
       break;
     case kTotalTab:
-      UpdateTotalTab(ws, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future));
+      UpdateTotalTab(ws, ws.Of(Side::Past).Index(), ws.Of(Side::Future).Index());
       break;
   }
 }
@@ -104,50 +105,47 @@ void OnPanel(SinWorkspace& ws) {
   if (reveal != nullptr && !ws.identificationOver) reveal->SetVisible(true);
 }
 
-void ConnectSide(SinWorkspace& ws, Side side) {
-  SideControls& c = ws.Of(side);
-  c.comStart->onFocus = [&ws, side] { OnDateFocus(ws, side, RefreshDatesFromStart); };
-  c.comStop->onFocus = [&ws, side] { OnDateFocus(ws, side, RefreshDatesFromStop); };
-  for (DropDownList* list : {c.quantity, c.comCigsPerDay, c.comInitialCost, c.comFinalCost,
-                             c.comPercentIncrease, c.comInterestRate1, c.comInflationRate1})
-    if (list != nullptr) list->onFocus = [&ws, side] { EnableSetButton(ws, side); };
-  if (c.comSubCost != nullptr) {
-    c.comInitialCost->onPick = [&ws, side] { GrossCostPicked(ws, side); };
-    c.comSubCost->onFocus = [&ws, side] { OnReasonableCostFocus(ws, side); };
+void ConnectSide(WorkspaceSide& side) {
+  side.comStart->onFocus = [&side] { OnDateFocus(side, RefreshDatesFromStart); };
+  side.comStop->onFocus = [&side] { OnDateFocus(side, RefreshDatesFromStop); };
+  for (DropDownList* list : {side.quantity, side.comCigsPerDay, side.comInitialCost, side.comFinalCost,
+                             side.comPercentIncrease, side.comInterestRate1, side.comInflationRate1})
+    if (list != nullptr) list->onFocus = [&side] { EnableSetButton(side); };
+  if (side.comSubCost != nullptr) {
+    side.comInitialCost->onPick = [&side] { GrossCostPicked(side); };
+    side.comSubCost->onFocus = [&side] { OnReasonableCostFocus(side); };
   }
-  for (Option* option : {c.firstUnit, c.secondUnit})
-    option->onClick = [&ws, side] {
-      HasListPerUnit(ws.Class()) ? OnPacksOrCigarettes(ws, side) : OnUnit(ws, side);
-    };
-  for (Option* option : {c.OptCigPercentCostIncrease, c.OptCigInitialFinalCostIncrease})
-    if (option != nullptr) option->onClick = [&ws, side] { OnCostMode(ws, side); };
-  c.cmdSetPeriodParams->onClick = [&ws, side] { OnSetButton(ws, side); };
+  for (Option* option : {side.firstUnit, side.secondUnit})
+    option->onClick = [&side] { HasListPerUnit(side.Class()) ? OnPacksOrCigarettes(side) : OnUnit(side); };
+  for (Option* option : {side.OptCigPercentCostIncrease, side.OptCigInitialFinalCostIncrease})
+    if (option != nullptr) option->onClick = [&side] { OnCostMode(side); };
+  side.cmdSetPeriodParams->onClick = [&side] { OnSetButton(side); };
   for (int p = 1; p <= kPeriodCount; ++p) {
-    c.optTimePeriod(p).onClick = [&ws, side] { OnTimePeriod(ws, side); };
+    side.optTimePeriod(p).onClick = [&side] { OnTimePeriod(side); };
     // The other radio of the pair needs no event: a change of the pair always reaches this one.
-    c.rbnEnabledPeriod(p).onChange = [&ws, side] { OnEnabledRadio(ws, side); };
-    for (Radio* radio : {&c.rbnEnabledPeriod(p), &c.rbnDisabledPeriod(p)})
-      radio->onClick = [&ws, side, p] { ws.Say(PeriodCounts(ws, side, p)); };
+    side.rbnEnabledPeriod(p).onChange = [&side] { OnEnabledRadio(side); };
+    for (Radio* radio : {&side.rbnEnabledPeriod(p), &side.rbnDisabledPeriod(p)})
+      radio->onClick = [&side, p] { side.Workspace().Say(PeriodCounts(side, p)); };
   }
 }
 
 }  // namespace
 
 void ConnectEvents(SinWorkspace& ws) {
-  ConnectSide(ws, Side::Past);
-  ConnectSide(ws, Side::Future);
+  ConnectSide(ws.Of(Side::Past));
+  ConnectSide(ws.Of(Side::Future));
   ws.SSTab_PastFutureSwitch->onChange = [&ws] { OnTab(ws); };
   for (DropDownList* list :
        {ws.comInterestRateFutureDateTot, ws.comInflationRateFutureDateTot, ws.comCumulativeFutureDateTot}) {
     list->onFocus = [&ws] {
-      EnableSetButton(ws, Side::Future);
+      EnableSetButton(ws.Of(Side::Future));
       ws.cmdCumulativeFutureDateTot->SetEnabled(true);
     };
     // A new choice takes effect only when the button is pressed.
     list->onPick = [&ws] { ws.cmdCumulativeFutureDateTot->SetEnabled(true); };
   }
   ws.cmdCumulativeFutureDateTot->onClick = [&ws] {
-    UpdateFutureDateTotal(ws, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future));
+    UpdateFutureDateTotal(ws, ws.Of(Side::Past).Index(), ws.Of(Side::Future).Index());
   };
   for (int i = kPastTab; i <= kTotalTab; ++i)
     ws.Get<Panel>("SSPanel_BackColor", i).onClick = [&ws] { OnPanel(ws); };

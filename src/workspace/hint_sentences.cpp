@@ -10,19 +10,18 @@ std::string PeriodName(Side side, int period) {
   return std::string(PeriodPrefix(side)) + std::to_string(period);
 }
 
-std::string SideNextStep(const SinWorkspace& ws, Side side) {
-  const SideControls& c = ws.Of(side);
-  const int period = ws.State(side).CurrentPeriod;
-  const std::string& press = c.cmdSetPeriodParams->Caption();
-  if (!ws.Record(side, period).PeriodSet) {
-    const bool amount = ws.Class() != CostClass::FlatRateClass;
+std::string SideNextStep(const WorkspaceSide& side) {
+  const int period = side.state.CurrentPeriod;
+  const std::string& press = side.cmdSetPeriodParams->Caption();
+  if (!side.Record(period).PeriodSet) {
+    const bool amount = side.Class() != CostClass::FlatRateClass;
     return std::string("Choose dates, ") + (amount ? "amount and cost" : "cost and rates") + ", then press " +
            press;
   }
   const int next = period + 1;
-  if (next <= kPeriodCount && c.optTimePeriod(next).Enabled() && !ws.Record(side, next).PeriodSet)
-    return "Go on with " + PeriodName(side, next) + ", or see the results on the TOTAL tab";
-  if (next <= kPeriodCount && ws.Record(side, next).PeriodSet)
+  if (next <= kPeriodCount && side.optTimePeriod(next).Enabled() && !side.Record(next).PeriodSet)
+    return "Go on with " + PeriodName(side.Which(), next) + ", or see the results on the TOTAL tab";
+  if (next <= kPeriodCount && side.Record(next).PeriodSet)
     return "Choose what differs and press " + press + "; the later periods are then to be set again";
   return "See the results on the TOTAL tab, or choose what differs and press " + press;
 }
@@ -46,54 +45,53 @@ void AppendMoved(std::string& sentences, const char* which, bool coarse, const s
 std::string NextStep(const SinWorkspace& ws) {
   switch (ws.SSTab_PastFutureSwitch->Tab()) {
     case kPastTab:
-      return ToUtf8(SideNextStep(ws, Side::Past));
+      return ToUtf8(SideNextStep(ws.Of(Side::Past)));
     case kFutureTab:
-      return ToUtf8(SideNextStep(ws, Side::Future));
+      return ToUtf8(SideNextStep(ws.Of(Side::Future)));
     default:
       break;
   }
-  if (PeriodsSet(ws, Side::Past) + PeriodsSet(ws, Side::Future) == 0)
+  if (PeriodsSet(ws.Of(Side::Past)) + PeriodsSet(ws.Of(Side::Future)) == 0)
     return "Set a period on the PAST or the FUTURE tab first";
   return "Choose a future date and its rates, then press " + ws.cmdCumulativeFutureDateTot->Caption();
 }
 
-int PeriodsSet(const SinWorkspace& ws, Side side) {
+int PeriodsSet(const WorkspaceSide& side) {
   int count = 0;
   for (int p = 1; p <= kPeriodCount; ++p)
-    if (ws.Record(side, p).PeriodSet) ++count;
+    if (side.Record(p).PeriodSet) ++count;
   return count;
 }
 
-std::string PeriodWasSet(const SinWorkspace& ws, Side side, int periodsBefore) {
-  const SideControls& c = ws.Of(side);
-  const int period = ws.State(side).CurrentPeriod;
-  const PeriodRecord& record = ws.Record(side, period);
-  std::string text = PeriodName(side, period) + " is set (" + record.StartLabel + " to " + record.StopLabel +
-                     "): " + c.txtResultsPeriod(period).Text() + " out of pocket, " +
-                     c.txtCumulativeResultsPeriod(period).Text() + " cumulative";
+std::string PeriodWasSet(const WorkspaceSide& side, int periodsBefore) {
+  const int period = side.state.CurrentPeriod;
+  const PeriodRecord& record = side.Record(period);
+  std::string text = PeriodName(side.Which(), period) + " is set (" + record.StartLabel + " to " +
+                     record.StopLabel + "): " + side.txtResultsPeriod(period).Text() + " out of pocket, " +
+                     side.txtCumulativeResultsPeriod(period).Text() + " cumulative";
   if (periodsBefore > period) Append(text, "the later periods are gone");
   if (period < kPeriodCount)
-    Append(text, c.optTimePeriod(period + 1).Enabled() ? "go on with " + PeriodName(side, period + 1)
-                                                       : std::string("its stop leaves no room for another"));
+    Append(text, side.optTimePeriod(period + 1).Enabled()
+                     ? "go on with " + PeriodName(side.Which(), period + 1)
+                     : std::string("its stop leaves no room for another"));
   return ToUtf8(text);
 }
 
-std::string PeriodCounts(const SinWorkspace& ws, Side side, int period) {
-  return PeriodName(side, period) + (ws.Of(side).rbnEnabledPeriod(period).Value()
-                                         ? " counts in the results again"
-                                         : " is left out of the results");
+std::string PeriodCounts(const WorkspaceSide& side, int period) {
+  return PeriodName(side.Which(), period) + (side.rbnEnabledPeriod(period).Value()
+                                                 ? " counts in the results again"
+                                                 : " is left out of the results");
 }
 
-std::string DatesMoved(const SinWorkspace& ws, Side side, const std::string& start, const std::string& stop) {
-  const SideControls& c = ws.Of(side);
+std::string DatesMoved(const WorkspaceSide& side, const std::string& start, const std::string& stop) {
   std::string moved;
-  AppendMoved(moved, "start", c.optCourseDateStart->Value(), start, c.comStart->Text());
-  AppendMoved(moved, "stop", c.optCourseDateStop->Value(), stop, c.comStop->Text());
+  AppendMoved(moved, "start", side.optCourseDateStart->Value(), start, side.comStart->Text());
+  AppendMoved(moved, "stop", side.optCourseDateStop->Value(), stop, side.comStop->Text());
   return moved;
 }
 
-std::string ReasonableCostMoved(const SinWorkspace& ws, Side side, const std::string& cost) {
-  const std::string& now = ws.Of(side).comSubCost->Text();
+std::string ReasonableCostMoved(const WorkspaceSide& side, const std::string& cost) {
+  const std::string& now = side.comSubCost->Text();
   if (now == cost) return {};
   return ToUtf8("The reasonable cost list holds the amounts below the price and now shows " + now);
 }

@@ -14,17 +14,17 @@ std::string NextStep(const SinWorkspace& ws);
 
 // After a press of a side's set button. `periodsBefore` is how many of its periods were set before it: a
 // press throws later ones away.
-std::string PeriodWasSet(const SinWorkspace& ws, Side side, int periodsBefore);
-int PeriodsSet(const SinWorkspace& ws, Side side);
+std::string PeriodWasSet(const WorkspaceSide& side, int periodsBefore);
+int PeriodsSet(const WorkspaceSide& side);
 
 // After a period was left out of the results, or taken in again.
-std::string PeriodCounts(const SinWorkspace& ws, Side side, int period);
+std::string PeriodCounts(const WorkspaceSide& side, int period);
 
 // After the lists were made anew for dates that were to stay: which one shows another now, and why. Empty if
 // none does.
-std::string DatesMoved(const SinWorkspace& ws, Side side, const std::string& start, const std::string& stop);
+std::string DatesMoved(const WorkspaceSide& side, const std::string& start, const std::string& stop);
 
 // The same for the reasonable cost.
-std::string ReasonableCostMoved(const SinWorkspace& ws, Side side, const std::string& cost);
+std::string ReasonableCostMoved(const WorkspaceSide& side, const std::string& cost);
 
 }  // namespace vicetoll

@@ -12,21 +12,21 @@ namespace vicetoll {
 // state. Unit and cost mode go back to those of the start. The value lists are not emptied first, so a
 // repeated load appends all their entries again; selection by position and by text always finds the first
 // copy, and all copies in a list are equal.
-void LoadParameters(SinWorkspace& ws, Side side);
+void LoadParameters(WorkspaceSide& side);
 
 // LoadSmokingParametersInitialFuture and its like: a workspace starts with its future lists still empty.
 void LoadParametersInitialFuture(SinWorkspace& ws);
 
 // First values of the side's four periods from the lists as they stand.
-void InitializeParameters(SinWorkspace& ws, Side side);
-void InitializeDates(SinWorkspace& ws, Side side, SideIndex sideIndex);
+void InitializeParameters(WorkspaceSide& side);
+void InitializeDates(WorkspaceSide& side, SideIndex sideIndex);
 
 // The last step of a load: the date lists in full, no results, period 1 alone open.
-void ResetSideScreen(SinWorkspace& ws, Side side);
+void ResetSideScreen(WorkspaceSide& side);
 
 void HideFutureResults(SinWorkspace& ws);
 
 // The captions that follow the period number (LabelMakerSmokePast and its like).
-void LabelMaker(SinWorkspace& ws, Side side, int period);
+void LabelMaker(WorkspaceSide& side, int period);
 
 }  // namespace vicetoll

@@ -11,44 +11,43 @@ namespace vicetoll {
 namespace {
 
 // The list of the unit option that is on.
-const DropDownList& QuantityListOf(const SinWorkspace& ws, const SideControls& c) {
-  return HasListPerUnit(ws.Class()) && !c.firstUnit->Value() ? *c.comCigsPerDay : *c.quantity;
+const DropDownList& QuantityListOf(const WorkspaceSide& side) {
+  return HasListPerUnit(side.Class()) && !side.firstUnit->Value() ? *side.comCigsPerDay : *side.quantity;
 }
 
 // The part of SetParameters that all sins share.
-void SaveSharedParameters(SinWorkspace& ws, Side side, int period) {
-  SideControls& c = ws.Of(side);
-  PeriodRecord& record = ws.Record(side, period);
+void SaveSharedParameters(WorkspaceSide& side, int period) {
+  PeriodRecord& record = side.Record(period);
   record.PeriodSelected = true;
-  record.StartLabel = c.comStart->Text();
-  record.StopLabel = c.comStop->Text();
+  record.StartLabel = side.comStart->Text();
+  record.StopLabel = side.comStop->Text();
   const auto last = [](const DropDownList& list) { return list.Entry(list.Count() - 1); };
   // In fine mode the ends of the coarse lists stay as they were.
-  if (c.optCourseDateStart->Value()) {
-    record.StartListFirst = c.comStart->Entry(0);
-    record.StartListLast = last(*c.comStart);
+  if (side.optCourseDateStart->Value()) {
+    record.StartListFirst = side.comStart->Entry(0);
+    record.StartListLast = last(*side.comStart);
   }
   // The past side asks the start option here too: the stop list of a past period is saved when the start
   // list is coarse, whatever the stop option says.
-  const Option* stopMode = side == Side::Past ? c.optCourseDateStart : c.optCourseDateStop;
+  const Option* stopMode = side.IsPast() ? side.optCourseDateStart : side.optCourseDateStop;
   if (stopMode->Value()) {
-    record.StopListFirst = c.comStop->Entry(0);
-    record.StopListLast = last(*c.comStop);
+    record.StopListFirst = side.comStop->Entry(0);
+    record.StopListLast = last(*side.comStop);
   }
-  c.optCourseDateStart->SetValue(true);
-  c.optCourseDateStop->SetValue(true);
-  record.PercentIncreaseText = c.comPercentIncrease->Text();
-  record.InterestRateText = c.comInterestRate1->Text();
-  record.InflationRateText = c.comInflationRate1->Text();
+  side.optCourseDateStart->SetValue(true);
+  side.optCourseDateStop->SetValue(true);
+  record.PercentIncreaseText = side.comPercentIncrease->Text();
+  record.InterestRateText = side.comInterestRate1->Text();
+  record.InflationRateText = side.comInflationRate1->Text();
 }
 
 // The position of the quantity that is stored. A repeated load appends the list again; an entry of a later
 // copy is stored at its place in the first, which is there also when the list is filled anew. -1 where the
 // text is no entry.
-std::int16_t QuantityPosition(const SinWorkspace& ws, const SideControls& c) {
-  const Unit unit = c.firstUnit->Value() ? Unit::PerDay : Unit::PerMonth;
-  const DropDownList& list = QuantityListOf(ws, c);
-  const int entries = std::max(EntryCount(UnitList(ws.Sin(), unit)), 1);  // of every list; none is empty
+std::int16_t QuantityPosition(const WorkspaceSide& side) {
+  const Unit unit = side.firstUnit->Value() ? Unit::PerDay : Unit::PerMonth;
+  const DropDownList& list = QuantityListOf(side);
+  const int entries = std::max(EntryCount(UnitList(side.Sin(), unit)), 1);  // of every list; none is empty
   return static_cast<std::int16_t>(list.Position() % entries);
 }
 
@@ -70,124 +69,121 @@ void ShowCost(DropDownList* list, const std::string& stored) {
 
 }  // namespace
 
-void SetPeriodParameters(SinWorkspace& ws, Side side, std::string_view period) {
-  for (int p = 1; p <= kPeriodCount; ++p) ws.Record(side, p).PeriodSelected = false;
-  ws.Record(side, RoundToInt16(TextToNumber(period))).PeriodSelected = true;
-  ws.Of(side).frmDaily->SetCaption("Period " + std::string(period) + std::string(ws.Sin().dailySuffix[side]));
+void SetPeriodParameters(WorkspaceSide& side, std::string_view period) {
+  for (int p = 1; p <= kPeriodCount; ++p) side.Record(p).PeriodSelected = false;
+  side.Record(RoundToInt16(TextToNumber(period))).PeriodSelected = true;
+  side.frmDaily->SetCaption("Period " + std::string(period) +
+                            std::string(side.Sin().dailySuffix[side.Which()]));
 }
 
-void SetParameters(SinWorkspace& ws, Side side, int period) {
-  SaveSharedParameters(ws, side, period);
-  SideControls& c = ws.Of(side);
-  PeriodRecord& record = ws.Record(side, period);
-  const bool keepsUnit = side == Side::Future && ws.Sin().futureKeepsUnit;
-  if (!keepsUnit) record.QuantityUnitFlag = c.firstUnit->Value();
-  record.QuantityListIndex = QuantityPosition(ws, c);
-  if (c.comInitialCost != nullptr) record.InitialCostText = c.comInitialCost->Text();
-  if (c.comFinalCost != nullptr) {
-    record.FinalCostText = c.comFinalCost->Text();
-    record.CostModeFlag = c.OptCigPercentCostIncrease->Value();
+void SetParameters(WorkspaceSide& side, int period) {
+  SaveSharedParameters(side, period);
+  PeriodRecord& record = side.Record(period);
+  const bool keepsUnit = !side.IsPast() && side.Sin().futureKeepsUnit;
+  if (!keepsUnit) record.QuantityUnitFlag = side.firstUnit->Value();
+  record.QuantityListIndex = QuantityPosition(side);
+  if (side.comInitialCost != nullptr) record.InitialCostText = side.comInitialCost->Text();
+  if (side.comFinalCost != nullptr) {
+    record.FinalCostText = side.comFinalCost->Text();
+    record.CostModeFlag = side.OptCigPercentCostIncrease->Value();
   }
-  if (c.comSubCost != nullptr) {
-    const bool plain = side == Side::Past && ws.Sin().pastStoresPlainReasonableCost;
-    record.ReasonableCostText = plain ? StripCurrency(c.comSubCost->Text()) : c.comSubCost->Text();
+  if (side.comSubCost != nullptr) {
+    const bool plain = side.IsPast() && side.Sin().pastStoresPlainReasonableCost;
+    record.ReasonableCostText = plain ? StripCurrency(side.comSubCost->Text()) : side.comSubCost->Text();
   }
 }
 
-void LoadSharedParameters(SinWorkspace& ws, Side side, int period) {
-  SideControls& c = ws.Of(side);
-  const PeriodRecord& record = ws.Record(side, period);
-  c.optCourseDateStart->SetValue(true);
-  c.optCourseDateStop->SetValue(true);
-  c.comStart->Clear();
-  FillDateList(true, *c.comStart, record.StartListFirst, record.StartListLast, kCoarseStep);
-  c.comStop->Clear();
-  FillDateList(true, *c.comStop, record.StopListFirst, record.StopListLast, kCoarseStep);
+void LoadSharedParameters(WorkspaceSide& side, int period) {
+  const PeriodRecord& record = side.Record(period);
+  side.optCourseDateStart->SetValue(true);
+  side.optCourseDateStop->SetValue(true);
+  side.comStart->Clear();
+  FillDateList(true, *side.comStart, record.StartListFirst, record.StartListLast, kCoarseStep);
+  side.comStop->Clear();
+  FillDateList(true, *side.comStop, record.StopListFirst, record.StopListLast, kCoarseStep);
   // A month chosen in fine mode may be in neither list. The start then shows as the first entry, the
   // stop as the entry at the place where the start was found. The store keeps the months chosen.
   int position = 0;
-  if (const int found = c.comStart->Find(record.StartLabel); found != -1) position = found;
-  c.comStart->SetText(c.comStart->EntryOrLast(position));
-  if (const int found = c.comStop->Find(record.StopLabel); found != -1) position = found;
-  c.comStop->SetText(c.comStop->EntryOrLast(position));
-  c.comPercentIncrease->SetText(record.PercentIncreaseText);
-  c.comInterestRate1->SetText(record.InterestRateText);
-  c.comInflationRate1->SetText(record.InflationRateText);
+  if (const int found = side.comStart->Find(record.StartLabel); found != -1) position = found;
+  side.comStart->SetText(side.comStart->EntryOrLast(position));
+  if (const int found = side.comStop->Find(record.StopLabel); found != -1) position = found;
+  side.comStop->SetText(side.comStop->EntryOrLast(position));
+  side.comPercentIncrease->SetText(record.PercentIncreaseText);
+  side.comInterestRate1->SetText(record.InterestRateText);
+  side.comInflationRate1->SetText(record.InflationRateText);
 }
 
-void GetParameters(SinWorkspace& ws, Side side, int period) {
-  LoadSharedParameters(ws, side, period);
-  SideControls& c = ws.Of(side);
-  const PeriodRecord& record = ws.Record(side, period);
-  (record.QuantityUnitFlag ? c.firstUnit : c.secondUnit)->SetValue(true);
-  ShowCost(c.comInitialCost, record.InitialCostText);
-  ShowCost(c.comFinalCost, record.FinalCostText);
-  if (c.OptCigPercentCostIncrease != nullptr) {
-    (record.CostModeFlag ? c.OptCigPercentCostIncrease : c.OptCigInitialFinalCostIncrease)->SetValue(true);
-    ShowCostMode(ws, side);
+void GetParameters(WorkspaceSide& side, int period) {
+  LoadSharedParameters(side, period);
+  const PeriodRecord& record = side.Record(period);
+  (record.QuantityUnitFlag ? side.firstUnit : side.secondUnit)->SetValue(true);
+  ShowCost(side.comInitialCost, record.InitialCostText);
+  ShowCost(side.comFinalCost, record.FinalCostText);
+  if (side.OptCigPercentCostIncrease != nullptr) {
+    (record.CostModeFlag ? side.OptCigPercentCostIncrease : side.OptCigInitialFinalCostIncrease)
+        ->SetValue(true);
+    ShowCostMode(side);
   }
-  if (c.comSubCost != nullptr) {
+  if (side.comSubCost != nullptr) {
     // The list follows the gross cost and may not hold the stored entry now; it is shown all the same.
-    const int found = FindCost(*c.comSubCost, record.ReasonableCostText);
-    c.comSubCost->SetText(found == -1 ? record.ReasonableCostText : c.comSubCost->Entry(found));
+    const int found = FindCost(*side.comSubCost, record.ReasonableCostText);
+    side.comSubCost->SetText(found == -1 ? record.ReasonableCostText : side.comSubCost->Entry(found));
   }
-  if (HasListPerUnit(ws.Class())) {
-    ShowPacksOrCigarettes(ws, side);
-    c.quantity->SetText(c.quantity->EntryOrLast(record.QuantityListIndex));
-    c.comCigsPerDay->SetText(c.comCigsPerDay->EntryOrLast(record.QuantityListIndex));
+  if (HasListPerUnit(side.Class())) {
+    ShowPacksOrCigarettes(side);
+    side.quantity->SetText(side.quantity->EntryOrLast(record.QuantityListIndex));
+    side.comCigsPerDay->SetText(side.comCigsPerDay->EntryOrLast(record.QuantityListIndex));
   } else {
-    RefillUnitList(ws, side, record.QuantityListIndex);
+    RefillUnitList(side, record.QuantityListIndex);
   }
 }
 
-void OpenPeriodOptions(SinWorkspace& ws, Side side, int n) {
-  for (int p = 2; p <= kPeriodCount; ++p) ws.Of(side).optTimePeriod(p).SetEnabled(p <= n);
+void OpenPeriodOptions(WorkspaceSide& side, int n) {
+  for (int p = 2; p <= kPeriodCount; ++p) side.optTimePeriod(p).SetEnabled(p <= n);
 }
 
-void OpenPeriodRadios(SinWorkspace& ws, Side side, int n) {
-  SideControls& c = ws.Of(side);
+void OpenPeriodRadios(WorkspaceSide& side, int n) {
   for (int p = 2; p <= kPeriodCount; ++p) {
-    c.frmEnabledDisabledPeriod(p).SetEnabled(p <= n);
-    c.rbnEnabledPeriod(p).SetEnabled(p <= n);
-    c.rbnDisabledPeriod(p).SetEnabled(p <= n);
+    side.frmEnabledDisabledPeriod(p).SetEnabled(p <= n);
+    side.rbnEnabledPeriod(p).SetEnabled(p <= n);
+    side.rbnDisabledPeriod(p).SetEnabled(p <= n);
   }
 }
 
-void ShowPacksOrCigarettes(SinWorkspace& ws, Side side) {
-  SideControls& c = ws.Of(side);
-  const bool packs = c.firstUnit->Value();
-  c.quantity->SetAvailable(packs);
-  c.comCigsPerDay->SetAvailable(!packs);
-  c.quantityLabel->SetCaption(packs ? ws.Sin().quantityLabelPerDay : ws.Sin().quantityLabelPerMonth);
+void ShowPacksOrCigarettes(WorkspaceSide& side) {
+  const bool packs = side.firstUnit->Value();
+  side.quantity->SetAvailable(packs);
+  side.comCigsPerDay->SetAvailable(!packs);
+  side.quantityLabel->SetCaption(packs ? side.Sin().quantityLabelPerDay : side.Sin().quantityLabelPerMonth);
 }
 
-void RefillUnitList(SinWorkspace& ws, Side side, int position) {
-  SideControls& c = ws.Of(side);
-  const SinRow& sin = ws.Sin();
-  const Unit unit = c.firstUnit->Value() ? Unit::PerDay : Unit::PerMonth;
-  if (ws.Class() == CostClass::FlatRateClass)
-    c.quantityLabel->SetCaption(unit == Unit::PerDay ? sin.flatLabelPerDay[side] : sin.flatLabelPerMonth);
+void RefillUnitList(WorkspaceSide& side, int position) {
+  const SinRow& sin = side.Sin();
+  const Unit unit = side.firstUnit->Value() ? Unit::PerDay : Unit::PerMonth;
+  if (side.Class() == CostClass::FlatRateClass)
+    side.quantityLabel->SetCaption(unit == Unit::PerDay ? sin.flatLabelPerDay[side.Which()]
+                                                        : sin.flatLabelPerMonth);
   else
-    c.quantityLabel->SetCaption(unit == Unit::PerDay ? sin.quantityLabelPerDay : sin.quantityLabelPerMonth);
-  c.quantity->Clear();
-  AppendEntries(ws, *c.quantity, UnitList(sin, unit));
-  c.quantity->SetText(c.quantity->EntryOrLast(position));
+    side.quantityLabel->SetCaption(unit == Unit::PerDay ? sin.quantityLabelPerDay
+                                                        : sin.quantityLabelPerMonth);
+  side.quantity->Clear();
+  AppendEntries(side.Workspace(), *side.quantity, UnitList(sin, unit));
+  side.quantity->SetText(side.quantity->EntryOrLast(position));
 }
 
-void ShowCostMode(SinWorkspace& ws, Side side) {
-  SideControls& c = ws.Of(side);
-  const SinRow& sin = ws.Sin();
-  const bool percent = c.OptCigPercentCostIncrease->Value();
-  c.comInitialCost->SetAvailable(true);
-  c.comFinalCost->SetAvailable(!percent);
-  c.comPercentIncrease->SetAvailable(percent);
+void ShowCostMode(WorkspaceSide& side) {
+  const SinRow& sin = side.Sin();
+  const bool percent = side.OptCigPercentCostIncrease->Value();
+  side.comInitialCost->SetAvailable(true);
+  side.comFinalCost->SetAvailable(!percent);
+  side.comPercentIncrease->SetAvailable(percent);
   // The percent list's label is borrowed for the final cost.
-  c.costLabel->SetCaption(percent ? sin.costLabelPercent : sin.costLabelInitial);
-  c.percentLabel->SetCaption(percent ? sin.percentLabelPercent : sin.costLabelFinal);
+  side.costLabel->SetCaption(percent ? sin.costLabelPercent : sin.costLabelInitial);
+  side.percentLabel->SetCaption(percent ? sin.percentLabelPercent : sin.costLabelFinal);
 }
 
-const std::string& QuantityText(const SinWorkspace& ws, Side side, int period) {
-  return QuantityListOf(ws, ws.Of(side)).EntryOrLast(ws.Record(side, period).QuantityListIndex);
+const std::string& QuantityText(const WorkspaceSide& side, int period) {
+  return QuantityListOf(side).EntryOrLast(side.Record(period).QuantityListIndex);
 }
 
 std::vector<std::string> EntriesOf(const SinWorkspace& ws, const ListDefinition& definition) {

@@ -15,33 +15,33 @@
 namespace vicetoll {
 
 // Makes the period (its number as text) the selected one of the side and titles frmDaily with it.
-void SetPeriodParameters(SinWorkspace& ws, Side side, std::string_view period);
+void SetPeriodParameters(WorkspaceSide& side, std::string_view period);
 
 // Screen to store.
-void SetParameters(SinWorkspace& ws, Side side, int period);
+void SetParameters(WorkspaceSide& side, int period);
 
 // Store to screen: as clicks on the stored options and picks of the stored entries would show it.
-void GetParameters(SinWorkspace& ws, Side side, int period);
+void GetParameters(WorkspaceSide& side, int period);
 
 // The part of GetParameters that all sins share: dates and rates.
-void LoadSharedParameters(SinWorkspace& ws, Side side, int period);
+void LoadSharedParameters(WorkspaceSide& side, int period);
 
 // Opens the options of periods 2 to n, or the frames and radios of those, and closes the rest. What
 // belongs to period 1 is left alone.
-void OpenPeriodOptions(SinWorkspace& ws, Side side, int n);
-void OpenPeriodRadios(SinWorkspace& ws, Side side, int n);
+void OpenPeriodOptions(WorkspaceSide& side, int n);
+void OpenPeriodRadios(WorkspaceSide& side, int n);
 
 // Shows packs or cigarettes (Smoking), with the label of the unit.
-void ShowPacksOrCigarettes(SinWorkspace& ws, Side side);
+void ShowPacksOrCigarettes(WorkspaceSide& side);
 // Empties the quantity list and fills it for the unit option that is on (all sins but Smoking), with the
 // label of the unit. The text becomes the entry at the position, the last one for a position past the end.
-void RefillUnitList(SinWorkspace& ws, Side side, int position);
+void RefillUnitList(WorkspaceSide& side, int position);
 // Shows the cost lists of the cost mode that is on, with their labels.
-void ShowCostMode(SinWorkspace& ws, Side side);
+void ShowCostMode(WorkspaceSide& side);
 
 // The text of the quantity that a stored period counts with: the entry at its position in the list of the
 // unit option that is on now, the last entry for a position past the end.
-const std::string& QuantityText(const SinWorkspace& ws, Side side, int period);
+const std::string& QuantityText(const WorkspaceSide& side, int period);
 
 // The entries of a value list, in the currency of the run.
 std::vector<std::string> EntriesOf(const SinWorkspace& ws, const ListDefinition& definition);

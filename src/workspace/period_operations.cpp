@@ -6,21 +6,20 @@
 
 namespace vicetoll {
 
-PeriodTerms PeriodTermsOf(const SinWorkspace& ws, Side side, int period) {
-  return TermsOf(ws.Record(side, period), ws.Class(), QuantityText(ws, side, period),
-                 ws.Of(side).firstUnit->Value());
+PeriodTerms PeriodTermsOf(const WorkspaceSide& side, int period) {
+  return TermsOf(side.Record(period), side.Class(), QuantityText(side, period), side.firstUnit->Value());
 }
 
-bool IsCounted(const SinWorkspace& ws, Side side, int period, SideIndex sideIndex) {
-  return ws.Of(side).txtResultsPeriod(period).Enabled() && ws.Store().At(period, sideIndex).PeriodEnabled;
+bool IsCounted(const WorkspaceSide& side, int period, SideIndex sideIndex) {
+  return side.txtResultsPeriod(period).Enabled() && side.Store().At(period, sideIndex).PeriodEnabled;
 }
 
-SideTerms SideTermsOf(const SinWorkspace& ws, Side side, SideIndex sideIndex) {
+SideTerms SideTermsOf(const WorkspaceSide& side, SideIndex sideIndex) {
   SideTerms terms;
-  terms.currency = ws.GetSession().currency;
+  terms.currency = side.GetSession().currency;
   for (int p = 1; p <= kPeriodCount; ++p) {
-    terms.periods[p - 1] = PeriodTermsOf(ws, side, p);
-    terms.counted[p - 1] = IsCounted(ws, side, p, sideIndex);
+    terms.periods[p - 1] = PeriodTermsOf(side, p);
+    terms.counted[p - 1] = IsCounted(side, p, sideIndex);
   }
   return terms;
 }
@@ -35,24 +34,24 @@ DateWarning WarningOf(const SinWorkspace& ws) {
   };
 }
 
-double CostInPeriod(const SinWorkspace& ws, Side side, int period) {
-  const PeriodRecord& record = ws.Record(side, period);
+double CostInPeriod(const WorkspaceSide& side, int period) {
+  const PeriodRecord& record = side.Record(period);
   if (MonthsInclusive(record.StartLabel, record.StopLabel) < 1) return 0;
-  return CostInPeriod(PeriodTermsOf(ws, side, period));
+  return CostInPeriod(PeriodTermsOf(side, period));
 }
 
-double CumulativeCostInPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost, int period,
+double CumulativeCostInPeriod(const WorkspaceSide& side, std::string_view startingCost, int period,
                               std::string_view calculateToDate) {
-  const PeriodRecord& record = ws.Record(side, period);
+  const PeriodRecord& record = side.Record(period);
   const bool anyMonth = MonthsInclusive(record.StartLabel, calculateToDate) > 0;
   return CumulativeCostInPeriod(startingCost,
-                                anyMonth ? PeriodTermsOf(ws, side, period) : DatesAndRatesOf(record),
-                                calculateToDate, WarningOf(ws));
+                                anyMonth ? PeriodTermsOf(side, period) : DatesAndRatesOf(record),
+                                calculateToDate, WarningOf(side.Workspace()));
 }
 
-double CumulativeCostBetweenPeriod(const SinWorkspace& ws, Side side, std::string_view startingCost,
-                                   int period, std::string_view stop, std::string_view start) {
-  return CumulativeCostBetweenPeriod(startingCost, RatesOf(ws.Record(side, period)), stop, start);
+double CumulativeCostBetweenPeriod(const WorkspaceSide& side, std::string_view startingCost, int period,
+                                   std::string_view stop, std::string_view start) {
+  return CumulativeCostBetweenPeriod(startingCost, RatesOf(side.Record(period)), stop, start);
 }
 
 }  // namespace vicetoll

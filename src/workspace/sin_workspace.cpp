@@ -16,7 +16,7 @@ SinWorkspace::SinWorkspace(Session& session, int position)
 }
 
 void SinWorkspace::TakeStateOf(const SinWorkspace& other) {
-  states_ = other.states_;
+  for (Side side : kSides) Of(side).state = other.Of(side).state;
   FuturePast_Flag = other.FuturePast_Flag;
   CurrentIndexSub = other.CurrentIndexSub;
   CurrentCumulativeCost = other.CurrentCumulativeCost;
@@ -30,9 +30,9 @@ void SinWorkspace::TakeStateOf(const SinWorkspace& other) {
 
 std::vector<const Control*> SinWorkspace::ResultsOf(const Control& by) const {
   for (Side side : kSides) {
-    const SideControls& c = Of(side);
+    const WorkspaceSide& c = Of(side);
     if (&by != c.cmdSetPeriodParams) continue;
-    const int period = states_[static_cast<int>(side)].CurrentPeriod;
+    const int period = c.state.CurrentPeriod;
     return {&c.txtResultsPeriod(period), &c.txtCumulativeResultsPeriod(period), c.txtResultsTotal};
   }
   return {};

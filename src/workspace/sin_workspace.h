@@ -2,7 +2,8 @@
 // The window of one sin: three tabs, PAST, FUTURE and TOTAL, over one set of rules.
 //
 // There is one class and twelve instances; what differs is the sin's row of the catalogue. The two sides
-// are one code with a Side. This header has the state; the rules stand in the files named after them.
+// are one code: it is handed the WorkspaceSide it is to work on. This header has the state; the rules stand
+// in the files named after them.
 #pragma once
 
 #include <array>
@@ -97,6 +98,9 @@ struct SideControls {
   Button* cmdAdvResultsDoc = nullptr;
   Button* cmdAdvResultsSpdSummary = nullptr;
   Button* cmdAdvResultsDocSummary = nullptr;
+  std::array<Button*, 4> ResultButtons() const {
+    return {cmdAdvResultsDoc, cmdAdvResultsSpd, cmdAdvResultsDocSummary, cmdAdvResultsSpdSummary};
+  }
 };
 
 // The fields of a side that steps and reports keep between events.
@@ -105,6 +109,39 @@ struct SideState {
   int PreviousPeriod = 0;  // selected before it
   // Where the figure at the chosen future date starts: the stop of the last period that counts.
   std::string BeginManualDate;
+};
+
+class SinWorkspace;
+
+// One side of a workspace: its controls, what it keeps between events, and the way to its records. It belongs
+// to its workspace, and those who work on one side are handed it by reference.
+class WorkspaceSide : public SideControls {
+ public:
+  WorkspaceSide(SinWorkspace& ws, Side which) : ws_(ws), which_(which) {}
+  WorkspaceSide(const WorkspaceSide&) = delete;
+  WorkspaceSide& operator=(const WorkspaceSide&) = delete;
+
+  SinWorkspace& Workspace() { return ws_; }
+  const SinWorkspace& Workspace() const { return ws_; }
+  Side Which() const { return which_; }
+  bool IsPast() const { return which_ == Side::Past; }
+  // Its number in the store, under which its own records are. Operations that take a SideIndex beside a side
+  // read what counts under that number, and all else under the side's own.
+  SideIndex Index() const;
+  PeriodRecord& Record(int period) const { return Store().At(period, Index()); }
+
+  // Of the workspace.
+  Session& GetSession() const;
+  PeriodStore& Store() const { return GetSession().store; }
+  const SinRow& Sin() const;
+  CostClass Class() const { return Sin().costClass; }
+  std::string Money(double value, std::string_view format) const;
+
+  SideState state;
+
+ private:
+  SinWorkspace& ws_;
+  Side which_;
 };
 
 // What the figure at a future date is reckoned with, as the three lists of the TOTAL tab show it.
@@ -137,13 +174,9 @@ class SinWorkspace : public Form {
   const SinRow& Sin() const { return sin_; }
   int Position() const { return position_; }
   CostClass Class() const { return sin_.costClass; }
-  vicetoll::SideIndex SideIndex(Side side) const { return SideIndexOf(position_, side); }
-  PeriodRecord& Record(Side side, int period) const { return Store().At(period, SideIndex(side)); }
 
-  SideControls& Of(Side side) { return sides_[static_cast<int>(side)]; }
-  const SideControls& Of(Side side) const { return sides_[static_cast<int>(side)]; }
-  SideState& State(Side side) { return states_[static_cast<int>(side)]; }
-  const SideState& State(Side side) const { return states_[static_cast<int>(side)]; }
+  WorkspaceSide& Of(Side side) { return sides_[static_cast<std::size_t>(side)]; }
+  const WorkspaceSide& Of(Side side) const { return sides_[static_cast<std::size_t>(side)]; }
 
   // Takes over all that another workspace of the same sin shows and remembers.
   void TakeStateOf(const SinWorkspace& other);
@@ -183,8 +216,14 @@ class SinWorkspace : public Form {
   Session& session_;
   int position_;
   const SinRow& sin_;
-  std::array<SideControls, 2> sides_;
-  std::array<SideState, 2> states_;
+  std::array<WorkspaceSide, 2> sides_{WorkspaceSide(*this, Side::Past), WorkspaceSide(*this, Side::Future)};
 };
+
+inline SideIndex WorkspaceSide::Index() const { return SideIndexOf(ws_.Position(), which_); }
+inline Session& WorkspaceSide::GetSession() const { return ws_.GetSession(); }
+inline const SinRow& WorkspaceSide::Sin() const { return ws_.Sin(); }
+inline std::string WorkspaceSide::Money(double value, std::string_view format) const {
+  return ws_.Money(value, format);
+}
 
 }  // namespace vicetoll

@@ -17,32 +17,30 @@ void WriteZeroIfEmpty(TextBox& box) {
   if (box.Text().empty()) box.SetText("0");
 }
 
-void ShowDates(SinWorkspace& ws, Side side, SideIndex sideIndex) {
-  SideControls& c = ws.Of(side);
+void ShowDates(WorkspaceSide& side, SideIndex sideIndex) {
   for (int p = 1; p <= kPeriodCount; ++p) {
-    const PeriodRecord& record = ws.Store().At(p, sideIndex);
+    const PeriodRecord& record = side.Store().At(p, sideIndex);
     const bool counted = record.PeriodEnabled && record.PeriodSet;
-    ws.lblTo(side == Side::Past ? p : p + kPeriodCount).SetVisible(counted);
-    c.lblFirstDate(p).SetVisible(counted);
-    c.lblLastDate(p).SetVisible(counted);
+    side.Workspace().lblTo(side.IsPast() ? p : p + kPeriodCount).SetVisible(counted);
+    side.lblFirstDate(p).SetVisible(counted);
+    side.lblLastDate(p).SetVisible(counted);
     if (!counted) continue;
-    c.lblFirstDate(p).SetCaption(record.StartLabel);
-    c.lblLastDate(p).SetCaption(record.StopLabel);
+    side.lblFirstDate(p).SetCaption(record.StartLabel);
+    side.lblLastDate(p).SetCaption(record.StopLabel);
   }
 }
 
 // Copies the results of a side's tab to positions 5 to 8 and the summary total.
-void CopyResults(SinWorkspace& ws, Side side) {
-  SideControls& c = ws.Of(side);
+void CopyResults(WorkspaceSide& side) {
   for (int p = 1; p <= kPeriodCount; ++p) {
-    for (auto* boxes : {&c.txtResultsPeriod, &c.txtCumulativeResultsPeriod}) {
+    for (auto* boxes : {&side.txtResultsPeriod, &side.txtCumulativeResultsPeriod}) {
       TextBox& copy = (*boxes)(p + kPeriodCount);
       copy.SetText((*boxes)(p).Text());
       copy.SetEnabled((*boxes)(p).Enabled());
       copy.SetVisible((*boxes)(p).Visible());
     }
   }
-  c.txtResultsTotalSummary->SetText(c.txtResultsTotal->Text());
+  side.txtResultsTotalSummary->SetText(side.txtResultsTotal->Text());
 }
 
 void EnableTotals(SinWorkspace& ws, bool enabled) {
@@ -77,44 +75,42 @@ void FillFutureDates(SinWorkspace& ws, const std::string& anchor, std::int16_t y
 
 }  // namespace
 
-void RefreshResults(SinWorkspace& ws, Side side, SideIndex sideIndex) {
-  ++ws.GetSession().timesSet;
-  SideControls& c = ws.Of(side);
+void RefreshResults(WorkspaceSide& side, SideIndex sideIndex) {
+  ++side.GetSession().timesSet;
   for (int p = 1; p <= kPeriodCount; ++p) {
-    PeriodRecord& record = ws.Store().At(p, sideIndex);
+    PeriodRecord& record = side.Store().At(p, sideIndex);
     if (!record.PeriodSet) continue;
-    const bool on = c.rbnEnabledPeriod(p).Value();
+    const bool on = side.rbnEnabledPeriod(p).Value();
     record.PeriodEnabled = on;
-    c.txtResultsPeriod(p).SetAvailable(on);
-    c.txtCumulativeResultsPeriod(p).SetAvailable(on);
-    PopulateResults(ws, side, sideIndex);
+    side.txtResultsPeriod(p).SetAvailable(on);
+    side.txtCumulativeResultsPeriod(p).SetAvailable(on);
+    PopulateResults(side, sideIndex);
   }
 }
 
-void PopulateResults(SinWorkspace& ws, Side side, SideIndex sideIndex) {
-  SideControls& c = ws.Of(side);
-  const SideResults results = EvaluateSide(SideTermsOf(ws, side, sideIndex), WarningOf(ws));
+void PopulateResults(WorkspaceSide& side, SideIndex sideIndex) {
+  const SideResults results = EvaluateSide(SideTermsOf(side, sideIndex), WarningOf(side.Workspace()));
   for (int p = 1; p <= kPeriodCount; ++p) {
-    c.txtResultsPeriod(p).SetText(results.costs[p - 1]);
-    c.txtCumulativeResultsPeriod(p).SetText(results.balances[p - 1]);
+    side.txtResultsPeriod(p).SetText(results.costs[p - 1]);
+    side.txtCumulativeResultsPeriod(p).SetText(results.balances[p - 1]);
   }
-  c.txtResultsTotal->SetText(results.total);
+  side.txtResultsTotal->SetText(results.total);
 }
 
 std::string CumulativeChainFuture(SinWorkspace& ws, SideIndex sideIndex, const std::string& opening) {
-  return CumulativeChain(SideTermsOf(ws, Side::Future, sideIndex), opening, WarningOf(ws));
+  return CumulativeChain(SideTermsOf(ws.Of(Side::Future), sideIndex), opening, WarningOf(ws));
 }
 
-CountedPeriods CountedOf(const SinWorkspace& ws, Side side, SideIndex sideIndex) {
+CountedPeriods CountedOf(const WorkspaceSide& side, SideIndex sideIndex) {
   CountedPeriods counted;
   for (int p = kPeriodCount; p >= 1; --p) {
-    const PeriodRecord& record = ws.Store().At(p, sideIndex);
+    const PeriodRecord& record = side.Store().At(p, sideIndex);
     if (!record.PeriodEnabled || !record.PeriodSet) continue;
     if (counted.last == 0) counted.last = p;
     counted.first = p;
   }
   // A side of which nothing counts goes as one with a zero total, whatever its box shows.
-  counted.worthCounting = counted.last != 0 && MoneyToNumber(ws.Of(side).txtResultsTotal->Text()) != 0;
+  counted.worthCounting = counted.last != 0 && MoneyToNumber(side.txtResultsTotal->Text()) != 0;
   return counted;
 }
 
@@ -122,12 +118,12 @@ namespace {
 
 std::string PastCarriedIntoFuture(const SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide,
                                   const DateWarning& warn) {
-  const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
-  const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
+  const CountedPeriods past = CountedOf(ws.Of(Side::Past), pastSide);
+  const CountedPeriods future = CountedOf(ws.Of(Side::Future), futureSide);
   const double opening = CumulativeCostBetweenPeriod(
-      ws, Side::Past, ws.Of(Side::Past).txtCumulativeResultsPeriod(past.last).Text(), past.last,
+      ws.Of(Side::Past), ws.Of(Side::Past).txtCumulativeResultsPeriod(past.last).Text(), past.last,
       ws.Store().At(past.last, pastSide).StopLabel, ws.Store().At(future.first, futureSide).StartLabel);
-  return CumulativeChain(SideTermsOf(ws, Side::Future, futureSide), NumberToText(opening), warn);
+  return CumulativeChain(SideTermsOf(ws.Of(Side::Future), futureSide), NumberToText(opening), warn);
 }
 
 // The balance of all that counts at its last stop, as text; empty where nothing counts.
@@ -164,10 +160,10 @@ namespace {
 // The figure reckoned anew with the terms of the last time; none where there are none, or nothing counts. Its
 // `value` is unrounded.
 std::optional<FutureDateFigure> FutureDateFigureAnew(const SinWorkspace& ws) {
-  const SideIndex futureSide = ws.SideIndex(Side::Future);
-  const SideIndex pastSide = ws.SideIndex(Side::Past);
-  const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
-  const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
+  const SideIndex futureSide = ws.Of(Side::Future).Index();
+  const SideIndex pastSide = ws.Of(Side::Past).Index();
+  const CountedPeriods past = CountedOf(ws.Of(Side::Past), pastSide);
+  const CountedPeriods future = CountedOf(ws.Of(Side::Future), futureSide);
   if (!ws.evaluatedAt || (!past.worthCounting && !future.worthCounting)) return std::nullopt;
   const double rate = LeadingNumber(ws.evaluatedAt->interest) - LeadingNumber(ws.evaluatedAt->inflation);
   const double balance =
@@ -203,8 +199,8 @@ void ShowOldFutureDateFigure(SinWorkspace& ws, const std::string& figure) {
 
 void UpdateCombinedCumulative(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
   for (Side side : kSides) WriteZeroIfEmpty(*ws.Of(side).txtResultsTotal);
-  const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
-  const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
+  const CountedPeriods past = CountedOf(ws.Of(Side::Past), pastSide);
+  const CountedPeriods future = CountedOf(ws.Of(Side::Future), futureSide);
   TextBox& balance = *ws.txtCumulativeResultsTotalSummaryTot;
   if (past.worthCounting || future.worthCounting)
     balance.SetText(BalanceOfBothSides(ws, past, future, pastSide, futureSide, WarningOf(ws)));
@@ -215,18 +211,18 @@ void UpdateCombinedCumulative(SinWorkspace& ws, SideIndex pastSide, SideIndex fu
 }
 
 void UpdateTotalTab(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
-  ShowDates(ws, Side::Past, pastSide);
-  ShowDates(ws, Side::Future, futureSide);
+  WorkspaceSide& past = ws.Of(Side::Past);
+  WorkspaceSide& future = ws.Of(Side::Future);
+  ShowDates(past, pastSide);
+  ShowDates(future, futureSide);
   ws.cmdCumulativeFutureDateTot->SetEnabled(false);
-  SideControls& past = ws.Of(Side::Past);
-  SideControls& future = ws.Of(Side::Future);
-  CopyResults(ws, Side::Past);
-  CopyResults(ws, Side::Future);
+  CopyResults(past);
+  CopyResults(future);
   WriteZeroIfEmpty(*past.txtResultsTotal);
   WriteZeroIfEmpty(*future.txtResultsTotal);
 
-  const CountedPeriods pastCounted = CountedOf(ws, Side::Past, pastSide);
-  const CountedPeriods futureCounted = CountedOf(ws, Side::Future, futureSide);
+  const CountedPeriods pastCounted = CountedOf(past, pastSide);
+  const CountedPeriods futureCounted = CountedOf(future, futureSide);
   // As the boxes stand, also that of a side of which nothing counts: a press writes a total with disabled
   // periods in it.
   const double onScreen =
@@ -252,10 +248,10 @@ void UpdateTotalTab(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) 
 
 void UpdateFutureDateTotal(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
   ++ws.GetSession().timesSet;
-  const CountedPeriods past = CountedOf(ws, Side::Past, pastSide);
-  const CountedPeriods future = CountedOf(ws, Side::Future, futureSide);
-  std::string& pastDate = ws.State(Side::Past).BeginManualDate;
-  std::string& futureDate = ws.State(Side::Future).BeginManualDate;
+  const CountedPeriods past = CountedOf(ws.Of(Side::Past), pastSide);
+  const CountedPeriods future = CountedOf(ws.Of(Side::Future), futureSide);
+  std::string& pastDate = ws.Of(Side::Past).state.BeginManualDate;
+  std::string& futureDate = ws.Of(Side::Future).state.BeginManualDate;
   // A total of "$0" with a period counted differs from "0": its date is noted though its way is not taken.
   if (ws.Of(Side::Past).txtResultsTotal->Text() != "0" && past.last != 0)
     pastDate = ws.Store().At(past.last, pastSide).StopLabel;

@@ -12,10 +12,10 @@ namespace vicetoll {
 
 // Brings the result boxes of the set periods in line with their radios and evaluates the side, once per
 // set period, with the flags as they then stand.
-void RefreshResults(SinWorkspace& ws, Side side, SideIndex sideIndex);
+void RefreshResults(WorkspaceSide& side, SideIndex sideIndex);
 
 // Evaluates a side into its boxes.
-void PopulateResults(SinWorkspace& ws, Side side, SideIndex sideIndex);
+void PopulateResults(WorkspaceSide& side, SideIndex sideIndex);
 
 // The future side's final balance from an opening balance; empty if no period counts.
 std::string CumulativeChainFuture(SinWorkspace& ws, SideIndex sideIndex, const std::string& opening);
@@ -35,7 +35,7 @@ struct CountedPeriods {
   int first = 0, last = 0;     // period numbers, 0 where nothing counts
   bool worthCounting = false;  // something counts, and the side's total is not zero
 };
-CountedPeriods CountedOf(const SinWorkspace& ws, Side side, SideIndex sideIndex);
+CountedPeriods CountedOf(const WorkspaceSide& side, SideIndex sideIndex);
 
 // The balance of both sides at the last stop, as text: the future chain opened with the past's balance
 // grown over the gap between them. Both sides must be worth counting.

@@ -65,10 +65,10 @@ TEST_F(Keyboard, AnArrowStepsToTheNextPeriod) {
   Press(Qt::Key_Home);
   FocusOn(Smoking(), "cmdSetPeriodParamsPast");
   Press(Qt::Key_Return);
-  ASSERT_TRUE(Smoking().Record(Side::Past, 1).PeriodSet);
+  ASSERT_TRUE(Smoking().Of(Side::Past).Record(1).PeriodSet);
   FocusOn(Smoking(), "optTimePeriodPast(1)");
   Press(Qt::Key_Down);
-  EXPECT_EQ(Smoking().State(Side::Past).CurrentPeriod, 2);
+  EXPECT_EQ(Smoking().Of(Side::Past).state.CurrentPeriod, 2);
 }
 
 TEST_F(Keyboard, AGroupIsOneTabStop) {
@@ -238,7 +238,7 @@ TEST_F(Keyboard, TheMenuOpensAtTheCurrentCell) {
 TEST_F(Keyboard, AnAccessKeyBringsTheFocus) {
   FocusOn(Smoking(), "comInterestRate1Past");
   Press(Qt::Key_M, Qt::AltModifier);
-  QTRY_VERIFY_WITH_TIMEOUT(Smoking().Record(Side::Past, 1).PeriodSet, 2000);  // when it has sprung back
+  QTRY_VERIFY_WITH_TIMEOUT(Smoking().Of(Side::Past).Record(1).PeriodSet, 2000);  // when it has sprung back
   EXPECT_FALSE(Smoking().Of(Side::Past).cmdSetPeriodParams->Enabled());
   EXPECT_NE(Focus(), "comInterestRate1Past");
   // So a change in that list, which begins with going there, opens the button again.

@@ -19,19 +19,20 @@ class DocTextTest : public ::testing::Test {
   ReportWorld world;
 
   std::string Build(SinWorkspace& ws, Side side, bool docFlag) {
-    return BuildDocText(ws, side, world.Doc().Text(), docFlag, true, ws.CurrentIndexSub, ws.SideIndex(side));
+    return BuildDocText(ws.Of(side), world.Doc().Text(), docFlag, true, ws.CurrentIndexSub,
+                        ws.Of(side).Index());
   }
 
   // The months of one period, without headers.
   Texts Months(SinWorkspace& ws, Side side, bool docFlag) {
     std::int16_t index = 0;
-    return Lines(ParametersForMonthInPeriodDoc(ws, side, 1, docFlag, index, 0, 0));
+    return Lines(ParametersForMonthInPeriodDoc(ws.Of(side), 1, docFlag, index, 0, 0));
   }
 
   Texts Between(SinWorkspace& ws, Side side, bool disabled, bool docFlag) {
     std::int16_t index = 0;
-    return Lines(ParametersForMonthInPeriodDocBetweenPeriods(ws, side, disabled, 1, docFlag, index, 100, 200,
-                                                             "Mar - 2000", "May - 2000"));
+    return Lines(ParametersForMonthInPeriodDocBetweenPeriods(ws.Of(side), disabled, 1, docFlag, index, 100,
+                                                             200, "Mar - 2000", "May - 2000"));
   }
 };
 
@@ -104,7 +105,7 @@ TEST_F(DocTextTest, PeriodHeaderWithFinalCost) {
   SinWorkspace& ws = world.At("Smoking");
   Write(ws, Side::Past, 2, {"Jan - 2000", "Mar - 2000", "12%", "3%"}).FinalCostText = "$2.50";
   EXPECT_EQ(
-      Lines(ParametersInPeriodDoc(ws, Side::Past, 2)),
+      Lines(ParametersInPeriodDoc(ws.Of(Side::Past), 2)),
       (Texts{"Past Period 2 Set and Enabled and has the following Parmeters:",
              "Start Smoking Date for Period is: Jan - 2000", "Stop Smoking Date for Period is: Mar - 2000",
              "Initial Cost of Cigarettes at Start Smoking Date: $2.00",
@@ -118,7 +119,7 @@ TEST_F(DocTextTest, PeriodHeaderWithPercentIncrease) {
   PeriodRecord& record = Write(ws, Side::Future, 1, {"Jan - 2000", "Mar - 2000"});
   record.CostModeFlag = true;
   record.PercentIncreaseText = "10%";
-  const Texts lines = Lines(ParametersInPeriodDoc(ws, Side::Future, 1));
+  const Texts lines = Lines(ParametersInPeriodDoc(ws.Of(Side::Future), 1));
   ASSERT_EQ(lines.size(), 9u);
   EXPECT_EQ(lines[0], "Future Period 1 Set and Enabled and has the following Parmeters:");
   EXPECT_EQ(lines[3], "Initial Cuptoll at Start Drinking Date: $2.00");
@@ -130,7 +131,7 @@ TEST_F(DocTextTest, PeriodHeaderOfFlatRateEndsItsCostLineWithThePosition) {
   SinWorkspace& ws = world.At("Gambling");
   Write(ws, Side::Past, 1, {"Jan - 2000", "Mar - 2000"});
   EXPECT_EQ(
-      Lines(ParametersInPeriodDoc(ws, Side::Past, 1)),
+      Lines(ParametersInPeriodDoc(ws.Of(Side::Past), 1)),
       (Texts{"Past Period 1 Set and Enabled and has the following Parmeters:",
              "Start Gambling Date for Period is: Jan - 2000", "Stop Gambling Date for Period is: Mar - 2000",
              "Gambling Cost Per Day During Period: 20",
@@ -140,7 +141,7 @@ TEST_F(DocTextTest, PeriodHeaderOfFlatRateEndsItsCostLineWithThePosition) {
 TEST_F(DocTextTest, PeriodHeaderOfNetUnits) {
   SinWorkspace& ws = world.At("Coffeeing");
   Write(ws, Side::Past, 1, {"Jan - 2000", "Mar - 2000"});
-  const Texts lines = Lines(ParametersInPeriodDoc(ws, Side::Past, 1));
+  const Texts lines = Lines(ParametersInPeriodDoc(ws.Of(Side::Past), 1));
   ASSERT_EQ(lines.size(), 11u);
   EXPECT_EQ(lines[3], "Initial Beantoll at Start Coffee Drinking  Date: $2.00");
   EXPECT_EQ(lines[4], "Reasonable Cost of a Coffee at Start Coffee Drinking Date: $0.50");
@@ -149,14 +150,14 @@ TEST_F(DocTextTest, PeriodHeaderOfNetUnits) {
   EXPECT_EQ(lines[7], "Pack of Cigarettes Drinkd Per Day During Period: 2");
   // Nothing in excess has no digit before the point.
   Write(ws, Side::Past, 1, {.start = "Jan - 2000", .stop = "Mar - 2000", .cost = "$0.50"});
-  EXPECT_EQ(Lines(ParametersInPeriodDoc(ws, Side::Past, 1)).at(5), "Excess Beantoll: $.00");
+  EXPECT_EQ(Lines(ParametersInPeriodDoc(ws.Of(Side::Past), 1)).at(5), "Excess Beantoll: $.00");
 }
 
 TEST_F(DocTextTest, HeaderNeedsAPeriodThatIsSetAndEnabled) {
   SinWorkspace& ws = world.At("Smoking");
-  EXPECT_EQ(ParametersInPeriodDoc(ws, Side::Past, 1), "");
+  EXPECT_EQ(ParametersInPeriodDoc(ws.Of(Side::Past), 1), "");
   Write(ws, Side::Past, 1, {.start = "Jan - 2000", .stop = "Mar - 2000", .enabled = false});
-  EXPECT_EQ(ParametersInPeriodDoc(ws, Side::Past, 1), "");
+  EXPECT_EQ(ParametersInPeriodDoc(ws.Of(Side::Past), 1), "");
 }
 
 TEST_F(DocTextTest, TableHeadingOfSmoking) {
@@ -208,7 +209,7 @@ TEST_F(DocTextTest, IndexIsResetInEveryRunTheTotalsOnDemand) {
   Write(ws, Side::Future, 1, {"Jan - 2000", "Jan - 2000"});
   ws.CurrentIndexSub = 50;
   ws.CurrentCumulativeCost = 1000;
-  DocText(ws, Side::Future, false, false, ws.CurrentIndexSub, SideIndex(2));
+  DocText(ws.Of(Side::Future), false, false, ws.CurrentIndexSub, SideIndex(2));
   EXPECT_EQ(ws.CurrentIndexSub, 1);
   EXPECT_NEAR(ws.CurrentCumulativeCost, 1060.84, 1e-9);
 }
@@ -224,10 +225,10 @@ TEST_F(DocTextTest, EuroShowsAsALetter) {
                  "2.00",
          .reasonable = "\x80"
                        "0.50"});
-  EXPECT_EQ(Lines(ParametersInPeriodDoc(ws, Side::Past, 1)).at(3),
+  EXPECT_EQ(Lines(ParametersInPeriodDoc(ws.Of(Side::Past), 1)).at(3),
             "Initial Beantoll at Start Coffee Drinking  Date: \x80"
             "2.00");
-  EXPECT_EQ(Lines(ParametersInPeriodDoc(ws, Side::Past, 1)).at(5), "Excess Beantoll: e1.50");
+  EXPECT_EQ(Lines(ParametersInPeriodDoc(ws.Of(Side::Past), 1)).at(5), "Excess Beantoll: e1.50");
   EXPECT_EQ(Trimmed(Months(ws, Side::Past, false).at(0)),
             (Texts{"1", "1", "Jan - 2000", "3.00", "e2.00", "e0.50", "e1.50", "e136.89", "e138.26", "e137",
                    "e138"}));
@@ -296,8 +297,8 @@ TEST_F(DocTextTest, TableLinesHaveTheCellsOfTheGrid) {
   for (const SinRow& sin : Catalogue()) {
     SinWorkspace& ws = world.Switch(sin.key);
     Write(ws, Side::Past, 1, {"Jan - 2000", "Jan - 2000", "12%", "0%", "$15.00"});
-    BuildSpdRows(ws, Side::Past, world.Spd().Rows(), true, true, ws.CurrentIndexSub,
-                 ws.SideIndex(Side::Past));
+    BuildSpdRows(ws.Of(Side::Past), world.Spd().Rows(), true, true, ws.CurrentIndexSub,
+                 ws.Of(Side::Past).Index());
     EXPECT_EQ(Trimmed(Months(ws, Side::Past, false).at(0)).size(),
               Trimmed(world.Spd().Rows().RowText(1)).size())
         << sin.key;

@@ -102,7 +102,7 @@ TEST_F(MonthReportTest, AskingForAReportChangesNothing) {
   for (Side side : kSides) ws.Of(side).txtResultsTotal->SetText("$61");
   ws.Of(Side::Past).txtCumulativeResultsPeriod(1).SetText("$61");
   Grid& grid = world.Spd().Rows();
-  BuildSpdRows(ws, Side::Past, grid, true, true, ws.CurrentIndexSub, ws.SideIndex(Side::Past));
+  BuildSpdRows(ws.Of(Side::Past), grid, true, true, ws.CurrentIndexSub, ws.Of(Side::Past).Index());
   ws.FuturePast_Flag = kShowsPast;
   const std::string row(grid.RowText(1));
 
@@ -114,7 +114,7 @@ TEST_F(MonthReportTest, AskingForAReportChangesNothing) {
   EXPECT_NEAR(ws.CurrentCumulativeCost, 60.84, 1e-9);
   EXPECT_NEAR(ws.CurrentCumulativeCostWithInterest, 61.4484, 1e-9);
   EXPECT_EQ(ws.FuturePast_Flag, kShowsPast);
-  EXPECT_EQ(ws.State(Side::Past).BeginManualDate, "");
+  EXPECT_EQ(ws.Of(Side::Past).state.BeginManualDate, "");
   EXPECT_TRUE(world.platform.messages.empty());
 }
 

@@ -165,7 +165,7 @@ TEST_F(ReportWindowsTest, TotalRowsPassThroughTheResultBoxes) {
   EXPECT_EQ(Column(8), (Texts{"$61", "$124", "$186", "$188", "$190", "$282", "$374"}));
   EXPECT_EQ(ws.FuturePast_Flag, 2);
   EXPECT_EQ(ws.CurrentIndexSub, 7);
-  EXPECT_EQ(ws.State(Side::Past).BeginManualDate, "Mar - 2000");
+  EXPECT_EQ(ws.Of(Side::Past).state.BeginManualDate, "Mar - 2000");
   EXPECT_TRUE(Spd().Shown());
   EXPECT_EQ(EnabledCount(ws), 5);
 }
@@ -206,7 +206,7 @@ TEST_F(ReportWindowsTest, TotalOfTheFutureAloneGoesOnFromWhatStands) {
 // A total without a period that counts is as good as none.
 TEST_F(ReportWindowsTest, SideWithoutACountedPeriodIsLeftOut) {
   SinWorkspace& ws = BothSides();
-  ws.Record(Side::Past, 1).PeriodEnabled = false;
+  ws.Of(Side::Past).Record(1).PeriodEnabled = false;
   Press(ws.cmdAdvResultsDocSummaryTot);
   EXPECT_EQ(Lines(Text().Text()).at(0), "Future Period 1 Set and Enabled and has the following Parmeters:");
   EXPECT_EQ(Lines(Text().Text()).size(), 9u + 6 + 2);
@@ -306,7 +306,7 @@ TEST_F(ReportWindowsTest, LayoutSwitchOfJailTimeShowsSloth) {
   Layout("Opt_Doc");
   EXPECT_EQ(Lines(Text().Text()).at(1), "Start Slothing Date for Period is: Jan - 2000");
   // What counts is read from jail time: without its period only sloth's header is left.
-  jail.Record(Side::Past, 1).PeriodEnabled = false;
+  jail.Of(Side::Past).Record(1).PeriodEnabled = false;
   Layout("Opt_Doc");
   EXPECT_EQ(Lines(Text().Text()).size(), 7u);
 }

@@ -28,8 +28,8 @@ class ReportWorld : public Workspaces, public ReportWindows {
     auto& slot = workspaces_.at(position);
     if (slot == nullptr) {
       slot = std::make_unique<SinWorkspace>(session, position);
-      LoadParameters(*slot, Side::Past);
-      LoadParameters(*slot, Side::Future);
+      LoadParameters(slot->Of(Side::Past));
+      LoadParameters(slot->Of(Side::Future));
       ConnectReports(*slot, *this, *this);
     }
     return *slot;
@@ -72,7 +72,7 @@ struct TestPeriod {
 };
 
 inline PeriodRecord& Write(SinWorkspace& ws, Side side, int p, const TestPeriod& period) {
-  PeriodRecord& record = ws.Record(side, p);
+  PeriodRecord& record = ws.Of(side).Record(p);
   record.PeriodSet = true;
   record.PeriodEnabled = period.enabled;
   record.StartLabel = period.start;

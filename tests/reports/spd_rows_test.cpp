@@ -17,7 +17,7 @@ class SpdRowsTest : public ::testing::Test {
   Grid& Rows() { return world.Spd().Rows(); }
 
   void Build(SinWorkspace& ws, Side side) {
-    BuildSpdRows(ws, side, Rows(), true, true, ws.CurrentIndexSub, ws.SideIndex(side));
+    BuildSpdRows(ws.Of(side), Rows(), true, true, ws.CurrentIndexSub, ws.Of(side).Index());
   }
 
   Cells RowCells(int row) { return Trimmed(Rows().RowText(row)); }
@@ -201,9 +201,9 @@ TEST_F(SpdRowsTest, PeriodNotSetMovesNothing) {
   SinWorkspace& ws = world.At("Smoking");
   std::int16_t index = 7;
   ws.CurrentCumulativeCost = 5;
-  ParametersForMonthInPeriodSpd(ws, Side::Past, Rows(), 1, index, 100, 200);
-  ParametersForMonthInPeriodSpdBetweenPeriods(ws, Side::Past, Rows(), false, 1, index, 100, 200, "Jan - 2000",
-                                              "Dec - 2000");
+  ParametersForMonthInPeriodSpd(ws.Of(Side::Past), Rows(), 1, index, 100, 200);
+  ParametersForMonthInPeriodSpdBetweenPeriods(ws.Of(Side::Past), Rows(), false, 1, index, 100, 200,
+                                              "Jan - 2000", "Dec - 2000");
   EXPECT_EQ(index, 7);
   EXPECT_EQ(ws.CurrentCumulativeCost, 5);
   EXPECT_EQ(Rows().RowCount(), 0);
@@ -213,7 +213,7 @@ TEST_F(SpdRowsTest, MonthOperationCarriesOnFromWhatItIsGiven) {
   SinWorkspace& ws = world.At("Smoking");
   Write(ws, Side::Past, 1, {"Jan - 2000", "Jan - 2000"});
   std::int16_t index = 41;
-  ParametersForMonthInPeriodSpd(ws, Side::Past, Rows(), 1, index, 100, 200);
+  ParametersForMonthInPeriodSpd(ws.Of(Side::Past), Rows(), 1, index, 100, 200);
   EXPECT_EQ(index, 42);
   EXPECT_NEAR(ws.CurrentCumulativeCost, 160.84, 1e-9);
   EXPECT_NEAR(ws.CurrentCumulativeCostWithInterest, 260.84 * 1.01, 1e-9);
@@ -227,7 +227,7 @@ TEST_F(SpdRowsTest, IndexBeyond16BitsIsAFault) {
   Write(ws, Side::Past, 1, {"Jan - 2000", "Mar - 2000"});
   std::int16_t index = 32765;
   try {
-    ParametersForMonthInPeriodSpd(ws, Side::Past, Rows(), 1, index, 0, 0);
+    ParametersForMonthInPeriodSpd(ws.Of(Side::Past), Rows(), 1, index, 0, 0);
     FAIL() << "no fault";
   } catch (const Fault& fault) {
     EXPECT_EQ(fault.Kind(), FaultKind::Overflow);
@@ -342,7 +342,7 @@ TEST_F(SpdRowsTest, CountedPeriodsAreReadUnderTheGivenNumber) {
   Write(ws, Side::Past, 2, {"Mar - 2000", "Mar - 2000"});
   world.session.store.At(1, SideIndex(3)).PeriodEnabled = false;
   world.session.store.At(2, SideIndex(3)).PeriodEnabled = true;
-  BuildSpdRows(ws, Side::Past, Rows(), true, true, ws.CurrentIndexSub, SideIndex(3));
+  BuildSpdRows(ws.Of(Side::Past), Rows(), true, true, ws.CurrentIndexSub, SideIndex(3));
   EXPECT_EQ(Column(2), (Cells{"Mar - 2000"}));
 }
 
@@ -354,7 +354,7 @@ TEST_F(SpdRowsTest, GapsAreReadUnderTheGivenNumber) {
   for (int p : {1, 2}) world.session.store.At(p, SideIndex(3)).PeriodEnabled = true;
   world.session.store.At(1, SideIndex(3)).StopLabel = "Jan - 1990";
   world.session.store.At(2, SideIndex(3)).StartLabel = "Mar - 1990";
-  BuildSpdRows(ws, Side::Past, Rows(), true, true, ws.CurrentIndexSub, SideIndex(3));
+  BuildSpdRows(ws.Of(Side::Past), Rows(), true, true, ws.CurrentIndexSub, SideIndex(3));
   EXPECT_EQ(Column(2), (Cells{"Jan - 2000", "Feb - 2000", "Feb - 1990", "Mar - 2000"}));
 }
 
@@ -363,7 +363,7 @@ TEST_F(SpdRowsTest, WithoutClearingTheRowsGoOn) {
   Write(ws, Side::Future, 1, {"Jan - 2000", "Feb - 2000"});
   Build(ws, Side::Future);
   world.Spd().Show();
-  BuildSpdRows(ws, Side::Future, Rows(), false, false, ws.CurrentIndexSub, SideIndex(2));
+  BuildSpdRows(ws.Of(Side::Future), Rows(), false, false, ws.CurrentIndexSub, SideIndex(2));
   EXPECT_EQ(Column(0), (Cells{"1", "2", "3", "4"}));
   EXPECT_EQ(Column(7), (Cells{"$61", "$122", "$183", "$243"}));  // 243.36
   EXPECT_TRUE(world.Spd().Shown());

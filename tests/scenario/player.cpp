@@ -406,15 +406,15 @@ void Player::ShowFields() {
   };
   for (Side side : kSides) {
     const std::string suffix(OperationSuffix(side));
-    add("CurrentPeriod" + suffix, std::to_string(ws.State(side).CurrentPeriod));
-    add("PreviousPeriod" + suffix, std::to_string(ws.State(side).PreviousPeriod));
+    add("CurrentPeriod" + suffix, std::to_string(ws.Of(side).state.CurrentPeriod));
+    add("PreviousPeriod" + suffix, std::to_string(ws.Of(side).state.PreviousPeriod));
   }
   add("FuturePast_Flag", std::to_string(ws.FuturePast_Flag));
   add("CurrentIndexSub", std::to_string(ws.CurrentIndexSub));
   add("CurrentCumulativeCost", Twelve(ws.CurrentCumulativeCost));
   add("CurrentCumulativeCostWithInterest", Twelve(ws.CurrentCumulativeCostWithInterest));
   for (Side side : kSides)
-    add(std::string(OperationSuffix(side)) + "BeginManualDate", Quoted(ws.State(side).BeginManualDate));
+    add(std::string(OperationSuffix(side)) + "BeginManualDate", Quoted(ws.Of(side).state.BeginManualDate));
   for (const auto& [kind, flags] :
        {std::pair("Spd", &ws.cmdAdvResultsSpd_Flag), std::pair("Doc", &ws.cmdAdvResultsDoc_Flag)}) {
     const std::string start = std::string("cmdAdvResults") + kind;

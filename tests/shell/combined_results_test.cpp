@@ -152,8 +152,8 @@ TEST_F(Combined, ExitHidesTheWindowAndKeepsItsTicks) {
 }
 
 TEST_F(Combined, ARowOutsideTheTableIsAFault) {
-  const SideIndex past = run.Smoking().SideIndex(Side::Past);
-  const SideIndex future = run.Smoking().SideIndex(Side::Future);
+  const SideIndex past = run.Smoking().Of(Side::Past).Index();
+  const SideIndex future = run.Smoking().Of(Side::Future).Index();
   for (const int row : {-1, kSinCount})
     EXPECT_EQ(FaultOf([&] { Table().GetIndividualSinValues(run.Smoking(), row, past, future); }),
               FaultKind::Index);

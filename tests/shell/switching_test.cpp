@@ -130,7 +130,7 @@ TEST_F(Switching, ResultsKeepASinFromBeingPreparedAgain) {
   session.SinVisited[11] = false;
   program.Chooser().ShowSinChooser(0);
   program.Chooser().Get<Option>("OptSwitchSins", 11).UserClicks();
-  EXPECT_TRUE(ws.Record(Side::Past, 1).PeriodSet);
+  EXPECT_TRUE(ws.Of(Side::Past).Record(1).PeriodSet);
 }
 
 TEST_F(Switching, ASinMayBeChosenForItself) {

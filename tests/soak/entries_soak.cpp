@@ -49,7 +49,7 @@ void ViewSide(SinWorkspace& ws, Side side, View& view) {
   const SideControls& c = ws.Of(side);
   const std::string place = ws.Name() + "." + std::string(OperationSuffix(side));
   for (int p = 1; p <= kPeriodCount; ++p) {
-    const PeriodRecord& record = ws.Record(side, p);
+    const PeriodRecord& record = ws.Of(side).Record(p);
     const std::string period = place + std::to_string(p);
     view[period] = !record.PeriodSet
                        ? "not set"
@@ -57,11 +57,11 @@ void ViewSide(SinWorkspace& ws, Side side, View& view) {
                              record.StartLabel + " " + record.StopLabel +
                              (record.PeriodEnabled ? " on" : " off") + " " + c.optTimePeriod(p).Caption();
   }
-  if (!ws.Record(side, 1).PeriodSet) return;
+  if (!ws.Of(side).Record(1).PeriodSet) return;
   view[place + " total"] = Shown(*c.txtResultsTotal);
   view[place + " unit"] = c.firstUnit->Value() ? "first" : "second";
   MonthsAsText months;
-  WalkSide(ReportSideOf(ws, side, ws.SideIndex(side)), {}, months);
+  WalkSide(ReportSideOf(ws.Of(side), ws.Of(side).Index()), {}, months);
   view[place + " report"] = months.text.str();
 }
 
@@ -80,7 +80,7 @@ std::string PointsOf(const ChartContents& chart) {
 void ViewSin(SinWorkspace& ws, MonthAndYear present, View& view) {
   for (Side side : kSides) ViewSide(ws, side, view);
   MonthsAsText months;
-  WalkTotal(TotalTermsOf(ws, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future)), {}, months);
+  WalkTotal(TotalTermsOf(ws, ws.Of(Side::Past).Index(), ws.Of(Side::Future).Index()), {}, months);
   view[ws.Name() + ".report"] = months.text.str();
   view[ws.Name() + ".growth"] = PointsOf(GrowthOf(ws, present));
 }
@@ -96,7 +96,7 @@ void ViewTotalTab(const SinWorkspace& ws, View& view) {
     if (list->Enabled()) view[place + list->Name()] = list->Text();
   for (Side side : kSides)
     for (int p = 1; p <= kPeriodCount; ++p)
-      if (ws.Record(side, p).PeriodSet)
+      if (ws.Of(side).Record(p).PeriodSet)
         view[place + std::string(OperationSuffix(side)) + std::to_string(p)] =
             Shown(ws.Of(side).txtResultsPeriod(p + kPeriodCount)) + " " +
             Shown(ws.Of(side).txtCumulativeResultsPeriod(p + kPeriodCount));
@@ -151,7 +151,7 @@ class TwoHands {
     const Side side = ws.SSTab_PastFutureSwitch->Tab() == kFutureTab ? Side::Future : Side::Past;
     const std::string suffix(ControlSuffix(side));
     int set = 0;
-    while (set < kPeriodCount && ws.Record(side, set + 1).PeriodSet) ++set;
+    while (set < kPeriodCount && ws.Of(side).Record(set + 1).PeriodSet) ++set;
     const std::string p = "(" + std::to_string(set == 0 ? 1 : 1 + Below(set)) + ")";
     switch (Below(8)) {
       case 0:

@@ -95,20 +95,20 @@ void Invariants::Before(const UserAction& action) {
 // of the other date. All of these stay behind the period before, except that in a December the whole
 // present year counts as near on the future side and moves the lower end back to its January.
 void Invariants::NoteDates(SinWorkspace& ws, Side side, const UserAction& action) {
-  SideHistory& history = histories_[ws.SideIndex(side).Number()];
+  SideHistory& history = histories_[ws.Of(side).Index().Number()];
   SideControls& c = ws.Of(side);
   const bool fine = c.optFineDateStart->Value() || c.optFineDateStop->Value();
   if (side == Side::Future && action.kind == ActionKind::Tab && action.numbers[0] == kFutureTab &&
-      !ws.Record(side, 1).PeriodSet)
+      !ws.Of(side).Record(1).PeriodSet)
     history = {};
   if (action.kind == ActionKind::Focus && fine &&
       (action.control == WithSuffix("comStart", side) || action.control == WithSuffix("comStop", side)))
-    history.rebuiltFine[ws.State(side).CurrentPeriod] = true;
+    history.rebuiltFine[ws.Of(side).state.CurrentPeriod] = true;
   if (ClicksPeriodControl(action, "optTimePeriod", side)) {
     const int p = action.control[action.control.size() - 2] - '0';
-    const bool seeds = p != 1 && p > ws.State(side).PreviousPeriod && ws.Record(side, p).PeriodFresh;
+    const bool seeds = p != 1 && p > ws.Of(side).state.PreviousPeriod && ws.Of(side).Record(p).PeriodFresh;
     if (seeds) {
-      const std::string& previousStop = ws.Record(side, p - 1).StopLabel;
+      const std::string& previousStop = ws.Of(side).Record(p - 1).StopLabel;
       const bool atTheEnd =
           side == Side::Future && MonthsBetween(previousStop, Present(ws.GetSession()).Label(1, 75)) <= 0;
       history.seededLoose[p] = fine || atTheEnd;
@@ -135,9 +135,9 @@ std::optional<Violation> Invariants::After(const UserAction& action) {
 }
 
 void Invariants::NoteEvaluation(SinWorkspace& ws, Side side, const UserAction& action) {
-  SideHistory& history = histories_[ws.SideIndex(side).Number()];
-  if (Presses(action, side) && ws.Record(side, 1).PeriodSet) history.evaluated = Evaluated::ByPress;
-  if (!ClicksRadio(action, side) || !ws.Record(side, 1).PeriodSet) return;
+  SideHistory& history = histories_[ws.Of(side).Index().Number()];
+  if (Presses(action, side) && ws.Of(side).Record(1).PeriodSet) history.evaluated = Evaluated::ByPress;
+  if (!ClicksRadio(action, side) || !ws.Of(side).Record(1).PeriodSet) return;
   for (int p = 1; p <= kPeriodCount; ++p)
     if (ws.Of(side).rbnEnabledPeriod(p).Value() != radios_[p]) history.evaluated = Evaluated::ByRadio;
 }
@@ -197,9 +197,9 @@ void Invariants::CheckFront() {
 // The periods set are the first ones of their side, and their options say so.
 void Invariants::CheckPeriods(SinWorkspace& ws, Side side) {
   for (int p = 1; p <= kPeriodCount; ++p) {
-    const PeriodRecord& record = ws.Record(side, p);
+    const PeriodRecord& record = ws.Of(side).Record(p);
     const std::string which = ws.Name() + " " + WithSuffix("period ", side) + " " + std::to_string(p);
-    if (p > 1 && record.PeriodSet && !ws.Record(side, p - 1).PeriodSet) Fail("periods set", which);
+    if (p > 1 && record.PeriodSet && !ws.Of(side).Record(p - 1).PeriodSet) Fail("periods set", which);
     const Option& option = ws.Of(side).optTimePeriod(p);
     if (record.PeriodSet != (option.Colour() == kGreen)) Fail("period colour", which);
     if (record.PeriodSet && !option.Enabled()) Fail("period option", which);
@@ -207,17 +207,17 @@ void Invariants::CheckPeriods(SinWorkspace& ws, Side side) {
 }
 
 void Invariants::CheckDates(SinWorkspace& ws, Side side) {
-  const SideHistory& history = histories_[ws.SideIndex(side).Number()];
+  const SideHistory& history = histories_[ws.Of(side).Index().Number()];
   const bool december = side == Side::Future && Present(ws.GetSession()).M == 12;
-  for (int p = 1; p <= kPeriodCount && ws.Record(side, p).PeriodSet; ++p) {
-    const PeriodRecord& record = ws.Record(side, p);
+  for (int p = 1; p <= kPeriodCount && ws.Of(side).Record(p).PeriodSet; ++p) {
+    const PeriodRecord& record = ws.Of(side).Record(p);
     const std::string dates = ws.Name() + " " + WithSuffix("period ", side) + " " + std::to_string(p) + ": " +
                               record.StartLabel + " to " + record.StopLabel;
     const bool mayTurn = history.seededLoose[p] || history.rebuiltFine[p];
     const bool mayOverlap = history.seededLoose[p] || (december && history.rebuiltFine[p]);
     if (!mayTurn && MonthsBetween(record.StartLabel, record.StopLabel) < 0) Fail("start after stop", dates);
     if (p == 1 || mayOverlap) continue;
-    const std::string& previousStop = ws.Record(side, p - 1).StopLabel;
+    const std::string& previousStop = ws.Of(side).Record(p - 1).StopLabel;
     for (const std::string& date : {record.StartLabel, record.StopLabel})
       if (MonthsBetween(previousStop, date) <= 0) Fail("overlap", dates + " after " + previousStop);
   }
@@ -225,7 +225,7 @@ void Invariants::CheckDates(SinWorkspace& ws, Side side) {
 
 // A press adds all four boxes, disabled periods too; a radio adds what it leaves to be seen.
 void Invariants::CheckTotal(SinWorkspace& ws, Side side) {
-  const Evaluated evaluated = histories_[ws.SideIndex(side).Number()].evaluated;
+  const Evaluated evaluated = histories_[ws.Of(side).Index().Number()].evaluated;
   if (evaluated == Evaluated::Never) return;
   const SideControls& c = ws.Of(side);
   double sum = 0;
@@ -234,7 +234,7 @@ void Invariants::CheckTotal(SinWorkspace& ws, Side side) {
     const TextBox& box = c.txtResultsPeriod(p);
     if (evaluated == Evaluated::ByPress || box.Enabled()) sum += MoneyToNumber(box.Text());
     // A press also clears what is not set.
-    if (evaluated == Evaluated::ByPress && !ws.Record(side, p).PeriodSet &&
+    if (evaluated == Evaluated::ByPress && !ws.Of(side).Record(p).PeriodSet &&
         (box.Text() != "0" || c.txtCumulativeResultsPeriod(p).Text() != "0"))
       Fail("closed period", ws.Name() + " " + box.FullName() + " " + box.Text());
   }

@@ -142,7 +142,7 @@ Walk WalkOf(std::uint64_t seed, const Options& options) {
   if (well && !session.GetProgram().Ended() && perform(PressesOfTheEnd(session.GetProgram()))) {
     SinWorkspace& ws = session.GetProgram().Current();
     for (Side side : kSides)
-      if (!ws.Record(side, ws.State(side).CurrentPeriod).PeriodSet)
+      if (!ws.Of(side).Record(ws.Of(side).state.CurrentPeriod).PeriodSet)
         walk.wrong = Violation{"press", ws.Name() + ": a press at the end sets no period"};
   }
   if (session.Wrong()) walk.wrong = session.Wrong();

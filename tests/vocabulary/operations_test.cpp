@@ -120,19 +120,19 @@ TEST_F(Operations, BearTheKeyAndTheStemOfTheirSin) {
       Call(ws, "LabelMaker" + stem + suffix, {"2"});
       EXPECT_EQ(c.frmRates->Caption(), std::string(PeriodPrefix(side)) + "2: Savings and Inflation Rates");
       Call(ws, "SetPeriodParameters" + key + name, {"3"});
-      EXPECT_TRUE(ws.Record(side, 3).PeriodSelected);
+      EXPECT_TRUE(ws.Of(side).Record(3).PeriodSelected);
       c.comInterestRate1->SetText("9%");
       Call(ws, "Set" + key + "Parameters" + name, {"4"});
-      EXPECT_EQ(ws.Record(side, 4).InterestRateText, "9%");
+      EXPECT_EQ(ws.Of(side).Record(4).InterestRateText, "9%");
       Call(ws, "Get" + key + "Parameters" + name, {"1"});
       EXPECT_EQ(c.comInterestRate1->Text(), "5%");
       Call(ws, "CommitPeriod" + name, {"1", std::to_string(2 * i + (side == Side::Past ? 1 : 2))});
-      EXPECT_TRUE(ws.Record(side, 1).PeriodSet);
+      EXPECT_TRUE(ws.Of(side).Record(1).PeriodSet);
       EXPECT_NE(c.txtResultsTotal->Text(), "");
       Call(ws, "Load" + key + "Parameters" + name);
-      EXPECT_FALSE(ws.Record(side, 1).PeriodSet);
+      EXPECT_FALSE(ws.Of(side).Record(1).PeriodSet);
       Call(ws, "Initialize" + key + "Parameters" + name);
-      EXPECT_EQ(ws.Record(side, 4).InterestRateText, "5%");
+      EXPECT_EQ(ws.Of(side).Record(4).InterestRateText, "5%");
     }
     Call(ws, "Load" + key + "ParametersInitialFuture");
     // Another sin's names are not this one's.
@@ -149,8 +149,8 @@ TEST_F(Operations, ActOnTheSideOfTheirName) {
   EXPECT_EQ(ws.Of(Side::Future).frmRates->Caption(), "Future Period 3: Savings and Inflation Rates");
   EXPECT_EQ(ws.Of(Side::Past).frmRates->Caption(), "Past Period 1: Savings and Inflation Rates");
   Call(ws, "SetPeriodParametersDrinkingPast", {"4"});
-  EXPECT_TRUE(ws.Record(Side::Past, 4).PeriodSelected);
-  EXPECT_FALSE(ws.Record(Side::Future, 4).PeriodSelected);
+  EXPECT_TRUE(ws.Of(Side::Past).Record(4).PeriodSelected);
+  EXPECT_FALSE(ws.Of(Side::Future).Record(4).PeriodSelected);
 }
 
 // The total of a period has two names, and in the flat-rate sins two others. What they give stands in the
@@ -184,7 +184,7 @@ TEST_F(Operations, TheFutureTotalOfJailingKnowsNoIncrease) {
     EXPECT_DOUBLE_EQ(std::get<double>(Call(ws, name, {"1", "12", "1"})),
                      side == Side::Past ? 2443.74 : 2433.6);
     // The period's own cost knows it on both sides.
-    ws.Record(side, 1).StopLabel = ws.Record(side, 1).StartLabel;
+    ws.Of(side).Record(1).StopLabel = ws.Of(side).Record(1).StartLabel;
     EXPECT_DOUBLE_EQ(std::get<double>(Call(ws, "CostInPeriod" + std::string(OperationSuffix(side)), {"1"})),
                      2443.74);
   }

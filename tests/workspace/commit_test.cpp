@@ -95,7 +95,7 @@ TEST_P(Committing, TheFirstPressShowsOnePeriod) {
   ExpectClosed(3);
   ExpectClosed(4);
   EXPECT_FALSE(c.cmdSetPeriodParams->Enabled());
-  EXPECT_EQ(ws.State(side).CurrentPeriod, 1);
+  EXPECT_EQ(ws.Of(side).state.CurrentPeriod, 1);
 }
 
 TEST_P(Committing, FourPeriodsAddUp) {
@@ -146,7 +146,7 @@ TEST_P(Committing, MakesLaterPeriodsFreshAgain) {
                                       {false, false, false, false}};
   for (int count = 1; count <= 4; ++count) {
     for (int p = 1; p <= 4; ++p) Record(p).PeriodFresh = false;
-    CommitPeriod(ws, side, static_cast<std::int16_t>(count), ws.SideIndex(side));
+    CommitPeriod(ws.Of(side), static_cast<std::int16_t>(count), ws.Of(side).Index());
     EXPECT_EQ(Fresh(), kAfter[count]) << count;
   }
 }
@@ -185,8 +185,8 @@ TEST_P(Committing, TheFirstStepForwardSeedsThePeriod) {
   EXPECT_EQ(c.comStart->Text(), "Mar - 2015");
   EXPECT_EQ(c.comInterestRate1->Text(), "9%");
   EXPECT_EQ(c.quantity->Text(), "$300");
-  EXPECT_EQ(ws.State(side).CurrentPeriod, 2);
-  EXPECT_EQ(ws.State(side).PreviousPeriod, 2);
+  EXPECT_EQ(ws.Of(side).state.CurrentPeriod, 2);
+  EXPECT_EQ(ws.Of(side).state.PreviousPeriod, 2);
   EXPECT_TRUE(c.cmdSetPeriodParams->Enabled());
   EXPECT_EQ(c.cmdSetPeriodParams->Caption(), "Set " + std::string(PeriodPrefix(side)) + "2 Parameters");
 }
@@ -209,12 +209,12 @@ TEST_P(Committing, StepsBackAndForthShowWhatIsStored) {
 // A reset of the dates leaves the previous period behind: the step to 2 is then one back.
 TEST_P(Committing, AStepBackSeedsNothing) {
   CommitPeriods(1);
-  ws.State(side).PreviousPeriod = 3;
+  ws.Of(side).state.PreviousPeriod = 3;
   const std::string start = Record(2).StartLabel;
   run.GoTo(ws, side, 2);
   EXPECT_EQ(Record(2).StartLabel, start);
   EXPECT_TRUE(Record(2).PeriodFresh);
-  EXPECT_EQ(ws.State(side).PreviousPeriod, 2);
+  EXPECT_EQ(ws.Of(side).state.PreviousPeriod, 2);
 }
 
 TEST_P(Committing, AnEarlierPressMakesTheStepSeedAgain) {

@@ -122,19 +122,19 @@ TEST(FineDates, OfferAboutAYearAsFarAsAllowed) {
     SCOPED_TRACE(testing::Message() << fine.why << ": " << fine.thisDate << ' '
                                     << OperationSuffix(fine.side));
     RunningProgram run(fine.now);
-    SinWorkspace& ws = run.Smoking();
-    ws.State(fine.side).CurrentPeriod = static_cast<std::int16_t>(fine.period);
-    DropDownList& list = *ws.Of(fine.side).comStart;
+    WorkspaceSide& side = run.Smoking().Of(fine.side);
+    side.state.CurrentPeriod = fine.period;
+    DropDownList& list = *side.comStart;
     list.SetText(fine.thisDate);
     switch (fine.rule) {
       case Rule::Between:
-        FineBetween(ws, fine.side, list, fine.thisDate, fine.otherDate, fine.previousStop);
+        FineBetween(side, list, fine.thisDate, fine.otherDate, fine.previousStop);
         break;
       case Rule::Start:
-        FineStart(ws, fine.side, list, fine.thisDate, fine.previousStop);
+        FineStart(side, list, fine.thisDate, fine.previousStop);
         break;
       case Rule::Stop:
-        FineStop(ws, fine.side, list, fine.thisDate);
+        FineStop(side, list, fine.thisDate);
         break;
     }
     EXPECT_EQ(list.Entry(0), fine.first);
@@ -333,11 +333,11 @@ TEST_P(DateLists, AResetLeavesStoreAndPastPeriod) {
   run.GoTo(ws, side, 2);
   run.Commit(ws, side, "Feb - 2010", "Feb - 2012");
   run.Click(c.rbnDisabledPeriod(1));
-  ws.State(Side::Future).CurrentPeriod = 2;
-  ws.State(Side::Past).CurrentPeriod = 2;
-  ResetDateLists(ws, side);
-  EXPECT_EQ(ws.State(Side::Future).CurrentPeriod, 1);
-  EXPECT_EQ(ws.State(Side::Past).CurrentPeriod, 2);
+  ws.Of(Side::Future).state.CurrentPeriod = 2;
+  ws.Of(Side::Past).state.CurrentPeriod = 2;
+  ResetDateLists(ws.Of(side));
+  EXPECT_EQ(ws.Of(Side::Future).state.CurrentPeriod, 1);
+  EXPECT_EQ(ws.Of(Side::Past).state.CurrentPeriod, 2);
   EXPECT_TRUE(c.optFineDateStart->Value() && c.optFineDateStop->Value());
   EXPECT_FALSE(c.optCourseDateStart->Value() || c.optCourseDateStop->Value());
   for (int p = 1; p <= 4; ++p) {
@@ -356,7 +356,7 @@ TEST_P(DateLists, TheNextPeriodBeginsOneMonthLongBehindThePreviousOne) {
   for (const auto& [stop, next] :
        {std::pair("Mar - 2020", "Apr - 2020"), std::pair("Dec - 2020", "Jan - 2021")}) {
     Record(1).StopLabel = stop;
-    PrepareNextPeriodDates(ws, side, 2, ws.SideIndex(side));
+    PrepareNextPeriodDates(ws.Of(side), 2, ws.Of(side).Index());
     for (const DropDownList* list : {c.comStart, c.comStop}) {
       EXPECT_EQ(list->Text(), next);
       EXPECT_EQ(list->Position(), 0);
@@ -373,7 +373,7 @@ TEST(DecemberDates, BeginTheFutureInTheJanuaryBehind) {
   SinWorkspace& ws = run.Enter("Smoking", Side::Future);
   SideControls& c = ws.Of(Side::Future);
   EXPECT_EQ(c.comStart->Text(), "Jan - 2026");
-  FineStart(ws, Side::Future, *c.comStart, "Mar - 2026", "Jun - 1915");
+  FineStart(ws.Of(Side::Future), *c.comStart, "Mar - 2026", "Jun - 1915");
   EXPECT_EQ(c.comStart->Entry(0), "Jan - 2026");
   EXPECT_EQ(run.platform.messages.size(), 0u);
 }

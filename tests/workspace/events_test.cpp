@@ -36,8 +36,8 @@ TEST_P(SideEvents, APickAloneOpensNothing) {
 
 TEST_P(SideEvents, TheTabsMoveTheSideInFront) {
   Session& session = run.program.GetSession();
-  const SideIndex own = ws.SideIndex(side);
-  const SideIndex other = ws.SideIndex(side == Side::Past ? Side::Future : Side::Past);
+  const SideIndex own = ws.Of(side).Index();
+  const SideIndex other = ws.Of(side == Side::Past ? Side::Future : Side::Past).Index();
   EXPECT_EQ(session.CurrentSinNumber, own);
   run.OpenTab(ws, kTotalTab);
   EXPECT_EQ(session.CurrentSinNumber, own);  // the total has no side

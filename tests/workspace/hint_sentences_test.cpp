@@ -14,7 +14,7 @@ class Hints : public testing::Test {
 
   // One pack a day at two dollars, without interest: 60.84 a month, 182.52 in three.
   void CommitAtTwoDollars(int period, std::string_view start, std::string_view stop) {
-    if (period != ws.State(Side::Past).CurrentPeriod) run.GoTo(ws, Side::Past, period);
+    if (period != ws.Of(Side::Past).state.CurrentPeriod) run.GoTo(ws, Side::Past, period);
     run.Pick(*past.comInitialCost, "$2.00");
     run.Pick(*past.comPercentIncrease, "0%");
     run.Pick(*past.comInterestRate1, "0%");
@@ -102,9 +102,9 @@ TEST_F(Hints, TellWhichDateAListHasMoved) {
 }
 
 TEST_F(Hints, TellBothDatesThatMoved) {
-  EXPECT_EQ(DatesMoved(ws, Side::Past, past.comStart->Text(), past.comStop->Text()), "");
+  EXPECT_EQ(DatesMoved(ws.Of(Side::Past), past.comStart->Text(), past.comStop->Text()), "");
   run.Click(*past.optFineDateStop);
-  EXPECT_EQ(DatesMoved(ws, Side::Past, "Feb - 2017", "Feb - 2018"),
+  EXPECT_EQ(DatesMoved(ws.Of(Side::Past), "Feb - 2017", "Feb - 2018"),
             "The start list shows whole years; Feb - 2017 is not among them, it now shows Jun - 2016; "
             "the stop list shows single months; Feb - 2018 is not among them, it now shows Jun - 2026");
 }

@@ -62,8 +62,8 @@ TEST_P(Loading, StoresTheDefaultsOfThePeriods) {
 }
 
 TEST_P(Loading, OpensTheFirstPeriodAndNoResults) {
-  EXPECT_EQ(ws.State(side).CurrentPeriod, 1);
-  EXPECT_EQ(ws.State(side).PreviousPeriod, 1);
+  EXPECT_EQ(ws.Of(side).state.CurrentPeriod, 1);
+  EXPECT_EQ(ws.Of(side).state.PreviousPeriod, 1);
   EXPECT_TRUE(ws.SSTab_PastFutureSwitch->Enabled());
   EXPECT_TRUE(c.cmdSetPeriodParams->Enabled());
   EXPECT_TRUE(c.quantity->Enabled() && c.quantity->Visible());
@@ -100,7 +100,7 @@ TEST_P(Loading, TitlesTheFrames) {
 
 TEST_P(Loading, LabelsFollowThePeriod) {
   for (std::int16_t period = 1; period <= 4; ++period) {
-    LabelMaker(ws, side, period);
+    LabelMaker(ws.Of(side), period);
     const std::string start = std::string(PeriodPrefix(side)) + std::to_string(period);
     EXPECT_EQ(c.frmSetStart->Caption(), start + std::string(sin.startSuffix[side]));
     EXPECT_EQ(c.frmSetStop->Caption(), start + std::string(sin.stopSuffix[side]));
@@ -116,7 +116,7 @@ TEST_P(Loading, ARepeatedLoadAppendsAllEntriesAndSelectsTheFirstCopies) {
   for (const DropDownList* list : ValueLists()) before.emplace_back(list->Position(), StateOf(*list));
   std::vector<int> counts;
   for (const DropDownList* list : ValueLists()) counts.push_back(list->Count());
-  LoadParameters(ws, side);
+  LoadParameters(ws.Of(side));
   for (std::size_t i = 0; i < before.size(); ++i) {
     const DropDownList& list = *ValueLists()[i];
     EXPECT_EQ(list.Count(), 2 * counts[i]) << list.FullName();
@@ -136,7 +136,7 @@ TEST_P(Loading, ARepeatedLoadPutsTheOptionsBack) {
   const std::string unitLabel = c.quantityLabel->Caption();
   run.Click(other);
   ASSERT_FALSE(start.Value());
-  LoadParameters(ws, side);
+  LoadParameters(ws.Of(side));
   EXPECT_TRUE(start.Value());
   EXPECT_EQ(c.quantityLabel->Caption(), unitLabel);
   DropDownList& expected = ws.Add<DropDownList>({"expected"});
@@ -151,7 +151,7 @@ TEST_P(Loading, ARepeatedLoadPutsTheReasonableCostsBack) {
   if (c.comSubCost == nullptr) return;
   run.Pick(*c.comInitialCost, "$0.50");
   ASSERT_EQ(c.comSubCost->Count(), 10);
-  LoadParameters(ws, side);
+  LoadParameters(ws.Of(side));
   DropDownList& expected = ws.Add<DropDownList>({"expected"});
   for (int copy = 1; copy <= 2; ++copy) AppendEntries(ws, expected, sin.secondCostList);
   EXPECT_EQ(c.comSubCost->Entries().All(), expected.Entries().All());
@@ -162,7 +162,7 @@ TEST_P(Loading, ARepeatedLoadPutsTheReasonableCostsBack) {
 TEST_P(Loading, ARepeatedLoadPutsTheCostModeBack) {
   if (!HasCostModes(sin.costClass)) return;
   run.Click(*c.OptCigInitialFinalCostIncrease);
-  LoadParameters(ws, side);
+  LoadParameters(ws.Of(side));
   EXPECT_TRUE(c.OptCigPercentCostIncrease->Value());
   EXPECT_EQ(c.costLabel->Caption(), sin.costLabelPercent);
   EXPECT_EQ(c.percentLabel->Caption(), sin.percentLabelPercent);
@@ -174,7 +174,7 @@ TEST_P(Loading, ARepeatedLoadPutsTheCostModeBack) {
 TEST_P(Loading, ALoadThrowsACommittedSideAway) {
   run.Press(ws, side);
   ASSERT_TRUE(Record(1).PeriodSet);
-  LoadParameters(ws, side);
+  LoadParameters(ws.Of(side));
   EXPECT_FALSE(Record(1).PeriodSet);
   EXPECT_FALSE(c.txtResultsPeriod(1).Visible());
   EXPECT_FALSE(c.optTimePeriod(2).Enabled());
@@ -250,7 +250,7 @@ TEST(LoadingDates, ThePastEndsInThePresentMonth) {
       EXPECT_EQ(list->Entry(90), Label(month, 2026));
     }
     for (int p = 2; p <= 4; ++p) {
-      const PeriodRecord& record = ws.Record(Side::Past, p);
+      const PeriodRecord& record = ws.Of(Side::Past).Record(p);
       EXPECT_EQ(record.StartLabel, Label(month, 2026));
       EXPECT_EQ(record.StopLabel, Label(month, 2026));
       EXPECT_EQ(record.StartListFirst, Label(month, 1936));
@@ -276,7 +276,7 @@ TEST(LoadingDates, TheFutureBeginsInTheNextMonth) {
       EXPECT_EQ(list->Entry(75), Label(next, 2101));
     }
     for (int p = 2; p <= 4; ++p) {
-      const PeriodRecord& record = ws.Record(Side::Future, p);
+      const PeriodRecord& record = ws.Of(Side::Future).Record(p);
       EXPECT_EQ(record.StartLabel, Label(next, 2026));
       EXPECT_EQ(record.StopLabel, Label(next, 2026));
       EXPECT_EQ(record.StartListFirst, Label(next, 2026));
@@ -289,13 +289,13 @@ TEST(LoadingDates, TheFutureBeginsInTheNextMonth) {
 TEST(LoadingDates, TheFirstListsAreShort) {
   RunningProgram run;
   SinWorkspace& ws = run.Smoking();
-  InitializeDates(ws, Side::Past, SideIndex(1));
+  InitializeDates(ws.Of(Side::Past), SideIndex(1));
   const SideControls& past = ws.Of(Side::Past);
   EXPECT_EQ(past.comStart->Entry(0), "Jan - 1936");
   EXPECT_EQ(past.comStart->Entry(past.comStart->Count() - 1), "Jun - 2016");
   EXPECT_EQ(past.comStart->Text(), "Jun - 2016");
   EXPECT_EQ(past.comStop->Entries().All(), std::vector<std::string>{"Jun - 2026"});
-  InitializeDates(ws, Side::Future, SideIndex(2));
+  InitializeDates(ws.Of(Side::Future), SideIndex(2));
   const SideControls& future = ws.Of(Side::Future);
   EXPECT_EQ(future.comStart->Entries().All(), std::vector<std::string>{"Jul - 2026"});
   EXPECT_EQ(future.comStop->Entry(0), "Jul - 2036");

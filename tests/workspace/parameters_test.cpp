@@ -33,7 +33,7 @@ TEST_P(DateMovers, SaveTheEndsOfCoarseLists) {
       c.comStop->SetText("Feb - 2015");
       (startCoarse ? c.optCourseDateStart : c.optFineDateStart)->SetValue(true);
       (stopCoarse ? c.optCourseDateStop : c.optFineDateStop)->SetValue(true);
-      SetParameters(ws, side, 1);
+      SetParameters(ws.Of(side), 1);
       SCOPED_TRACE(testing::Message() << "start coarse " << startCoarse << ", stop coarse " << stopCoarse);
       EXPECT_EQ(record.StartLabel, "Mar - 2012");
       EXPECT_EQ(record.StopLabel, "Feb - 2015");
@@ -55,7 +55,7 @@ TEST_P(DateMovers, AMonthChosenInFineModeShowsAsTheFirstEntryAndStays) {
   record.StartListLast = record.StopListLast = "Jan - 2020";
   record.StartLabel = "Mar - 2012";
   record.StopLabel = "Jan - 2015";
-  GetParameters(ws, side, 1);
+  GetParameters(ws.Of(side), 1);
   EXPECT_EQ(c.comStart->Text(), "Jan - 2010");
   EXPECT_EQ(c.comStop->Text(), "Jan - 2015");
   EXPECT_EQ(record.StartLabel, "Mar - 2012");
@@ -68,7 +68,7 @@ TEST_P(DateMovers, AStopThatIsNoEntryShowsAsTheEntryWhereTheStartWasFound) {
   record.StartListLast = record.StopListLast = "Jan - 2020";
   record.StartLabel = "Jan - 2012";  // the third entry
   record.StopLabel = "Mar - 2015";
-  GetParameters(ws, side, 1);
+  GetParameters(ws.Of(side), 1);
   EXPECT_EQ(c.comStart->Position(), 2);
   EXPECT_EQ(c.comStop->Text(), "Jan - 2014");
   EXPECT_EQ(record.StopLabel, "Mar - 2015");
@@ -81,14 +81,14 @@ TEST_P(DateMovers, APlacePastTheEndShowsTheLastEntry) {
   record.StartListLast = record.StopListLast = "Jan - 2020";
   record.StartLabel = "Jan - 2018";  // the ninth entry, and the stop list has two
   record.StopLabel = "Mar - 2019";
-  GetParameters(ws, side, 1);
+  GetParameters(ws.Of(side), 1);
   EXPECT_EQ(c.comStop->Text(), "Jan - 2020");
 }
 
 TEST_P(DateMovers, LoadingGoesBackToCoarseMode) {
   c.optFineDateStart->SetValue(true);
   c.optFineDateStop->SetValue(true);
-  GetParameters(ws, side, 1);
+  GetParameters(ws.Of(side), 1);
   EXPECT_TRUE(c.optCourseDateStart->Value() && c.optCourseDateStop->Value());
   EXPECT_FALSE(c.optFineDateStart->Value() || c.optFineDateStop->Value());
 }
@@ -100,7 +100,7 @@ INSTANTIATE_TEST_SUITE_P(, Movers, AllSinsAndSides(), NameOfSinAndSide);
 
 TEST_P(Movers, SelectOnePeriodAndTitleItsFrame) {
   for (const char* number : {"3", "1", "4", "2"}) {
-    SetPeriodParameters(ws, side, number);
+    SetPeriodParameters(ws.Of(side), number);
     for (int p = 1; p <= 4; ++p) EXPECT_EQ(Record(p).PeriodSelected, std::to_string(p) == number);
     EXPECT_EQ(c.frmDaily->Caption(), "Period " + std::string(number) + std::string(sin.dailySuffix[side]));
   }
@@ -115,7 +115,7 @@ TEST_P(Movers, StoreTheScreen) {
   if (c.comFinalCost != nullptr) c.comFinalCost->SelectEntry(9);
   if (c.comSubCost != nullptr) c.comSubCost->SelectEntry(10);
   c.firstUnit->SetValue(true);
-  SetParameters(ws, side, 3);
+  SetParameters(ws.Of(side), 3);
   const PeriodRecord& record = Record(3);
   EXPECT_TRUE(record.PeriodSelected);
   EXPECT_EQ(record.PercentIncreaseText, "11%");
@@ -130,7 +130,7 @@ TEST_P(Movers, StoreTheScreen) {
     EXPECT_EQ(record.FinalCostText, c.comFinalCost->Entry(9));
     EXPECT_TRUE(record.CostModeFlag);
     c.OptCigInitialFinalCostIncrease->SetValue(true);
-    SetParameters(ws, side, 3);
+    SetParameters(ws.Of(side), 3);
     EXPECT_FALSE(record.CostModeFlag);
   }
   if (c.comSubCost != nullptr) {
@@ -144,7 +144,7 @@ TEST_P(Movers, StoreTheUnit) {
     for (const bool first : {true, false}) {
       Record(1).QuantityUnitFlag = before;
       (first ? c.firstUnit : c.secondUnit)->SetValue(true);
-      SetParameters(ws, side, 1);
+      SetParameters(ws.Of(side), 1);
       const bool keeps = sin.key == "Drugging" && side == Side::Future;
       EXPECT_EQ(Record(1).QuantityUnitFlag, keeps ? before : first);
     }
@@ -166,7 +166,7 @@ TEST_P(Movers, StoreCostsWithTheirCurrency) {
     c.comSubCost->SetText(
         "\x80"
         "2.00");
-  SetParameters(ws, side, 1);
+  SetParameters(ws.Of(side), 1);
   if (c.comInitialCost != nullptr) {
     EXPECT_EQ(Record(1).InitialCostText,
               "\x80"
@@ -238,8 +238,8 @@ TEST_P(Movers, BringAPeriodBackAsItWasEntered) {
 
 TEST_P(Movers, APositionPastTheEndShowsAndCountsTheLastEntry) {
   Record(1).QuantityListIndex = 30'000;
-  EXPECT_EQ(QuantityText(ws, side, 1), c.quantity->Entry(c.quantity->Count() - 1));
-  GetParameters(ws, side, 1);
+  EXPECT_EQ(QuantityText(ws.Of(side), 1), c.quantity->Entry(c.quantity->Count() - 1));
+  GetParameters(ws.Of(side), 1);
   EXPECT_EQ(c.quantity->Text(), c.quantity->Entry(c.quantity->Count() - 1));
   EXPECT_EQ(c.quantity->Position(), c.quantity->Find(c.quantity->Text()));
 }
@@ -250,17 +250,17 @@ TEST_P(Movers, StoreAnEntryOfALaterCopyAtItsPlaceInTheFirst) {
   const int oneCopy = c.quantity->Count();
   while (c.quantity->Count() <= kBeyond16Bits) AppendEntries(ws, *c.quantity, UnitList(sin, sin.startUnit));
   ASSERT_EQ(c.quantity->UserPicks(c.quantity->Count() - 1), UserOutcome::Done);
-  SetParameters(ws, side, 1);
+  SetParameters(ws.Of(side), 1);
   EXPECT_EQ(Record(1).QuantityListIndex, oneCopy - 1);
-  EXPECT_EQ(QuantityText(ws, side, 1), c.quantity->Text());
+  EXPECT_EQ(QuantityText(ws.Of(side), 1), c.quantity->Text());
 }
 
 TEST_P(Movers, OpenThePeriodsUpToACount) {
   const bool first = c.optTimePeriod(1).Enabled();
   const bool firstRadio = c.rbnEnabledPeriod(1).Enabled();
   for (int n = 1; n <= 4; ++n) {
-    OpenPeriodOptions(ws, side, n);
-    OpenPeriodRadios(ws, side, n);
+    OpenPeriodOptions(ws.Of(side), n);
+    OpenPeriodRadios(ws.Of(side), n);
     EXPECT_EQ(c.optTimePeriod(1).Enabled(), first);
     EXPECT_EQ(c.rbnEnabledPeriod(1).Enabled(), firstRadio);
     for (int p = 2; p <= 4; ++p) {
@@ -275,8 +275,8 @@ TEST_P(Movers, OpenThePeriodsUpToACount) {
 TEST_P(Movers, LeavePeriodOneAloneWhenTheyOpenAndClose) {
   c.optTimePeriod(1).SetEnabled(false);
   c.rbnEnabledPeriod(1).SetEnabled(false);
-  OpenPeriodOptions(ws, side, 4);
-  OpenPeriodRadios(ws, side, 4);
+  OpenPeriodOptions(ws.Of(side), 4);
+  OpenPeriodRadios(ws.Of(side), 4);
   EXPECT_FALSE(c.optTimePeriod(1).Enabled());
   EXPECT_FALSE(c.rbnEnabledPeriod(1).Enabled());
 }
@@ -291,7 +291,7 @@ INSTANTIATE_TEST_SUITE_P(, CostMovers, testing::ValuesIn(kSides), NameOfSide);
 
 TEST_P(CostMovers, ACostOfNoEntryShowsNothing) {
   Record(1).InitialCostText = "$3.01";
-  GetParameters(ws, side, 1);
+  GetParameters(ws.Of(side), 1);
   EXPECT_EQ(c.comInitialCost->Text(), "");
   EXPECT_EQ(c.comFinalCost->Text(), "$5.50");
 }
@@ -300,7 +300,7 @@ TEST_P(CostMovers, TheCurrencyDoesNotMatterWhenACostIsLookedFor) {
   Record(1).InitialCostText =
       "\x80"
       "2.00";
-  GetParameters(ws, side, 1);
+  GetParameters(ws.Of(side), 1);
   EXPECT_EQ(c.comInitialCost->Text(), "$2.00");
 }
 
@@ -309,7 +309,7 @@ TEST(CostMoversInEuros, FindWhatWasStoredInDollars) {
   SinWorkspace& ws = run.Smoking();
   SideControls& c = ws.Of(Side::Past);
   ASSERT_EQ(ws.cmdEuro->UserClicks(), UserOutcome::Done);
-  ASSERT_EQ(ws.Record(Side::Past, 1).InitialCostText, "$5.00");
+  ASSERT_EQ(ws.Of(Side::Past).Record(1).InitialCostText, "$5.00");
   run.GoTo(ws, Side::Past, 1);
   EXPECT_EQ(c.comInitialCost->Text(),
             "\x80"
@@ -347,9 +347,9 @@ TEST_P(SmokingMovers, APeriodOfCigarettesReadsThePacksWhileTheyAreOnScreen) {
   run.Pick(*c.comInitialCost, "$5.00");
   run.Pick(*c.comPercentIncrease, "0%");
   run.Commit(ws, side, "Jun - 2026", "Jun - 2026");
-  EXPECT_EQ(FormatNumber(CostInPeriod(ws, side, 1), "0.00"), "152.10");  // a pack: 5.00 * 30.42
+  EXPECT_EQ(FormatNumber(CostInPeriod(ws.Of(side), 1), "0.00"), "152.10");  // a pack: 5.00 * 30.42
   c.firstUnit->SetValue(true);
-  EXPECT_EQ(FormatNumber(CostInPeriod(ws, side, 1), "0.00"), "7.61");
+  EXPECT_EQ(FormatNumber(CostInPeriod(ws.Of(side), 1), "0.00"), "7.61");
 }
 
 }  // namespace

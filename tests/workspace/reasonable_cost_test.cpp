@@ -82,7 +82,7 @@ TEST_P(ReasonableCost, EnteringAShortListSelectsItsLastEntry) {
 
 // A repeated load doubles the gross list: its last lower entry then lies far behind the end.
 TEST_P(ReasonableCost, APlacePastTheEndIsTheLastEntry) {
-  LoadParameters(ws, side);
+  LoadParameters(ws.Of(side));
   run.Pick(gross, "$1.00");
   EXPECT_EQ(reasonable.Count(), 2 + 18 + 18);
   EXPECT_EQ(reasonable.Text(), "$0.95");
@@ -114,7 +114,7 @@ TEST_P(ReasonableCost, IsTakenOffTheGrossCost) {
   run.Pick(*c.comPercentIncrease, "0%");
   run.Pick(*c.quantity, "10");
   run.Commit(ws, side, "Jun - 2026", "Jun - 2026");
-  EXPECT_DOUBLE_EQ(CostInPeriod(ws, side, 1), 577.98);
+  EXPECT_DOUBLE_EQ(CostInPeriod(ws.Of(side), 1), 577.98);
   EXPECT_EQ(c.txtResultsPeriod(1).Text(), "$578");
 }
 

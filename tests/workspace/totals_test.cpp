@@ -20,7 +20,7 @@ class TotalTab : public testing::Test {
   void Commit(Side side, int period, const char* start, const char* stop, const char* cost = "$300",
               const char* interest = "0%") {
     run.OpenTab(ws, side == Side::Past ? kPastTab : kFutureTab);
-    if (ws.State(side).CurrentPeriod != period) run.GoTo(ws, side, period);
+    if (ws.Of(side).state.CurrentPeriod != period) run.GoTo(ws, side, period);
     run.PickMonthly(ws, side, cost, interest);
     run.Commit(ws, side, start, stop);
   }
@@ -153,9 +153,9 @@ TEST_F(TotalTab, ACountedPeriodThatCostsNothingIsNotAvailable) {
   ASSERT_EQ(past.txtResultsTotal->Text(), "$0");
   Open();
   ExpectNothing();
-  UpdateFutureDateTotal(ws, ws.SideIndex(Side::Past), ws.SideIndex(Side::Future));
-  EXPECT_EQ(ws.State(Side::Past).BeginManualDate, "Jun - 2026");
-  EXPECT_EQ(ws.State(Side::Future).BeginManualDate, "");
+  UpdateFutureDateTotal(ws, ws.Of(Side::Past).Index(), ws.Of(Side::Future).Index());
+  EXPECT_EQ(ws.Of(Side::Past).state.BeginManualDate, "Jun - 2026");
+  EXPECT_EQ(ws.Of(Side::Future).state.BeginManualDate, "");
 }
 
 // ---- The date list ----
@@ -222,7 +222,7 @@ TEST_F(TotalTab, TheAnchorIsThatOfTheFutureWhereItCounts) {
   Open();
   ws.comCumulativeFutureDateTot->UserFocuses();
   Update();
-  EXPECT_EQ(ws.State(Side::Past).BeginManualDate, "Jun - 2026");
+  EXPECT_EQ(ws.Of(Side::Past).state.BeginManualDate, "Jun - 2026");
   Commit(Side::Future, 1, "Aug - 2026", "Sep - 2026");
   Commit(Side::Future, 2, "Oct - 2026", "Nov - 2026");
   Open();
@@ -230,7 +230,7 @@ TEST_F(TotalTab, TheAnchorIsThatOfTheFutureWhereItCounts) {
   run.Pick(*ws.comInflationRateFutureDateTot, "0%");
   run.Pick(*ws.comCumulativeFutureDateTot, "Jan - 2027");
   Update();
-  EXPECT_EQ(ws.State(Side::Future).BeginManualDate, "Nov - 2026");
+  EXPECT_EQ(ws.Of(Side::Future).state.BeginManualDate, "Nov - 2026");
   EXPECT_EQ(ws.txtCumulativeFutureDateTot->Text(), "$1,818");  // 1,800 and one month, December
 }
 
@@ -238,7 +238,7 @@ TEST_F(TotalTab, TheAnchorIsThatOfTheFutureWhereItCounts) {
 TEST_F(TotalTab, AnUpdateOfNothingLeavesTheSumOfTheCosts) {
   Commit(Side::Future, 1, "Jul - 2026", "Jul - 2026");
   Open();
-  ws.Record(Side::Future, 1).PeriodEnabled = false;
+  ws.Of(Side::Future).Record(1).PeriodEnabled = false;
   ws.comCumulativeFutureDateTot->UserFocuses();
   Update();
   ExpectTotals("$300", "n/a");
@@ -316,8 +316,8 @@ TEST_F(TotalTab, ShowsTheDatesOfWhatCounts) {
            {&c.lblFirstDate(p), &c.lblLastDate(p), &ws.lblTo(side == Side::Past ? p : p + 4)})
         EXPECT_EQ(label->Visible(), counts) << label->FullName();
       if (!counts) continue;
-      EXPECT_EQ(c.lblFirstDate(p).Caption(), ws.Record(side, p).StartLabel);
-      EXPECT_EQ(c.lblLastDate(p).Caption(), ws.Record(side, p).StopLabel);
+      EXPECT_EQ(c.lblFirstDate(p).Caption(), ws.Of(side).Record(p).StartLabel);
+      EXPECT_EQ(c.lblLastDate(p).Caption(), ws.Of(side).Record(p).StopLabel);
     }
   }
 }
@@ -378,7 +378,7 @@ TEST_F(TotalTab, OnlyTheThirdPeriodOpensWithNothing) {
 
 TEST_F(TotalTab, AFutureChainFromAnOpening) {
   Commit(Side::Future, 1, "Aug - 2026", "Aug - 2026");
-  const SideIndex side = ws.SideIndex(Side::Future);
+  const SideIndex side = ws.Of(Side::Future).Index();
   EXPECT_EQ(CumulativeChainFuture(ws, side, "1000.4"), "$1,300");
   run.Click(future.rbnDisabledPeriod(1));
   EXPECT_EQ(CumulativeChainFuture(ws, side, "1000.4"), "");

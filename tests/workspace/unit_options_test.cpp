@@ -117,11 +117,11 @@ TEST_P(FlatUnits, CountTheAmountByTheirUnit) {
   run.Click(*c.secondUnit);
   run.Pick(*c.quantity, "$600");
   run.Commit(ws, side, "Jun - 2026", "Jun - 2026");
-  EXPECT_EQ(FormatNumber(CostInPeriod(ws, side, 1), "0.00"), "600.00");
+  EXPECT_EQ(FormatNumber(CostInPeriod(ws.Of(side), 1), "0.00"), "600.00");
   run.Click(*c.firstUnit);
   run.Pick(*c.quantity, "$20");
   run.Press(ws, side);
-  EXPECT_EQ(FormatNumber(CostInPeriod(ws, side, 1), "0.00"), "608.40");
+  EXPECT_EQ(FormatNumber(CostInPeriod(ws.Of(side), 1), "0.00"), "608.40");
 }
 
 TEST_P(FlatUnits, ACostOfNothingCanBeChosen) {
