@@ -819,6 +819,16 @@ ChartContents InView(ChartContents contents, ChartWidget::Span span) {
   return contents;
 }
 
+// As lines and letters, not as a picture of them.
+void Paint(QCustomPlot& plot, QPaintDevice& file, const QSize& size) {
+  QCPPainter painter;
+  painter.begin(&file);
+  painter.setMode(QCPPainter::pmVectorized);
+  painter.setMode(QCPPainter::pmNoCaching);
+  plot.toPainter(&painter, size.width(), size.height());
+  painter.end();
+}
+
 QByteArray Png(QCustomPlot& plot, const QSize& size) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
@@ -835,12 +845,7 @@ QByteArray Svg(QCustomPlot& plot, const QSize& size, const QString& title) {
   file.setSize(size);
   file.setViewBox(QRect(QPoint(), size));
   file.setTitle(title);
-  QCPPainter painter;
-  painter.begin(&file);
-  painter.setMode(QCPPainter::pmVectorized);
-  painter.setMode(QCPPainter::pmNoCaching);
-  plot.toPainter(&painter, size.width(), size.height());
-  painter.end();
+  Paint(plot, file, size);
   return bytes;
 }
 
@@ -854,12 +859,7 @@ QByteArray Pdf(QCustomPlot& plot, const QSize& size, const QString& title) {
   file.setResolution(kDotsPerInch);
   file.setPageSize(QPageSize(QSizeF(size) * 72 / kDotsPerInch, QPageSize::Point));
   file.setPageMargins(QMarginsF());
-  QCPPainter painter;
-  painter.begin(&file);
-  painter.setMode(QCPPainter::pmVectorized);
-  painter.setMode(QCPPainter::pmNoCaching);
-  plot.toPainter(&painter, size.width(), size.height());
-  painter.end();
+  Paint(plot, file, size);
   return bytes;
 }
 
