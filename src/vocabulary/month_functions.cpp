@@ -11,6 +11,17 @@ namespace {
 constexpr std::string_view kQuantityFormat = "##.00";
 constexpr std::string_view kMoneyFormat = "$#,##0.00";
 
+// The terms of a class with cost modes.
+CostTerms TermsWithModes(CostClass costClass, double initialCost, double finalCost, double quantity,
+                         double yearlyFraction, bool percentMode) {
+  return {.costClass = costClass,
+          .initialCost = initialCost,
+          .finalCost = finalCost,
+          .quantity = quantity,
+          .percentMode = percentMode,
+          .yearlyFraction = yearlyFraction};
+}
+
 // The day count of the month is looked up and takes no part in the cost.
 MonthCostCells CellsOfMonth(const SinWorkspace& ws, const CostTerms& terms, double month, double months,
                             std::int16_t period) {
@@ -100,25 +111,17 @@ double DayCountOfMonthIndex(std::string& monthIndex, std::string_view startLabel
 MonthCostCells MonthCostOfPacks(SinWorkspace& ws, double month, double months, double initialCost,
                                 double finalCost, double quantity, double yearlyFraction, bool packsFlag,
                                 bool percentMode, std::int16_t period) {
-  const CostTerms terms{.costClass = CostClass::PacksClass,
-                        .initialCost = initialCost,
-                        .finalCost = finalCost,
-                        .quantity = quantity,
-                        .packsFlag = packsFlag,
-                        .percentMode = percentMode,
-                        .yearlyFraction = yearlyFraction};
+  CostTerms terms =
+      TermsWithModes(CostClass::PacksClass, initialCost, finalCost, quantity, yearlyFraction, percentMode);
+  terms.packsFlag = packsFlag;
   return CellsOfMonth(ws, terms, month, months, period);
 }
 
 MonthCostCells MonthCostOfUnits(SinWorkspace& ws, bool, double month, double months, double initialCost,
                                 double finalCost, double quantity, double yearlyFraction, bool,
                                 bool percentMode, std::int16_t period) {
-  const CostTerms terms{.costClass = CostClass::UnitsClass,
-                        .initialCost = initialCost,
-                        .finalCost = finalCost,
-                        .quantity = quantity,
-                        .percentMode = percentMode,
-                        .yearlyFraction = yearlyFraction};
+  const CostTerms terms =
+      TermsWithModes(CostClass::UnitsClass, initialCost, finalCost, quantity, yearlyFraction, percentMode);
   return CellsOfMonth(ws, terms, month, months, period);
 }
 
