@@ -4,27 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "fault_of.h"
+#include "month_terms.h"
 
 namespace vicetoll {
 namespace {
-
-constexpr CostClass kClasses[] = {CostClass::PacksClass, CostClass::UnitsClass, CostClass::NetUnitsClass,
-                                  CostClass::FlatRateClass};
-
-// 20 cigarettes a day, a pack for 2.00, 6% a year.
-constexpr CostTerms kPackADay{.costClass = CostClass::PacksClass,
-                              .initialCost = 2,
-                              .finalCost = 2,
-                              .quantity = 20,
-                              .packsFlag = false,
-                              .yearlyFraction = 0.06};
-
-// Four a day for 3.00, of which 1.10 would be reasonable, 12% a year.
-constexpr CostTerms kFourCoffees{.costClass = CostClass::NetUnitsClass,
-                                 .initialCost = 3,
-                                 .reasonableCost = 1.1,
-                                 .quantity = 4,
-                                 .yearlyFraction = 0.12};
 
 TEST(MonthCost, WithoutAnIncreaseEveryMonthHasTheInitialCost) {
   for (const CostClass costClass : kClasses) {
@@ -55,6 +38,7 @@ TEST(MonthWalk, TheStraightLineEndsInTheFinalCostAndGoesOn) {
   terms.finalCost = 5;
   MonthWalk walk(terms, 3);
   for (const double cost : {3, 4, 5, 6}) EXPECT_EQ(walk.Next().unitCost, cost);
+  EXPECT_EQ(MonthWalk(terms, 1).Next().unitCost, 5);
 }
 
 // Gross 3.03 and reasonable 1.111 both rise; 1.919 * 4 * 30.42 = 233.50392. The second month has

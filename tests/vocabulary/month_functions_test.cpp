@@ -5,31 +5,14 @@
 
 #include "calendar/number_text.h"
 #include "fault_of.h"
+#include "month_terms.h"
 
 namespace vicetoll {
 namespace {
 
-constexpr CostClass kClasses[] = {CostClass::PacksClass, CostClass::UnitsClass, CostClass::NetUnitsClass,
-                                  CostClass::FlatRateClass};
-
 MonthCostCells Cells(const CostTerms& terms, std::int16_t month, std::int16_t months) {
   return CellsOf(terms, FiguresOfMonth(terms, month, months));
 }
-
-// 20 cigarettes a day, a pack for 2.00, 6% a year.
-constexpr CostTerms kPackADay{.costClass = CostClass::PacksClass,
-                              .initialCost = 2,
-                              .finalCost = 2,
-                              .quantity = 20,
-                              .packsFlag = false,
-                              .yearlyFraction = 0.06};
-
-// Four a day for 3.00, of which 1.10 would be reasonable, 12% a year.
-constexpr CostTerms kFourCoffees{.costClass = CostClass::NetUnitsClass,
-                                 .initialCost = 3,
-                                 .reasonableCost = 1.1,
-                                 .quantity = 4,
-                                 .yearlyFraction = 0.12};
 
 // A month's increase is 1.005: 2.01 * 30.42 = 61.1442, then 2.02005 * 30.42 = 61.449921.
 TEST(MonthCost, OfAPackADay) {
@@ -86,18 +69,7 @@ TEST(MonthCost, CellsStandInTheirColumns) {
   }
 }
 
-// From 2.00 to 5.00 in three months: the first has moved a third of the way.
-TEST(MonthCost, TheStraightLineEndsInTheFinalCost) {
-  CostTerms terms = kPackADay;
-  terms.percentMode = false;
-  terms.finalCost = 5;
-  EXPECT_EQ(Cells(terms, 1, 3).unitCost, "$3.00");
-  EXPECT_EQ(Cells(terms, 2, 3).unitCost, "$4.00");
-  EXPECT_EQ(Cells(terms, 3, 3).unitCost, "$5.00");
-  EXPECT_EQ(Cells(terms, 4, 3).unitCost, "$6.00");
-  EXPECT_EQ(Cells(terms, 1, 1).unitCost, "$5.00");
-}
-
+// The first month has an increase already.
 TEST(MonthCost, CompoundsMonthly) {
   double cost = 100;
   for (std::int16_t month = 1; month <= 12; ++month) {
@@ -107,11 +79,6 @@ TEST(MonthCost, CompoundsMonthly) {
   EXPECT_NEAR(cost, 112.6825, 0.0001);  // 12.68% a year, not 12%
 }
 
-TEST(MonthCost, TheFirstMonthHasAnIncreaseAlready) {
-  EXPECT_EQ(CompoundedCost(100, 1, 0.12), 100 * 1.01);
-  EXPECT_EQ(Cells(kPackADay, 1, 1).unitCost, "$2.01");
-}
-
 TEST(MonthCost, AnIndexBelowOneHasOneIncrease) {
   for (const std::int16_t month : std::initializer_list<std::int16_t>{0, -1, -32768})
     EXPECT_EQ(CompoundedCost(100, month, 0.12), 100 * 1.01);
@@ -119,7 +86,6 @@ TEST(MonthCost, AnIndexBelowOneHasOneIncrease) {
 
 TEST(MonthCost, AnAmountBeyondADoubleIsAFault) {
   EXPECT_EQ(FaultOf([] { CompoundedCost(1e308, 1000, 1); }), FaultKind::Overflow);
-  EXPECT_EQ(FaultOf([] { FiguresOfMonth({.initialCost = 1e307}, 1, 1); }), FaultKind::Overflow);
 }
 
 TEST(MonthCost, HalfAPackShowsWithoutALeadingZero) {
