@@ -2,6 +2,7 @@
 // Past and future: the two sides of a sin. One code serves both; these are the words in which they differ.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace vicetoll {
@@ -16,9 +17,9 @@ constexpr std::string_view ControlSuffix(Side side) { return side == Side::Past 
 // The side's suffix in names of operations: "Past", "Future".
 constexpr std::string_view OperationSuffix(Side side) { return side == Side::Past ? "Past" : "Future"; }
 
-// What captions of the side's periods begin with.
-constexpr std::string_view PeriodPrefix(Side side) {
-  return side == Side::Past ? "Past Period " : "Future Period ";
+// "Past Period 2".
+inline std::string PeriodName(Side side, int period) {
+  return (side == Side::Past ? "Past Period " : "Future Period ") + std::to_string(period);
 }
 
 // A text that may read differently on the two sides.

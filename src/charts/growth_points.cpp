@@ -42,7 +42,7 @@ void AddMonthsAhead(const FutureDateFigure& figure, std::vector<ChartMonth>& mon
 std::string BandName(const ChartMonth& month) {
   if (month.kind == ChartMonthKind::Gap) return {};
   if (month.kind == ChartMonthKind::Ahead) return "Afterwards";
-  return std::string(PeriodPrefix(month.side)) + std::to_string(month.period);
+  return PeriodName(month.side, month.period);
 }
 
 std::vector<ChartBand> BandsOf(const std::vector<ChartMonth>& months) {

@@ -149,8 +149,7 @@ std::string ParametersInPeriodDoc(const WorkspaceSide& side, int period) {
   std::string text;
   const PeriodRecord& record = side.Record(period);
   if (!record.PeriodSet || !record.PeriodEnabled) return text;
-  AppendLine(text, {PeriodPrefix(side.Which()), std::to_string(period),
-                    " Set and Enabled and has the following Parmeters:"});
+  AppendLine(text, {PeriodName(side.Which(), period), " Set and Enabled and has the following Parmeters:"});
   AppendLine(text, {side.Sin().header.startLine, record.StartLabel});
   AppendLine(text, {side.Sin().header.stopLine, record.StopLabel});
   AppendCosts(text, side, record);

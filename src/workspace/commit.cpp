@@ -11,35 +11,20 @@
 namespace vicetoll {
 namespace {
 
-std::string PeriodCaption(Side side, int period) {
-  return std::string(PeriodPrefix(side)) + std::to_string(period);
-}
-
-void ClosePeriod(WorkspaceSide& side, int p, PeriodRecord& record) {
-  side.optTimePeriod(p).SetEnabled(false);
-  side.optTimePeriod(p).SetCaption(PeriodCaption(side.Which(), p));
-  side.optTimePeriod(p).SetColour(kRed);
-  side.frmEnabledDisabledPeriod(p).SetEnabled(false);
-  side.rbnEnabledPeriod(p).SetEnabled(false);
-  side.rbnDisabledPeriod(p).SetEnabled(false);
-  record.PeriodSet = false;
-  side.txtResultsPeriod(p).SetAvailable(false);
-  side.txtCumulativeResultsPeriod(p).SetAvailable(false);
-  side.txtResultsPeriod(p).SetText("0");
-}
-
-void SetPeriod(WorkspaceSide& side, int p, PeriodRecord& record) {
-  side.optTimePeriod(p).SetEnabled(true);
-  side.optTimePeriod(p).SetCaption(PeriodCaption(side.Which(), p) + " SET to Dates: (" + record.StartLabel +
-                                   ") to (" + record.StopLabel + ")");
-  side.optTimePeriod(p).SetColour(kGreen);
-  side.frmEnabledDisabledPeriod(p).SetEnabled(true);
-  side.rbnEnabledPeriod(p).SetEnabled(true);
-  side.rbnDisabledPeriod(p).SetEnabled(true);
-  record.PeriodSet = true;
-  side.txtResultsPeriod(p).SetAvailable(true);
-  side.txtCumulativeResultsPeriod(p).SetAvailable(true);
-  side.txtResultsPeriod(p).SetText(side.Money(CostInPeriod(side, p), kResultFormat));
+// Marks a period as set, in green and with what it costs, or closes it.
+void MarkPeriod(WorkspaceSide& side, int p, PeriodRecord& record, bool set) {
+  const std::string dates = " SET to Dates: (" + record.StartLabel + ") to (" + record.StopLabel + ")";
+  Option& option = side.optTimePeriod(p);
+  option.SetEnabled(set);
+  option.SetCaption(PeriodName(side.Which(), p) + (set ? dates : ""));
+  option.SetColour(set ? kGreen : kRed);
+  side.frmEnabledDisabledPeriod(p).SetEnabled(set);
+  side.rbnEnabledPeriod(p).SetEnabled(set);
+  side.rbnDisabledPeriod(p).SetEnabled(set);
+  record.PeriodSet = set;
+  side.txtResultsPeriod(p).SetAvailable(set);
+  side.txtCumulativeResultsPeriod(p).SetAvailable(set);
+  side.txtResultsPeriod(p).SetText(set ? side.Money(CostInPeriod(side, p), kResultFormat) : "0");
 }
 
 // A past period that stops in the present month leaves no room behind it. The future side has the same
@@ -67,12 +52,7 @@ void CommitPeriod(WorkspaceSide& side, int count, SideIndex sideIndex) {
   PeriodStore& store = side.Store();
   const std::int16_t stopMonth = MonthNumberFromLabel(side.comStop->Text());
   const std::int16_t stopYear = YearFromLabel(side.comStop->Text());
-  for (int p = 1; p <= kPeriodCount; ++p) {
-    if (p > count)
-      ClosePeriod(side, p, store.At(p, sideIndex));
-    else
-      SetPeriod(side, p, store.At(p, sideIndex));
-  }
+  for (int p = 1; p <= kPeriodCount; ++p) MarkPeriod(side, p, store.At(p, sideIndex), p <= count);
   if (count != kPeriodCount)
     side.optTimePeriod(count + 1).SetEnabled(!ClosesTheSide(side.Which(), now, stopMonth, stopYear));
   side.txtResultsTotal->SetAvailable(true);

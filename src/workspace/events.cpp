@@ -38,7 +38,7 @@ void OnDateFocus(WorkspaceSide& side, void (*refresh)(WorkspaceSide&)) {
 // the entry at the same place in the monthly list.
 void OnUnit(WorkspaceSide& side) {
   const int period = side.state.CurrentPeriod;
-  side.frmDaily->SetCaption(std::string(PeriodPrefix(side.Which())) + std::to_string(period) +
+  side.frmDaily->SetCaption(PeriodName(side.Which(), period) +
                             std::string(side.Sin().dailySuffix[side.Which()]));
   EnableSetButton(side);
   RefillUnitList(side, side.Record(period).QuantityListIndex);

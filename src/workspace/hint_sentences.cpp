@@ -6,10 +6,6 @@
 namespace vicetoll {
 namespace {
 
-std::string PeriodName(Side side, int period) {
-  return std::string(PeriodPrefix(side)) + std::to_string(period);
-}
-
 std::string SideNextStep(const WorkspaceSide& side) {
   const int period = side.state.CurrentPeriod;
   const std::string& press = side.cmdSetPeriodParams->Caption();

@@ -186,7 +186,7 @@ void ResetSideScreen(WorkspaceSide& side) {
 
 void LabelMaker(WorkspaceSide& side, int period) {
   const SinRow& sin = side.Sin();
-  const std::string start = std::string(PeriodPrefix(side.Which())) + std::to_string(period);
+  const std::string start = PeriodName(side.Which(), period);
   const auto caption = [&](std::string_view suffix) { return start + std::string(suffix); };
   side.frmSetStart->SetCaption(caption(sin.startSuffix[side.Which()]));
   side.frmSetStop->SetCaption(caption(sin.stopSuffix[side.Which()]));

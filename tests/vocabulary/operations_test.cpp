@@ -118,7 +118,7 @@ TEST_F(Operations, BearTheKeyAndTheStemOfTheirSin) {
       Call(ws, "Load" + key + "Parameters" + name);
       EXPECT_EQ(c.comInterestRate1->Text(), "5%");
       Call(ws, "LabelMaker" + stem + suffix, {"2"});
-      EXPECT_EQ(c.frmRates->Caption(), std::string(PeriodPrefix(side)) + "2: Savings and Inflation Rates");
+      EXPECT_EQ(c.frmRates->Caption(), PeriodName(side, 2) + ": Savings and Inflation Rates");
       Call(ws, "SetPeriodParameters" + key + name, {"3"});
       EXPECT_TRUE(ws.Of(side).Record(3).PeriodSelected);
       c.comInterestRate1->SetText("9%");

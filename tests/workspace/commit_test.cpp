@@ -67,7 +67,7 @@ class Committing : public EverySideOf {
     for (int p = 1; p <= 4; ++p) texts.push_back(boxes(p).Text());
     return texts;
   }
-  std::string Caption(int p) const { return std::string(PeriodPrefix(side)) + std::to_string(p); }
+  std::string Caption(int p) const { return PeriodName(side, p); }
   void ExpectUnset(int p, bool offered) {
     SCOPED_TRACE(testing::Message() << "period " << p);
     EXPECT_FALSE(Record(p).PeriodSet);
@@ -188,7 +188,7 @@ TEST_P(Committing, TheFirstStepForwardSeedsThePeriod) {
   EXPECT_EQ(ws.Of(side).state.CurrentPeriod, 2);
   EXPECT_EQ(ws.Of(side).state.PreviousPeriod, 2);
   EXPECT_TRUE(c.cmdSetPeriodParams->Enabled());
-  EXPECT_EQ(c.cmdSetPeriodParams->Caption(), "Set " + std::string(PeriodPrefix(side)) + "2 Parameters");
+  EXPECT_EQ(c.cmdSetPeriodParams->Caption(), "Set " + PeriodName(side, 2) + " Parameters");
 }
 
 TEST_P(Committing, StepsBackAndForthShowWhatIsStored) {

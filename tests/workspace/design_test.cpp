@@ -268,21 +268,21 @@ TEST_P(Design, CaptionsAlikeInAllSins) {
   };
   for (const Side side : kSides) {
     const SideControls& c = ws.Of(side);
-    const std::string start(PeriodPrefix(side));
+    const std::string start = PeriodName(side, 1);
     for (const auto& [name, caption] : kSided)
       EXPECT_EQ(Caption(name + std::string(ControlSuffix(side))), caption) << name;
     for (int p = 1; p <= 4; ++p) {
-      EXPECT_EQ(c.optTimePeriod(p).Caption(), start + std::to_string(p));
-      EXPECT_EQ(c.frmEnabledDisabledPeriod(p).Caption(), start + std::to_string(p));
+      EXPECT_EQ(c.optTimePeriod(p).Caption(), PeriodName(side, p));
+      EXPECT_EQ(c.frmEnabledDisabledPeriod(p).Caption(), PeriodName(side, p));
       EXPECT_EQ(c.rbnEnabledPeriod(p).Caption(), "Enabled");
       EXPECT_EQ(c.rbnDisabledPeriod(p).Caption(), "Disabled");
     }
-    EXPECT_EQ(c.cmdSetPeriodParams->Caption(), "Set " + start + "1 Parameters");
-    EXPECT_EQ(c.frmRates->Caption(), start + "1: Savings and Inflation Rates");
-    EXPECT_EQ(c.frmSetStart->Caption(), start + "1" + std::string(sin.startSuffix[side]));
-    EXPECT_EQ(c.frmSetStop->Caption(), start + "1" + std::string(sin.stopSuffix[side]));
-    EXPECT_EQ(c.frmDaily->Caption(), start + "1" + std::string(sin.designDailySuffix[side]));
-    EXPECT_EQ(c.frmCostChange->Caption(), start + "1" + std::string(sin.designCostChangeSuffix[side]));
+    EXPECT_EQ(c.cmdSetPeriodParams->Caption(), "Set " + start + " Parameters");
+    EXPECT_EQ(c.frmRates->Caption(), start + ": Savings and Inflation Rates");
+    EXPECT_EQ(c.frmSetStart->Caption(), start + std::string(sin.startSuffix[side]));
+    EXPECT_EQ(c.frmSetStop->Caption(), start + std::string(sin.stopSuffix[side]));
+    EXPECT_EQ(c.frmDaily->Caption(), start + std::string(sin.designDailySuffix[side]));
+    EXPECT_EQ(c.frmCostChange->Caption(), start + std::string(sin.designCostChangeSuffix[side]));
     EXPECT_EQ(c.firstUnit->Caption(), IsSmoking() ? "Packs (20 Cigs.)" : "Per Day");
     EXPECT_EQ(c.secondUnit->Caption(), IsSmoking() ? "Cigarettes" : "Per Month");
   }

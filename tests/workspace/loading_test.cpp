@@ -92,16 +92,15 @@ TEST_P(Loading, OpensTheFirstPeriodAndNoResults) {
 
 // The rest of the captions follows the period; the frame of the daily figure was titled last.
 TEST_P(Loading, TitlesTheFrames) {
-  EXPECT_EQ(c.frmSetStart->Caption(),
-            std::string(PeriodPrefix(side)) + "1" + std::string(sin.startSuffix[side]));
+  EXPECT_EQ(c.frmSetStart->Caption(), PeriodName(side, 1) + std::string(sin.startSuffix[side]));
   EXPECT_EQ(c.frmDaily->Caption(), "Period 1" + std::string(sin.dailySuffix[side]));
-  EXPECT_EQ(c.cmdSetPeriodParams->Caption(), "Set " + std::string(PeriodPrefix(side)) + "1 Parameters");
+  EXPECT_EQ(c.cmdSetPeriodParams->Caption(), "Set " + PeriodName(side, 1) + " Parameters");
 }
 
 TEST_P(Loading, LabelsFollowThePeriod) {
   for (std::int16_t period = 1; period <= 4; ++period) {
     LabelMaker(ws.Of(side), period);
-    const std::string start = std::string(PeriodPrefix(side)) + std::to_string(period);
+    const std::string start = PeriodName(side, period);
     EXPECT_EQ(c.frmSetStart->Caption(), start + std::string(sin.startSuffix[side]));
     EXPECT_EQ(c.frmSetStop->Caption(), start + std::string(sin.stopSuffix[side]));
     EXPECT_EQ(c.frmDaily->Caption(), start + std::string(sin.dailySuffix[side]));

@@ -55,8 +55,7 @@ TEST_P(UnitOptions, TitleTheFrameAndOpenTheSetButton) {
     c.frmDaily->SetCaption("");
     run.Click(*option);
     EXPECT_TRUE(c.cmdSetPeriodParams->Enabled());
-    EXPECT_EQ(c.frmDaily->Caption(),
-              std::string(PeriodPrefix(side)) + "1" + std::string(sin.dailySuffix[side]));
+    EXPECT_EQ(c.frmDaily->Caption(), PeriodName(side, 1) + std::string(sin.dailySuffix[side]));
   }
 }
 
