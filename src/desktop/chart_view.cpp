@@ -209,9 +209,11 @@ class PresentItem : public PlotItem {
     const QString now = QStringLiteral("now");
     const double width = metrics.horizontalAdvance(now) + 2;
     const double left = Between(x - width / 2, Area().left(), Area().right() - width);
+    const QRectF room(left, top - metrics.height(), width, metrics.height());
+    painter->fillRect(room, style_.ground);  // no line goes through it
     painter->setFont(mParentPlot->font());
     painter->setPen(style_.text);
-    painter->drawText(QRectF(left, top - metrics.height(), width, metrics.height()), Qt::AlignCenter, now);
+    painter->drawText(room, Qt::AlignCenter, now);
   }
 
  private:
@@ -455,6 +457,7 @@ class MonthScene : public Scene {
 
   void MakeBands() {
     plot_.addLayer(QStringLiteral("bands"), plot_.layer(QStringLiteral("background")));
+    plot_.addLayer(QStringLiteral("present"), plot_.layer(QStringLiteral("grid")));
     bool tinted = false;
     for (const ChartBand& band : contents_.bands) {
       const bool active = band.kind == ChartMonthKind::Active;
@@ -462,7 +465,7 @@ class MonthScene : public Scene {
       (new BandItem(&plot_, band, style_, active && tinted))->setLayer(QStringLiteral("bands"));
     }
     if (contents_.present >= 0)
-      (new PresentItem(&plot_, contents_.present, style_))->setLayer(QStringLiteral("bands"));
+      (new PresentItem(&plot_, contents_.present, style_))->setLayer(QStringLiteral("present"));
   }
 
   QCPGraph* MakeLine(const QColor& colour, const QList<qreal>& dashes) {
@@ -699,6 +702,13 @@ class PlotWidget : public ChartWidget {
  protected:
   void resizeEvent(QResizeEvent*) override {
     if (plot_ != nullptr) plot_->setGeometry(rect());
+  }
+  // The letters follow the zoom of the windows.
+  void changeEvent(QEvent* event) override {
+    ChartWidget::changeEvent(event);
+    if (event->type() != QEvent::FontChange || plot_ == nullptr) return;
+    stale_ = true;
+    Draw();
   }
   void focusInEvent(QFocusEvent*) override { plot_->update(); }
   void focusOutEvent(QFocusEvent*) override { plot_->update(); }

@@ -283,10 +283,29 @@ void FormWindow::FitToForm() {
   sheet_->resize(pixels);
   sheet_->update();
   if (!FillsScreen() && !isMinimized()) {
-    asked_ = pixels.boundedTo(FreeRoom().expandedTo(resizing_ ? size() : QSize()));
+    asked_ = WithBars(pixels).boundedTo(FreeRoom().expandedTo(resizing_ ? size() : QSize()));
+    const bool grows = asked_.width() > width() || asked_.height() > height();
     if (asked_ != size()) resize(asked_);
+    if (grows && isVisible()) StayOnScreen();
   }
   if (flows_ && pixels != size() && told_ != size()) settled_.start();
+}
+
+// With room for the bar of a direction in which the screen is too small: it would cover something, which
+// would then scroll too.
+QSize FormWindow::WithBars(const QSize& pixels) const {
+  if (flows_) return pixels;
+  const QSize room = FreeRoom();
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area_);
+  return pixels + QSize(pixels.height() > room.height() ? bar : 0, pixels.width() > room.width() ? bar : 0);
+}
+
+// A window that has grown does not hang over the edge; its title stays in reach.
+void FormWindow::StayOnScreen() {
+  const QRect room = screen()->availableGeometry(), frame = frameGeometry();
+  const QPoint place(std::max(room.left(), std::min(frame.left(), room.right() + 1 - frame.width())),
+                     std::max(room.top(), std::min(frame.top(), room.bottom() + 1 - frame.height())));
+  if (place != pos()) move(place);
 }
 
 void FormWindow::TellSize() {

@@ -87,6 +87,8 @@ class FormWindow : public QWidget {
   QSize FreeRoom() const;
   void Rescale();
   void FitToForm();
+  QSize WithBars(const QSize& pixels) const;
+  void StayOnScreen();
   void TellSize();
   void TakeSettledSize();
   void TakeState();

@@ -24,7 +24,58 @@ class DesktopStyle : public QProxyStyle {
                 QStyleHintReturn* data) const override {
     // Lists open below themselves, with a scroll bar, in the colours of their palette.
     if (hint == SH_ComboBox_Popup) return 0;
+    if (hint == SH_Table_GridLineColor) return static_cast<int>(Colour(Tone::CellLine).rgba());
     return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
+  // Fusion derives these from the ground, and on a dark one they are hardly to be seen.
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    if (element != PE_Frame) return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    painter->setPen(Colour(Tone::FrameLine));
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+  }
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    const bool empty = element == CE_HeaderEmptyArea;
+    if (element != CE_HeaderSection && !empty)
+      return QProxyStyle::drawControl(element, option, painter, widget);
+    const QRect& room = option->rect;
+    painter->fillRect(room, Colour(Tone::ButtonGround));
+    painter->setPen(Colour(Tone::FrameLine));
+    painter->drawLine(room.bottomLeft(), room.bottomRight());
+    if (!empty) painter->drawLine(room.topRight(), room.bottomRight());
+  }
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override {
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || bar == nullptr)
+      return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    painter->fillRect(bar->rect, Colour(Tone::PanelGround));
+    const auto part = [&](SubControl sub) { return subControlRect(CC_ScrollBar, bar, sub, widget); };
+    if (bar->minimum < bar->maximum) DrawSlider(*painter, part(SC_ScrollBarSlider), *bar);
+    const bool upright = bar->orientation == Qt::Vertical;
+    DrawEnd(*painter, part(SC_ScrollBarSubLine), upright ? QPoint(0, -1) : QPoint(-1, 0));
+    DrawEnd(*painter, part(SC_ScrollBarAddLine), upright ? QPoint(0, 1) : QPoint(1, 0));
+  }
+
+ private:
+  static void DrawSlider(QPainter& painter, const QRect& room, const QStyleOptionSlider& bar) {
+    const bool held =
+        bar.activeSubControls & SC_ScrollBarSlider && bar.state & (State_Sunken | State_MouseOver);
+    DrawBox(painter, room.adjusted(2, 2, -2, -2), Colour(held ? Tone::Hint : Tone::FrameLine),
+            Colour(Tone::FrameLine), 3);
+  }
+  // The arrow at an end of a scroll bar, which points to where it scrolls.
+  static void DrawEnd(QPainter& painter, const QRect& room, const QPoint& towards) {
+    const QPointF tip = QRectF(room).center() + 2 * QPointF(towards), across(towards.y(), towards.x());
+    const QPointF foot = tip - 4 * QPointF(towards);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Colour(Tone::Hint));
+    painter.drawPolygon(QPolygonF({tip, foot + 4 * across, foot - 4 * across}));
+    painter.restore();
   }
 };
 
@@ -73,9 +124,33 @@ QString WithoutAccessKey(const QString& text) {
 
 QString AsItStands(QString plain) { return plain.replace(u'&', QStringLiteral("&&")); }
 
+namespace {
+
+// The part of the room, in its middle, in which the text takes no more lines, but all about as long.
+QRect Balanced(const QString& text, const QRect& room, const QFontMetrics& metrics) {
+  const auto taken = [&](int width) {
+    return metrics.boundingRect(QRect(0, 0, width, 1 << 16), Qt::TextWordWrap | Qt::AlignLeft, text).size();
+  };
+  const int height = taken(room.width()).height();
+  if (height <= metrics.height()) return room;
+  int narrow = room.width() / 2, wide = room.width();
+  while (wide - narrow > 1) {
+    const int middle = (narrow + wide) / 2;
+    const QSize size = taken(middle);
+    (size.height() > height || size.width() > middle ? narrow : wide) = middle;
+  }
+  const int spare = (room.width() - wide) / 2;
+  return room.adjusted(spare, 0, -spare, 0);
+}
+
+}  // namespace
+
 void DrawFitted(QPainter& painter, const QRect& room, int alignment, const QString& text, const QFont& font) {
-  painter.setFont(FittedFont(WithoutAccessKey(text), room.size(), font));
-  painter.drawText(room, alignment | Qt::TextWordWrap | Qt::TextShowMnemonic, text);
+  const QString plain = WithoutAccessKey(text);
+  painter.setFont(FittedFont(plain, room.size(), font));
+  const bool centred = alignment & Qt::AlignHCenter;
+  painter.drawText(centred ? Balanced(plain, room, painter.fontMetrics()) : room,
+                   alignment | Qt::TextWordWrap | Qt::TextShowMnemonic, text);
 }
 
 void DrawFocusRing(QPainter& painter, const QRect& room) {

@@ -25,7 +25,8 @@ inline constexpr int kFaint = 110;
 // smaller one where it would be cut off.
 QFont FittedFont(const QString& text, const QSize& room, const QFont& font);
 
-// Draws the text wrapped and fitted. `text` may mark its access key by "&".
+// Draws the text wrapped and fitted; one that stands in the middle in lines of about one length. `text` may
+// mark its access key by "&".
 void DrawFitted(QPainter& painter, const QRect& room, int alignment, const QString& text, const QFont& font);
 
 // The same for a text in one line, down to `smallest` pixels.

@@ -28,6 +28,7 @@ enum class Tone {
   ButtonGround,
   ButtonHover,  // under the pointer
   ButtonDown,   // pressed
+  CellLine,     // between the cells of a table
   BoxGround,    // of boxes, tables, texts, and of a choice's mark
   ListGround,   // drop-down lists
   ListText,

@@ -12,8 +12,8 @@ namespace {
 // window.
 constexpr int kFrameWidth = 2550, kFrameHeight = 1000;
 constexpr int kFrameGap = 100;
-constexpr Place kCsvPlace{60, 250, 2460, 300};
-constexpr Place kDocPlace{60, 600, 2460, 300};
+constexpr Place kCsvPlace{30, 250, 2510, 300};
+constexpr Place kDocPlace{30, 600, 2510, 300};
 
 }  // namespace
 

@@ -123,6 +123,8 @@ class Pictures {
             [this] { program_.Combined().Get<Button>("cmdChart").UserClicks(); });
     desktop_.Enter([&] { program_.SinsChart().Hide(); });
     Picture(program_.Info(), "help", [this] { program_.Info().ShowHelpFile(); });
+    Picture(program_.Info(), "questions", [this] { program_.Info().ShowInfoFile(); });
+    Picture(program_.Info(), "about", [this] { program_.Info().Get<Button>("cmdAbout").UserClicks(); });
     Identification();
   }
 

@@ -88,6 +88,45 @@ TEST_F(Sizes, ZoomEndsAtHalfAndAtThreeTimes) {
   EXPECT_GT(window.findChild<QScrollArea*>()->verticalScrollBar()->maximum(), 0);
 }
 
+// One bar would bring on the other, for it takes room itself.
+TEST_F(Sizes, ScrollOnlyInTheDirectionThatHasNoRoom) {
+  FormWindow& window = Of(Smoking());
+  const auto& area = *window.findChild<QScrollArea*>();
+  desktop.ZoomBy(4);  // 175 percent: 1400 x 1312
+  QApplication::processEvents();
+  EXPECT_GT(area.verticalScrollBar()->maximum(), 0);
+  EXPECT_EQ(area.horizontalScrollBar()->maximum(), 0);
+  EXPECT_GE(area.viewport()->width(), window.GetSheet().width());
+  SetScreen({1300, 1600});
+  QApplication::processEvents();
+  EXPECT_GT(area.horizontalScrollBar()->maximum(), 0);
+  EXPECT_EQ(area.verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(Sizes, ZoomedWindowsStayOnTheScreen) {
+  desktop.GetScaling().screen.reset();
+  FormWindow& chooser = Of(program.Chooser());
+  desktop.Enter([&] { program.Chooser().Show(); });
+  const QRect room = chooser.screen()->availableGeometry();
+  chooser.move(room.right() - chooser.width(), room.bottom() - chooser.height());
+  desktop.ZoomBy(3);
+  EXPECT_TRUE(room.contains(chooser.frameGeometry()));
+  chooser.move(room.center());
+  desktop.ZoomBy(20);  // as large as the screen, but for the sides of its frame
+  EXPECT_TRUE(room.contains(chooser.frameGeometry().topLeft()));
+  EXPECT_LE(chooser.frameGeometry().bottom(), room.bottom());
+}
+
+TEST_F(Sizes, LettersOfAChartFollowTheZoom) {
+  desktop.Enter([&] { Smoking().Of(Side::Past).cmdSetPeriodParams->UserClicks(); });
+  desktop.Enter([&] { Smoking().Get<Button>("cmdGrowthChart").UserClicks(); });
+  FormWindow& window = Of(program.Growth());
+  QWidget& chart = *window.WidgetOf(program.Growth().GetChart());
+  desktop.ZoomBy(5);  // 200 percent
+  EXPECT_EQ(chart.font().pixelSize(), 24);
+  for (const QWidget* part : chart.findChildren<QWidget*>()) EXPECT_EQ(part->font().pixelSize(), 24);
+}
+
 TEST_F(Sizes, ReportsKeepTheirWindowAndZoomTheirText) {
   desktop.Enter([&] { program.Info().ShowHelpFile(); });
   FormWindow& help = Of(program.Info());
