@@ -46,7 +46,7 @@ void ChartWindow::AddButton(std::string_view name, std::string_view caption, voi
   buttons_.push_back(&button);
 }
 
-// The buttons stand in a row at the foot, the last one at its right end.
+// The buttons stand in a row at the foot, narrower where there is little room, the last one at its right end.
 void ChartWindow::PlaceControls() {
   const int width = Width() - 2 * kMargin;
   const int row = Height() - kMargin - kButtonHeight;
@@ -57,11 +57,13 @@ void ChartWindow::PlaceControls() {
     bottom -= kGap;
   }
   chart_->SetPlace({kMargin, kMargin, width, bottom - kMargin});
+  const int count = static_cast<int>(buttons_.size());
+  const int each = std::min(kButtonWidth, (width - (count - 1) * kGap) / count);
   int left = kMargin;
   for (Button* button : buttons_) {
-    if (button == buttons_.back()) left = kMargin + width - kButtonWidth;
-    button->SetPlace({left, row, kButtonWidth, kButtonHeight});
-    left += kButtonWidth + kGap;
+    if (button == buttons_.back()) left = kMargin + width - each;
+    button->SetPlace({left, row, each, kButtonHeight});
+    left += each + kGap;
   }
 }
 

@@ -118,6 +118,7 @@ void Desktop::Enter(const std::function<void()>& action) {
   if (flushing_ || over_) return;
   try {
     action();
+    for (const auto& window : windows_) window->KeepWhole();
     Flush();
   } catch (const std::exception& cause) {
     return Fail(cause);

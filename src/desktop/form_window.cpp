@@ -26,6 +26,7 @@
 #include "desktop/themes.h"
 #include "desktop/widgets.h"
 #include "desktop/window_keys.h"
+#include "shell/layout.h"
 
 namespace vicetoll {
 namespace {
@@ -306,6 +307,11 @@ void FormWindow::StayOnScreen() {
   const QPoint place(std::max(room.left(), std::min(frame.left(), room.right() + 1 - frame.width())),
                      std::max(room.top(), std::min(frame.top(), room.bottom() + 1 - frame.height())));
   if (place != pos()) move(place);
+}
+
+void FormWindow::KeepWhole() {
+  if (FillsScreen() && form_.SharesPlace() && form_.Height() < kWindowHeight)
+    form_.Resize(form_.Width(), kWindowHeight);
 }
 
 void FormWindow::TellSize() {

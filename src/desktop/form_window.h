@@ -37,6 +37,9 @@ class FormWindow : public QWidget {
   void UpdateHint();
   // The window of a workspace that this one stands beside or over, and never goes behind.
   void BelongTo(FormWindow& owner);
+  // A maximised workspace that has become lower, as with the euro button, would cover itself with its bottom
+  // row: only of windows that are not maximised the form limits the size.
+  void KeepWhole();
   // Takes the colours of the theme in force.
   void TakeTheme();
   // Takes the scale that the font, the zoom and the screen of now ask for.

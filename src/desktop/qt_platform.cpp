@@ -229,7 +229,7 @@ void TakePageNumbersFrom(const QPrintDialog& dialog) {
   QList<QWidget*> numbers;
   for (const char* name : {"printRange", "from", "to", "pagesRadioButton", "pagesLineEdit"})
     numbers << dialog.findChild<QWidget*>(QLatin1String(name));
-  if (numbers[0] != nullptr)  // "to"
+  if (numbers[0] != nullptr)  // its labels stand beside it
     for (QLabel* label : numbers[0]->parentWidget()->findChildren<QLabel*>()) numbers << label;
   for (QWidget* widget : numbers)
     if (widget != nullptr) {

@@ -20,7 +20,8 @@ std::string AboutText() {
          "## Made with\r\n\r\n"
          "- Qt 6, for the windows\r\n"
          "- QCustomPlot, for the charts\r\n"
-         "- JSON for Modern C++, for saved entries\r\n\r\n"
+         "- JSON for Modern C++, for saved entries\r\n"
+         "- libxlsxwriter, for spreadsheets\r\n\r\n"
          "Figures are for orientation. They are no financial advice.\r\n";
 }
 

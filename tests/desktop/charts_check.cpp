@@ -134,6 +134,19 @@ TEST_F(Charts, ReachAPrinter) {
   EXPECT_FALSE(other.PrintPicture("no picture"));
 }
 
+// Zoomed windows have room for less.
+TEST_F(Charts, HaveTheirButtonsBesideOneAnotherInTheSmallestWindow) {
+  GrowthWindow& window = program.Growth();
+  desktop.Enter([&] { window.UserResizes(1, 1); });
+  int end = 0;
+  for (const char* name : {"cmdCopy", "cmdSaveAs", "cmdPrint", "cmdExport", "cmdExit"}) {
+    const Place place = window.Get<Button>(name).GetPlace();
+    EXPECT_GE(place.left, end) << name;
+    end = place.left + place.width;
+  }
+  EXPECT_LE(end, window.Width());
+}
+
 TEST_F(Charts, AreOpenedByTheirKeys) {
   desktop.Enter([&] { program.Growth().Hide(); });
   FormWindow& window = desktop.WindowOf(program.At(0));

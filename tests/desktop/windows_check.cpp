@@ -11,8 +11,10 @@
 #include <QFileDialog>
 #include <QHelpEvent>
 #include <QMessageBox>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -720,6 +722,13 @@ TEST_F(Windows, AMaximisedWorkspaceIsShownLargerAndInItsProportions) {
   const QRect place(sheet.mapTo(&window, QPoint(0, 0)), sheet.size());
   EXPECT_NEAR(place.center().x(), window.rect().center().x(), 1);
   EXPECT_NEAR(place.center().y(), window.rect().center().y(), 1);
+  // However often a press of the set button makes the window lower.
+  for (int press = 0; press < 3; ++press) {
+    Open(smoking, kPastTab);
+    desktop.Enter([&] { smoking.Find("comInterestRate1Past")->UserFocuses(); });
+    desktop.Enter([&] { smoking.Of(Side::Past).cmdSetPeriodParams->UserClicks(); });
+    EXPECT_EQ(smoking.Height(), 10500);
+  }
   window.showNormal();
   QTRY_COMPARE_WITH_TIMEOUT(window.size(), QSize(800, 700), 2000);
 }
@@ -867,6 +876,38 @@ TEST(Dialogs, LeaveNoHistoryBehind) {
   const QDir settings(qEnvironmentVariable("XDG_CONFIG_HOME"));
   EXPECT_TRUE(settings.entryList(QDir::Files | QDir::Hidden).isEmpty())
       << settings.entryList(QDir::Files | QDir::Hidden).join(u' ').toStdString();
+}
+
+// Without one the run would end.
+TEST(Dialogs, OfAFirstSaveSayThatANameIsNeeded) {
+  QString title;
+  WhenUp<QFileDialog>([&](QFileDialog& dialog) {
+    title = dialog.windowTitle();
+    dialog.reject();
+  });
+  EXPECT_EQ(QtPlatform().AskFirstSavePath(), std::nullopt);
+  EXPECT_TRUE(title.contains("a file name is needed")) << title.toStdString();
+}
+
+TEST(Dialogs, OfPrintsOfferTheSelectionWhereThereIsOneAndNoPageNumbers) {
+  for (const bool selection : {true, false}) {
+    WhenUp<QPrintDialog>([&](QPrintDialog& dialog) {
+      const auto option = [&](const char* name) {
+        return dialog.findChild<QRadioButton*>(QLatin1String(name));
+      };
+      EXPECT_EQ(option("printSelection")->isChecked(), selection);
+      EXPECT_EQ(option("printSelection")->isHidden(), !selection);
+      EXPECT_EQ(option("printAll")->isChecked(), !selection);
+      for (const char* name : {"printRange", "from", "to", "pagesRadioButton", "pagesLineEdit"}) {
+        const auto* widget = dialog.findChild<QWidget*>(QLatin1String(name));
+        EXPECT_TRUE(widget == nullptr || widget->isHidden()) << name;
+      }
+      dialog.reject();
+    });
+    // It prints all the same, with nowhere to print to.
+    WhenUp<QMessageBox>([](QMessageBox& box) { box.accept(); });
+    QtPlatform().Print("report", selection);
+  }
 }
 
 TEST(Printing, WithoutAPrinterAndAFileGoesNowhereAndSaysSo) {
