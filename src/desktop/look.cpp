@@ -31,7 +31,8 @@ class DesktopStyle : public QProxyStyle {
   // Fusion derives these from the ground, and on a dark one they are hardly to be seen.
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
-    if (element != PE_Frame) return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element != PE_Frame) QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element != PE_Frame && element != PE_PanelMenu) return;
     painter->setPen(Colour(Tone::FrameLine));
     painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
   }
@@ -128,11 +129,11 @@ namespace {
 
 // The part of the room, in its middle, in which the text takes no more lines, but all about as long.
 QRect Balanced(const QString& text, const QRect& room, const QFontMetrics& metrics) {
+  if (metrics.horizontalAdvance(text) < room.width()) return room;
   const auto taken = [&](int width) {
     return metrics.boundingRect(QRect(0, 0, width, 1 << 16), Qt::TextWordWrap | Qt::AlignLeft, text).size();
   };
   const int height = taken(room.width()).height();
-  if (height <= metrics.height()) return room;
   int narrow = room.width() / 2, wide = room.width();
   while (wide - narrow > 1) {
     const int middle = (narrow + wide) / 2;
@@ -147,8 +148,8 @@ QRect Balanced(const QString& text, const QRect& room, const QFontMetrics& metri
 
 void DrawFitted(QPainter& painter, const QRect& room, int alignment, const QString& text, const QFont& font) {
   const QString plain = WithoutAccessKey(text);
-  painter.setFont(FittedFont(plain, room.size(), font));
   const bool centred = alignment & Qt::AlignHCenter;
+  painter.setFont(FittedFont(plain, room.size(), font));
   painter.drawText(centred ? Balanced(plain, room, painter.fontMetrics()) : room,
                    alignment | Qt::TextWordWrap | Qt::TextShowMnemonic, text);
 }

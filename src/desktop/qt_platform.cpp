@@ -18,6 +18,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTimer>
@@ -196,6 +197,8 @@ void QtPlatform::PreviewPages(const Pages& pages) {
   printer.setDocName(ToQt(pages.title));
   QPrintPreviewDialog dialog(&printer, QApplication::activeWindow());
   dialog.setWindowTitle(QStringLiteral("Preview"));
+  // All of its tools and a page that can be read, where the screen has the room.
+  dialog.resize(QSize(900, 800).boundedTo(dialog.screen()->availableSize() - QSize(20, 60)));
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* paper) {
     // The dialog has the pages painted for its own eyes, and again to print them.
     if (paper->paintEngine()->type() == QPaintEngine::Picture)
