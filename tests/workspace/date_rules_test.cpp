@@ -109,6 +109,8 @@ const FineCase kFineCases[] = {
      "Mar - 2000", 2, "Jan - 2000"},
     {"start far behind it", Rule::Start, kPast, kJune, "Feb - 2000", "", "Aug - 1999", "Feb - 2000", 2,
      "Jul - 1999"},
+    {"seven months before it", Rule::Start, kFuture, kJune, "Jan - 2040", "", "Jul - 2039", "Jan - 2040", 2,
+     "Aug - 2040"},
     {"stop begins at the date", Rule::Stop, kFuture, kJune, "Mar - 2040", "", "Mar - 2040", "Sep - 2040"},
     {"stop reaches 18 months", Rule::Stop, kFuture, kJune, "Jun - 2040", "", "Jun - 2040", "Dec - 2041"},
     {"stop reaches six months", Rule::Stop, kPast, kJune, "Jun - 2000", "", "Jun - 2000", "Dec - 2000"},
