@@ -170,6 +170,42 @@ TEST_P(Loading, ARepeatedLoadPutsTheCostModeBack) {
   EXPECT_TRUE(Record(1).CostModeFlag);
 }
 
+// A load behind every choice that a user can make ends as one behind none. Only labels that have the wording
+// of a click keep it, so the options that are on are clicked in both.
+TEST_P(Loading, ARepeatedLoadForgetsEveryChoice) {
+  RunningProgram other;
+  SinWorkspace& untouched = other.Enter(sin.key, side);
+  for (SinWorkspace* workspace : {&untouched, &ws}) {
+    const SideControls& controls = workspace->Of(side);
+    run.Click(sin.startUnit == Unit::PerDay ? *controls.firstUnit : *controls.secondUnit);
+    if (HasCostModes(sin.costClass)) run.Click(*controls.OptCigPercentCostIncrease);
+  }
+  run.Click(sin.startUnit == Unit::PerDay ? *c.secondUnit : *c.firstUnit);
+  if (HasCostModes(sin.costClass)) run.Click(*c.OptCigInitialFinalCostIncrease);
+  run.Click(*c.optFineDateStart);
+  run.Click(*c.optFineDateStop);
+  for (DropDownList* list : {c.comStart, c.comStop}) {
+    ASSERT_EQ(list->UserFocuses(), UserOutcome::Done);
+    run.Pick(*list, 1);
+  }
+  for (DropDownList* list : ValueLists())
+    if (list->Reachable()) run.Pick(*list, 8);
+  EXPECT_GE(Changes(StatesOf(untouched), ws).size(), 10u);
+  for (SinWorkspace* workspace : {&untouched, &ws}) LoadParameters(workspace->Of(side));
+  EXPECT_EQ(Changes(StatesOf(untouched), ws), std::vector<std::string>{});
+  for (int p = 1; p <= 4; ++p) {
+    const PeriodRecord& expected = untouched.Of(side).Record(p);
+    EXPECT_EQ(Record(p).StartLabel, expected.StartLabel);
+    EXPECT_EQ(Record(p).StopLabel, expected.StopLabel);
+    EXPECT_EQ(Record(p).StopListFirst, expected.StopListFirst);
+    EXPECT_EQ(Record(p).QuantityListIndex, expected.QuantityListIndex);
+    EXPECT_EQ(Record(p).QuantityUnitFlag, expected.QuantityUnitFlag);
+    EXPECT_EQ(Record(p).InitialCostText, expected.InitialCostText);
+    EXPECT_EQ(Record(p).ReasonableCostText, expected.ReasonableCostText);
+    EXPECT_EQ(Record(p).InterestRateText, expected.InterestRateText);
+  }
+}
+
 TEST_P(Loading, ALoadThrowsACommittedSideAway) {
   run.Press(ws, side);
   ASSERT_TRUE(Record(1).PeriodSet);
