@@ -116,24 +116,45 @@ CountedPeriods CountedOf(const WorkspaceSide& side, SideIndex sideIndex) {
 
 namespace {
 
-std::string PastCarriedIntoFuture(const SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide,
-                                  const DateWarning& warn) {
-  const CountedPeriods past = CountedOf(ws.Of(Side::Past), pastSide);
-  const CountedPeriods future = CountedOf(ws.Of(Side::Future), futureSide);
-  const double opening = CumulativeCostBetweenPeriod(
-      ws.Of(Side::Past), ws.Of(Side::Past).txtCumulativeResultsPeriod(past.last).Text(), past.last,
-      ws.Store().At(past.last, pastSide).StopLabel, ws.Store().At(future.first, futureSide).StartLabel);
-  return CumulativeChain(SideTermsOf(ws.Of(Side::Future), futureSide), NumberToText(opening), warn);
+// A side as it is counted under a number of the store.
+struct CountedSide : CountedPeriods {
+  CountedSide(const WorkspaceSide& ofSide, SideIndex sideIndex)
+      : CountedPeriods(CountedOf(ofSide, sideIndex)), side(ofSide), index(sideIndex) {}
+
+  const std::string& FirstStart() const { return side.Store().At(first, index).StartLabel; }
+  const std::string& LastStop() const { return side.Store().At(last, index).StopLabel; }
+  const std::string& LastBalance() const { return side.txtCumulativeResultsPeriod(last).Text(); }
+
+  const WorkspaceSide& side;
+  SideIndex index;
+};
+
+struct BothSides {
+  BothSides(const SinWorkspace& ws, SideIndex pastIndex, SideIndex futureIndex)
+      : past(ws.Of(Side::Past), pastIndex), future(ws.Of(Side::Future), futureIndex) {}
+
+  bool AnyWorthCounting() const { return past.worthCounting || future.worthCounting; }
+  // Where the figure at a future date starts: the stop of the last period that counts.
+  const std::string& LastStop() const { return future.worthCounting ? future.LastStop() : past.LastStop(); }
+
+  CountedSide past, future;
+};
+
+// The future chain opened with the past's balance grown over the gap between them. Both sides must be worth
+// counting.
+std::string PastCarriedIntoFuture(const BothSides& both, const DateWarning& warn) {
+  const auto& [past, future] = both;
+  const double opening = CumulativeCostBetweenPeriod(past.side, past.LastBalance(), past.last,
+                                                     past.LastStop(), future.FirstStart());
+  return CumulativeChain(SideTermsOf(future.side, future.index), NumberToText(opening), warn);
 }
 
 // The balance of all that counts at its last stop, as text; empty where nothing counts.
-std::string BalanceOfBothSides(const SinWorkspace& ws, const CountedPeriods& past,
-                               const CountedPeriods& future, SideIndex pastSide, SideIndex futureSide,
-                               const DateWarning& warn) {
-  if (past.worthCounting && future.worthCounting)
-    return PastCarriedIntoFuture(ws, pastSide, futureSide, warn);
-  if (future.worthCounting) return ws.Of(Side::Future).txtCumulativeResultsPeriod(future.last).Text();
-  if (past.worthCounting) return ws.Of(Side::Past).txtCumulativeResultsPeriod(past.last).Text();
+std::string BalanceOf(const BothSides& both, const DateWarning& warn) {
+  const auto& [past, future] = both;
+  if (past.worthCounting && future.worthCounting) return PastCarriedIntoFuture(both, warn);
+  if (future.worthCounting) return future.LastBalance();
+  if (past.worthCounting) return past.LastBalance();
   return {};
 }
 
@@ -142,34 +163,14 @@ double WholeUnits(const std::string& shown) {
   return IsNumeric(StripCurrency(shown)) ? MoneyToNumber(shown) : 0;
 }
 
-// Where the figure at a future date starts: the stop of the last period that counts.
-const std::string& LastStop(const SinWorkspace& ws, const CountedPeriods& past, const CountedPeriods& future,
-                            SideIndex pastSide, SideIndex futureSide) {
-  return future.worthCounting ? ws.Store().At(future.last, futureSide).StopLabel
-                              : ws.Store().At(past.last, pastSide).StopLabel;
-}
-
-}  // namespace
-
-std::string PastCarriedIntoFuture(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
-  return PastCarriedIntoFuture(ws, pastSide, futureSide, WarningOf(ws));
-}
-
-namespace {
-
 // The figure reckoned anew with the terms of the last time; none where there are none, or nothing counts. Its
 // `value` is unrounded.
 std::optional<FutureDateFigure> FutureDateFigureAnew(const SinWorkspace& ws) {
-  const SideIndex futureSide = ws.Of(Side::Future).Index();
-  const SideIndex pastSide = ws.Of(Side::Past).Index();
-  const CountedPeriods past = CountedOf(ws.Of(Side::Past), pastSide);
-  const CountedPeriods future = CountedOf(ws.Of(Side::Future), futureSide);
-  if (!ws.evaluatedAt || (!past.worthCounting && !future.worthCounting)) return std::nullopt;
+  const BothSides both(ws, ws.Of(Side::Past).Index(), ws.Of(Side::Future).Index());
+  if (!ws.evaluatedAt || !both.AnyWorthCounting()) return std::nullopt;
   const double rate = LeadingNumber(ws.evaluatedAt->interest) - LeadingNumber(ws.evaluatedAt->inflation);
-  const double balance =
-      MoneyToNumber(BalanceOfBothSides(ws, past, future, pastSide, futureSide, [](DateFault) {}));
-  FutureDateFigure figure{LastStop(ws, past, future, pastSide, futureSide), ws.evaluatedAt->date, balance,
-                          rate, 0};
+  const double balance = MoneyToNumber(BalanceOf(both, [](DateFault) {}));
+  FutureDateFigure figure{both.LastStop(), ws.evaluatedAt->date, balance, rate, 0};
   figure.value = CostAfterLastPeriod(NumberToText(balance), rate, figure.from, figure.date);
   return figure;
 }
@@ -199,11 +200,10 @@ void ShowOldFutureDateFigure(SinWorkspace& ws, const std::string& figure) {
 
 void UpdateCombinedCumulative(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
   for (Side side : kSides) WriteZeroIfEmpty(*ws.Of(side).txtResultsTotal);
-  const CountedPeriods past = CountedOf(ws.Of(Side::Past), pastSide);
-  const CountedPeriods future = CountedOf(ws.Of(Side::Future), futureSide);
+  const BothSides both(ws, pastSide, futureSide);
   TextBox& balance = *ws.txtCumulativeResultsTotalSummaryTot;
-  if (past.worthCounting || future.worthCounting)
-    balance.SetText(BalanceOfBothSides(ws, past, future, pastSide, futureSide, WarningOf(ws)));
+  if (both.AnyWorthCounting())
+    balance.SetText(BalanceOf(both, WarningOf(ws)));
   else if (MoneyToNumber(ws.Of(Side::Past).txtResultsTotal->Text()) == 0 &&
            MoneyToNumber(ws.Of(Side::Future).txtResultsTotal->Text()) == 0)
     balance.SetText("0");
@@ -221,14 +221,13 @@ void UpdateTotalTab(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) 
   WriteZeroIfEmpty(*past.txtResultsTotal);
   WriteZeroIfEmpty(*future.txtResultsTotal);
 
-  const CountedPeriods pastCounted = CountedOf(past, pastSide);
-  const CountedPeriods futureCounted = CountedOf(future, futureSide);
+  const BothSides both(ws, pastSide, futureSide);
   // As the boxes stand, also that of a side of which nothing counts: a press writes a total with disabled
   // periods in it.
   const double onScreen =
       MoneyToNumber(past.txtResultsTotal->Text()) + MoneyToNumber(future.txtResultsTotal->Text());
   ws.txtResultsTotalSummaryTot->SetText(ws.Money(onScreen, kTotalFormat));
-  const bool anything = pastCounted.worthCounting || futureCounted.worthCounting;
+  const bool anything = both.AnyWorthCounting();
   EnableTotals(ws, anything);
   ws.cmdAdvResultsDocSummaryTot->SetEnabled(anything);
   ws.cmdAdvResultsSpdSummaryTot->SetEnabled(anything);
@@ -239,25 +238,22 @@ void UpdateTotalTab(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) 
     return;
   }
 
-  ws.txtCumulativeResultsTotalSummaryTot->SetText(
-      BalanceOfBothSides(ws, pastCounted, futureCounted, pastSide, futureSide, WarningOf(ws)));
-  const std::string anchor = LastStop(ws, pastCounted, futureCounted, pastSide, futureSide);
-  FillFutureDates(ws, anchor, futureCounted.worthCounting ? 105 : 155);
+  ws.txtCumulativeResultsTotalSummaryTot->SetText(BalanceOf(both, WarningOf(ws)));
+  const std::string anchor = both.LastStop();
+  FillFutureDates(ws, anchor, both.future.worthCounting ? 105 : 155);
   EvaluateFutureDate(ws, anchor);
 }
 
 void UpdateFutureDateTotal(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide) {
   ++ws.GetSession().timesSet;
-  const CountedPeriods past = CountedOf(ws.Of(Side::Past), pastSide);
-  const CountedPeriods future = CountedOf(ws.Of(Side::Future), futureSide);
+  const BothSides both(ws, pastSide, futureSide);
+  const auto& [past, future] = both;
   std::string& pastDate = ws.Of(Side::Past).state.BeginManualDate;
   std::string& futureDate = ws.Of(Side::Future).state.BeginManualDate;
   // A total of "$0" with a period counted differs from "0": its date is noted though its way is not taken.
-  if (ws.Of(Side::Past).txtResultsTotal->Text() != "0" && past.last != 0)
-    pastDate = ws.Store().At(past.last, pastSide).StopLabel;
-  if (ws.Of(Side::Future).txtResultsTotal->Text() != "0" && future.last != 0)
-    futureDate = ws.Store().At(future.last, futureSide).StopLabel;
-  if (past.worthCounting || future.worthCounting) {
+  if (past.side.txtResultsTotal->Text() != "0" && past.last != 0) pastDate = past.LastStop();
+  if (future.side.txtResultsTotal->Text() != "0" && future.last != 0) futureDate = future.LastStop();
+  if (both.AnyWorthCounting()) {
     EvaluateFutureDate(ws, future.worthCounting ? futureDate : pastDate);
   } else {
     // The summary of the costs keeps what it had.

@@ -37,10 +37,6 @@ struct CountedPeriods {
 };
 CountedPeriods CountedOf(const WorkspaceSide& side, SideIndex sideIndex);
 
-// The balance of both sides at the last stop, as text: the future chain opened with the past's balance
-// grown over the gap between them. Both sides must be worth counting.
-std::string PastCarriedIntoFuture(SinWorkspace& ws, SideIndex pastSide, SideIndex futureSide);
-
 // The figure in txtCumulativeFutureDateTot with what it came from.
 struct FutureDateFigure {
   std::string from, date;  // labels: the stop of the last period that counts, and the chosen date
