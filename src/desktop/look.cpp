@@ -32,9 +32,9 @@ class DesktopStyle : public QProxyStyle {
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
     if (element != PE_Frame) QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (element != PE_Frame && element != PE_PanelMenu) return;
-    painter->setPen(Colour(Tone::FrameLine));
-    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    const bool ofDialogs = element == PE_FrameLineEdit || element == PE_PanelButtonCommand;
+    if (element == PE_Frame || element == PE_PanelMenu || (ofDialogs && IsBlack()))
+      DrawOutline(*painter, option->rect);
   }
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override {
@@ -50,8 +50,11 @@ class DesktopStyle : public QProxyStyle {
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override {
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (control != CC_ScrollBar || bar == nullptr)
-      return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control != CC_ScrollBar || bar == nullptr) {
+      QProxyStyle::drawComplexControl(control, option, painter, widget);
+      if (control == CC_ComboBox && IsBlack()) DrawOutline(*painter, option->rect);
+      return;
+    }
     painter->fillRect(bar->rect, Colour(Tone::PanelGround));
     const auto part = [&](SubControl sub) { return subControlRect(CC_ScrollBar, bar, sub, widget); };
     if (bar->minimum < bar->maximum) DrawSlider(*painter, part(SC_ScrollBarSlider), *bar);
@@ -61,6 +64,12 @@ class DesktopStyle : public QProxyStyle {
   }
 
  private:
+  static bool IsBlack() { return CurrentTheme() == Theme::HighContrast; }
+  static void DrawOutline(QPainter& painter, const QRect& room) {
+    painter.setPen(Colour(Tone::FrameLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(room.adjusted(0, 0, -1, -1));
+  }
   static void DrawSlider(QPainter& painter, const QRect& room, const QStyleOptionSlider& bar) {
     const bool held =
         bar.activeSubControls & SC_ScrollBarSlider && bar.state & (State_Sunken | State_MouseOver);
