@@ -322,12 +322,19 @@ std::string FormatNumber(double value, std::string_view format) {
   return text;
 }
 
+namespace {
+
+// Out of line, so that rounding the months of a report sets nothing up for it.
+[[gnu::noinline]] double RoundToCentsByText(double value) {
+  return TextToNumber(FormatNumber(value, "0.00"));
+}
+
+}  // namespace
+
 double RoundToCents(double value) {
-  double cents;
-  if (const auto rounded = FastRounded(value, 100))
-    cents = static_cast<double>(*rounded) / 100;
-  else
-    return TextToNumber(FormatNumber(value, "0.00"));
+  const auto rounded = FastRounded(value, 100);
+  if (!rounded) return RoundToCentsByText(value);
+  const double cents = static_cast<double>(*rounded) / 100;
   return value < 0 ? -cents : cents;
 }
 
