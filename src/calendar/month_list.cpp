@@ -6,16 +6,30 @@
 
 namespace vicetoll {
 
-bool ReachesAStep(const std::string& first, const std::string& last, std::int16_t step) {
+namespace {
+
+void RequireStep(std::int16_t step) {
   if (step == 0) throw Fault(FaultKind::Overflow, "A list of months needs a step.");
-  return static_cast<double>(MonthsBetween(first, last)) / step >= 1;
+}
+
+bool IsAStep(std::int16_t months, std::int16_t step) { return static_cast<double>(months) / step >= 1; }
+
+}  // namespace
+
+bool ReachesAStep(const std::string& first, const std::string& last, std::int16_t step) {
+  RequireStep(step);
+  return IsAStep(MonthsBetween(first, last), step);
 }
 
 std::vector<std::string> MonthList(const std::string& first, const std::string& last, std::int16_t step) {
-  std::vector<std::string> labels{first};
-  if (ReachesAStep(first, last, step)) {
-    const int untilLast = MonthsBetween(first, last) - step;
-    if (untilLast > 0) labels.reserve(untilLast / step + 3);
+  RequireStep(step);
+  const std::int16_t months = MonthsBetween(first, last);
+  const bool hasSteps = IsAStep(months, step);
+  std::vector<std::string> labels;
+  labels.reserve(hasSteps ? months / step + 2 : 2);
+  labels.push_back(first);
+  if (hasSteps) {
+    const int untilLast = months - step;
     std::int16_t month = MonthNumberFromLabel(first);
     std::int16_t year = YearFromLabel(first);
     for (int done = 0; done < untilLast; done += step) {

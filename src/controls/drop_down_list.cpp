@@ -2,6 +2,7 @@
 #include "controls/drop_down_list.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/fault.h"
 

@@ -2,6 +2,7 @@
 #include "controls/entry_list.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vicetoll {
 

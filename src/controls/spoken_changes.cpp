@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controls/spoken_changes.h"
 
+#include <utility>
+
 #include "controls/drop_down_list.h"
 #include "controls/spoken_name.h"
 
@@ -34,7 +36,12 @@ void SpokenChanges::FindWhatTells() {
   const auto& controls = form_.Controls();
   for (; controlsSeen_ < controls.size(); ++controlsSeen_) {
     const Control& control = *controls[controlsSeen_];
-    if (const std::string* text = TextOf(control)) tellers_.push_back({&control, text, {}});
+    if (const std::string* text = TextOf(control)) {
+      const Control* before = neighbours_.empty() ? nullptr : neighbours_.back().tellers.back().control;
+      if (before == nullptr || before->Container() != control.Container() || before->Page() != control.Page())
+        neighbours_.emplace_back();
+      neighbours_.back().tellers.push_back({&control, text, {}});
+    }
     if (control.Kind() == ControlKind::TabControl) tabs_ = static_cast<const TabControl*>(&control);
   }
 }
@@ -53,21 +60,16 @@ std::string SpokenChanges::After(const Control* by) {
   if (by != nullptr) told = form_.ResultsOf(*by);
   const bool tellsChanges = !CameToFront() && told.empty();
 
-  // Most stand where the one before does.
-  const Control* container = nullptr;
-  int page = kAnyPage;
-  bool inFront = form_.Shown();
-  for (auto& [control, text, known] : tellers_) {
-    if (control->Container() != container || control->Page() != page) {
-      container = control->Container();
-      page = control->Page();
-      inFront = control->StandsInFront();
-    }
-    if (!inFront || !control->Visible() || !control->Enabled()) {
-      known.clear();
-    } else if (known != *text) {
-      if (tellsChanges && !IsUsersOwnChoice(*control, by)) told.push_back(control);
-      known = *text;
+  for (auto& [tellers, knownInFront] : neighbours_) {
+    const bool inFront = tellers.front().control->StandsInFront();
+    if (!std::exchange(knownInFront, inFront) && !inFront) continue;
+    for (auto& [control, text, known] : tellers) {
+      if (!inFront || !control->Visible() || !control->Enabled()) {
+        known.clear();
+      } else if (known != *text) {
+        if (tellsChanges && !IsUsersOwnChoice(*control, by)) told.push_back(control);
+        known = *text;
+      }
     }
   }
 

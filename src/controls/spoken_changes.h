@@ -27,12 +27,17 @@ class SpokenChanges {
     const std::string* text;
     std::string known;
   };
+  // Those that stand in the same place, one behind the other: they come to the front together.
+  struct Neighbours {
+    std::vector<Teller> tellers;
+    bool inFront = false;  // after the action before; else nothing is known of them
+  };
 
   void FindWhatTells();
   bool CameToFront();
 
   const Form& form_;
-  std::vector<Teller> tellers_;
+  std::vector<Neighbours> neighbours_;
   const TabControl* tabs_ = nullptr;
   std::size_t controlsSeen_ = 0;
   int timesShown_ = 0;

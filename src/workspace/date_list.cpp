@@ -2,6 +2,7 @@
 #include "workspace/date_list.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "calendar/date_label.h"
 #include "calendar/month_list.h"

@@ -11,7 +11,8 @@ std::string SideNextStep(const WorkspaceSide& side) {
   const std::string& press = side.cmdSetPeriodParams->Caption();
   if (!side.Record(period).PeriodSet) {
     const bool amount = side.Class() != CostClass::FlatRateClass;
-    return std::string("Choose dates, ") + (amount ? "amount and cost" : "cost and rates") + ", then press " +
+    return (amount ? "Choose dates, amount and cost, then press "
+                   : "Choose dates, cost and rates, then press ") +
            press;
   }
   const int next = period + 1;
