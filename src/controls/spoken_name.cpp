@@ -16,9 +16,8 @@ const Frame* FrameAround(const Control& control) {
 
 bool HasTwin(const CaptionedControl& control) {
   return std::ranges::any_of(control.Window().Controls(), [&](const auto& other) {
-    const auto* twin = dynamic_cast<const CaptionedControl*>(other.get());
-    return twin != nullptr && twin != &control && twin->Kind() == control.Kind() &&
-           twin->Caption() == control.Caption();
+    return other.get() != &control && other->Kind() == control.Kind() &&
+           static_cast<const CaptionedControl&>(*other).Caption() == control.Caption();
   });
 }
 
