@@ -13,7 +13,7 @@ set(made ${PROJECT_BINARY_DIR}/install)
 set(data ${PROJECT_SOURCE_DIR}/data)
 
 install(TARGETS vicetoll vicetoll-report RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(TARGETS vicetoll_charts LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/vicetoll)
+install(TARGETS vicetoll_charts vicetoll_workbook LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/vicetoll)
 
 install(FILES ${help_texts} DESTINATION ${CMAKE_INSTALL_DATADIR}/vicetoll)
 install(FILES ${help_pictures} DESTINATION ${CMAKE_INSTALL_DATADIR}/vicetoll/pictures)

@@ -2,10 +2,9 @@
 #include "desktop/chart_module.h"
 
 #include <QLabel>
-#include <QLibrary>
 
+#include "base/module.h"
 #include "desktop/desktop.h"
-#include "desktop/places.h"
 #include "desktop/themes.h"
 
 namespace vicetoll {
@@ -24,14 +23,7 @@ ChartStyle StyleIn(Theme theme) {
           .focus = Colour(Tone::Focus, theme)};
 }
 
-// A function of the module; nullptr and a reason where there is none.
-template <class Function>
-Function FromModule(const char* name, QString& error) {
-  QLibrary module(ModulesFolder() + QStringLiteral("/libvicetoll_charts.so"));
-  const auto function = reinterpret_cast<Function>(module.resolve(name));
-  if (function == nullptr) error = module.errorString();
-  return function;
-}
+constexpr const char* kChartModule = "charts";
 
 class ChartView : public ControlView {
  public:
@@ -61,8 +53,9 @@ class ChartView : public ControlView {
 // What stands in the place of a chart that cannot be drawn.
 class NoChartView : public ControlView {
  public:
-  NoChartView(Chart& chart, QWidget* parent, const QString& error)
-      : ControlView(chart, new QLabel(QStringLiteral("The chart cannot be drawn: %1").arg(error), parent)) {
+  NoChartView(Chart& chart, QWidget* parent, const std::string& error)
+      : ControlView(chart,
+                    new QLabel(QString::fromStdString("The chart cannot be drawn: " + error), parent)) {
     static_cast<QLabel*>(Widget())->setWordWrap(true);
   }
 
@@ -73,15 +66,15 @@ class NoChartView : public ControlView {
 }  // namespace
 
 std::unique_ptr<ControlView> MakeChartView(Chart& chart, QWidget* parent, Desktop& desktop) {
-  QString error;
-  const auto make = FromModule<MakeChartWidgetFunction>(kMakeChartWidget, error);
+  std::string error;
+  const auto make = FromModule<MakeChartWidgetFunction>(kChartModule, kMakeChartWidget, error);
   if (make == nullptr) return std::make_unique<NoChartView>(chart, parent, error);
   return std::make_unique<ChartView>(chart, make(parent), desktop);
 }
 
 std::string DrawChart(const ChartContents& contents) {
-  QString error;
-  const auto make = FromModule<MakeChartWidgetFunction>(kMakeChartWidget, error);
+  std::string error;
+  const auto make = FromModule<MakeChartWidgetFunction>(kChartModule, kMakeChartWidget, error);
   if (make == nullptr) return {};
   const std::unique_ptr<ChartWidget> widget(make(nullptr));
   widget->resize(kDrawnSize);
@@ -91,8 +84,8 @@ std::string DrawChart(const ChartContents& contents) {
 }
 
 bool PaintPicture(QPainter& painter, const QRectF& room, std::string_view svg) {
-  QString error;
-  const auto paint = FromModule<PaintSvgFunction>(kPaintSvg, error);
+  std::string error;
+  const auto paint = FromModule<PaintSvgFunction>(kChartModule, kPaintSvg, error);
   return paint != nullptr && paint(painter, room, QByteArray(svg.data(), static_cast<qsizetype>(svg.size())));
 }
 

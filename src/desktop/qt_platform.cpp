@@ -26,8 +26,8 @@
 #include <cstdio>
 
 #include "base/file_writer.h"
+#include "base/places.h"
 #include "desktop/page_progress.h"
-#include "desktop/places.h"
 #include "desktop/printing.h"
 #include "desktop/report_pages.h"
 #include "desktop/text.h"
@@ -296,7 +296,7 @@ void QtPlatform::SetClipboard(std::string_view text) { QApplication::clipboard()
 
 std::string QtPlatform::Clipboard() { return FromQt(QApplication::clipboard()->text()); }
 
-std::string QtPlatform::ProgramFolder() { return QFile::encodeName(TextsFolder()).toStdString(); }
+std::string QtPlatform::ProgramFolder() { return TextsFolder(); }
 
 void QtPlatform::Browse(std::string_view url) {
   if (!QDesktopServices::openUrl(QUrl(ToQt(url))))

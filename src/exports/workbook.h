@@ -31,7 +31,12 @@ struct Workbook {
 
 // The bytes of the file. They depend on the workbook alone. Numbers are numbers, months the dates of their
 // first days (a month before 1900 is a text), headings stay in view, formulas have their results beside them.
-// Throws Fault(File) with the reason where there is no room for the files it is put together from.
+// Throws Fault(File) with the reason where there is no room for the files it is put together from, or where
+// the module that makes workbooks cannot be loaded.
 std::string BytesOf(const Workbook& workbook);
+
+// What the module offers, and its name.
+using WriteWorkbookFunction = void (*)(const Workbook& workbook, std::string& bytes);
+inline constexpr const char* kWriteWorkbook = "WriteWorkbook";
 
 }  // namespace vicetoll

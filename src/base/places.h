@@ -2,14 +2,14 @@
 // Where the program finds what belongs to it: in any prefix it is installed in, and in the build tree.
 #pragma once
 
-#include <QString>
+#include <string>
 
 namespace vicetoll {
 
 // The folder of the help texts and their pictures.
-QString TextsFolder();
+std::string TextsFolder();
 
 // The folder of the modules that are loaded at their first use.
-QString ModulesFolder();
+std::string ModulesFolder();
 
 }  // namespace vicetoll
