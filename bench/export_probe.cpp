@@ -3,41 +3,21 @@
 // of smoking over 165 years, about 2,000 months, in each kind of file; medians. Every price counts: what is
 // remembered when the grid opens, and what is done at a press of the button, the writing of the file left
 // out.
-#include <QApplication>
-#include <algorithm>
 #include <cstdio>
-#include <ctime>
-#include <vector>
+#include <string>
 
 #include "desktop/chart_module.h"
-#include "desktop/desktop.h"
-#include "desktop/look.h"
-#include "desktop/qt_platform.h"
 #include "desktop/report_pages.h"
 #include "exports/csv.h"
 #include "exports/report_export.h"
+#include "probe.h"
 
 namespace vicetoll {
 namespace {
 
-void CommitLongest(Desktop& desktop, SinWorkspace& ws, Side side) {
-  SideControls& c = ws.Of(side);
-  desktop.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(side == Side::Past ? kPastTab : kFutureTab); });
-  desktop.Enter([&] { c.comStart->UserPicks(0); });
-  desktop.Enter([&] { c.comStop->UserPicks(c.comStop->Count() - 1); });
-  desktop.Enter([&] { c.cmdSetPeriodParams->UserClicks(); });
-}
-
 void Measure(const char* what, std::size_t rows, double atMost, const std::function<std::size_t()>& action) {
-  std::vector<double> times;
   std::size_t bytes = 0;
-  for (int i = 0; i < 9; ++i) {
-    const std::clock_t start = std::clock();
-    bytes = action();
-    times.push_back(static_cast<double>(std::clock() - start) * 1000 / CLOCKS_PER_SEC);
-  }
-  std::sort(times.begin(), times.end());
-  const double median = times[times.size() / 2];
+  const double median = MedianMilliseconds([&] { bytes = action(); }, [] {}, ProcessorMilliseconds);
   std::printf("%-24s %8.1f %8.0f %12.0f %10zu\n", what, median, atMost,
               static_cast<double>(rows) / median * 1000, bytes);
 }
@@ -47,14 +27,10 @@ void Measure(const char* what, std::size_t rows, double atMost, const std::funct
 
 int main(int argc, char** argv) {
   using namespace vicetoll;
-  QApplication application(argc, argv);
-  ApplyLook(application);
-  QtPlatform platform;
-  Program program(platform);
-  Desktop desktop(program);
-  SinWorkspace& ws = program.At(0);
-  for (Side side : kSides) CommitLongest(desktop, ws, side);
-  desktop.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(kTotalTab); });
+  Probe probe(argc, argv);
+  SinWorkspace& ws = probe.Smoking();
+  probe.SetLongestPeriods();
+  probe.OpenTab(kTotalTab);
   const ReportExport report = ReportExportOf(ws, ReportScope::Total);
   const std::size_t rows = report.months.size();
   std::printf("%-24s %8s %8s %12s %10s\n", (std::to_string(rows) + " months").c_str(), "ms", "at most",

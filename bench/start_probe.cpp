@@ -4,20 +4,15 @@
 // milliseconds of the first switch to another sin until that is painted, and peak memory by then.
 #include <unistd.h>
 
-#include <QApplication>
 #include <QTimer>
-#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
 #include <fstream>
 #include <string>
 
-#include "desktop/desktop.h"
-#include "desktop/form_window.h"
-#include "desktop/look.h"
-#include "desktop/qt_platform.h"
 #include "desktop/scale.h"
+#include "probe.h"
 
 namespace {
 
@@ -59,9 +54,7 @@ int main(int argc, char** argv) {
     execv("/proc/self/exe", argv);
     return 1;
   }
-  QApplication application(argc, argv);
-  std::setlocale(LC_NUMERIC, "C");  // figures are read and printed with a point
-  ApplyLook(application);
+  ProbeApplication application(argc, argv);
   PaintWatch watch;
   application.installEventFilter(&watch);
   QtPlatform platform;

@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // tabs-probe: what 3,000 changes of tab cost, in milliseconds each and in memory: the rate lists of the TOTAL
 // tab get their 101 entries again at each. Then what the list of many entries costs when it is opened.
-#include <QApplication>
-#include <QElapsedTimer>
-#include <clocale>
 #include <cstdio>
 #include <fstream>
 #include <string>
 
-#include "desktop/desktop.h"
-#include "desktop/form_window.h"
-#include "desktop/look.h"
-#include "desktop/qt_platform.h"
 #include "desktop/widgets.h"
+#include "probe.h"
 
 namespace {
 
@@ -25,28 +19,17 @@ double Mebibytes() {
   return 0;
 }
 
-double Milliseconds(const QElapsedTimer& timer) { return static_cast<double>(timer.nsecsElapsed()) / 1e6; }
-
 }  // namespace
 
 int main(int argc, char** argv) {
   using namespace vicetoll;
-  QApplication application(argc, argv);
-  std::setlocale(LC_NUMERIC, "C");  // figures are read and printed with a point
-  ApplyLook(application);
-  QtPlatform platform;
-  Program program(platform);
-  Desktop desktop(program);
-  SinWorkspace& ws = program.At(0);
+  Probe probe(argc, argv);
+  SinWorkspace& ws = probe.Smoking();
   // The milliseconds of the change alone, not of painting the tab.
   const auto change = [&](int times) {
     double all = 0;
     for (int i = 0; i < times; ++i) {
-      const Tab tab = i % 2 == 0 ? kTotalTab : kPastTab;
-      QElapsedTimer timer;
-      timer.start();
-      desktop.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(tab); });
-      all += Milliseconds(timer);
+      all += Milliseconds([&] { probe.OpenTab(i % 2 == 0 ? kTotalTab : kPastTab); });
       QApplication::processEvents();
     }
     return all / times;
@@ -56,13 +39,13 @@ int main(int argc, char** argv) {
   const double each = change(kChanges);
   const double grown = Mebibytes() - before;
   const double last = change(100);
-  desktop.Enter([&] { ws.SSTab_PastFutureSwitch->UserSelects(kTotalTab); });
-  auto* list = dynamic_cast<BlueList*>(desktop.WindowOf(ws).WidgetOf(*ws.comInterestRateFutureDateTot));
-  QElapsedTimer timer;
-  timer.start();
-  list->showPopup();
-  QApplication::processEvents();
-  const double popup = Milliseconds(timer);
+  probe.OpenTab(kTotalTab);
+  auto* list =
+      dynamic_cast<BlueList*>(probe.GetDesktop().WindowOf(ws).WidgetOf(*ws.comInterestRateFutureDateTot));
+  const double popup = Milliseconds([&] {
+    list->showPopup();
+    QApplication::processEvents();
+  });
   std::printf("%-40s %10s %10s\n", "3,000 changes of tab", "measured", "at most");
   std::printf("%-40s %10.2f %10d\n", "milliseconds each", each, 1);
   std::printf("%-40s %10.2f %10d\n", "milliseconds each of a further hundred", last, 1);
