@@ -306,7 +306,9 @@ ReportExport ReportExportOf(SinWorkspace& ws, ReportScope scope) {
   MonthReport walked = ReportOf(ws, scope);
   report.chart = GrowthOf(ws, walked, report.present);
   report.months = std::move(walked.months);
-  std::ranges::stable_sort(report.months, {}, &ReportMonth::index);
+  // Reports nearly always come in order.
+  if (!std::ranges::is_sorted(report.months, {}, &ReportMonth::index))
+    std::ranges::stable_sort(report.months, {}, &ReportMonth::index);
   AddPeriods(ws, report);
   return report;
 }
