@@ -81,7 +81,7 @@ void CombinedResults::MakeTicks() {
     };
     chkWhichSins_[i] = &tick;
   }
-  Label& total = Add<Label>({"lblTotal", kNoIndex, &frame}, "Total");
+  Label& total = Add<Label>({"lblTotal", kNoIndex, &frame}, kTotalCaption);
   total.SetPlace({150, kTotalTop, kTickWidth - 250, kCellHeight});
 }
 
