@@ -176,7 +176,7 @@ bool BlueList::TakesLetter(const QKeyEvent& key) const {
   const bool bare = (key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
   if (isEditable() || !bare || key.text().isEmpty() || !key.text()[0].isPrint()) return false;
   return key.text() != QStringLiteral(" ") ||
-         (!typed_.isEmpty() && sinceTyped_.isValid() && !sinceTyped_.hasExpired(kTypingPause));
+         (sinceTyped_.isValid() && !sinceTyped_.hasExpired(kTypingPause));
 }
 
 // The entry that is meant by all that was typed without a pause; -1, and the letter forgotten, if none is.

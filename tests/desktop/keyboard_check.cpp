@@ -307,6 +307,11 @@ TEST_F(Keyboard, TypingInAListFinds) {
   FocusOn(Smoking(), "comInitialCostPast");
   Type("7.5");
   EXPECT_EQ(past.comInitialCost->Text(), "$7.50");
+  // A blank behind letters that no entry has does not open the list: it goes on in the text.
+  FocusOn(Smoking(), "comStopPast");
+  Type("xyz 2025");
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  EXPECT_TRUE(past.comStop->Text().ends_with(" - 2025")) << past.comStop->Text();
   Open(Smoking(), kFutureTab);
   FocusOn(Smoking(), "optFineDateStopFut");
   SideControls& future = Smoking().Of(Side::Future);
