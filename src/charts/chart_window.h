@@ -14,7 +14,7 @@ namespace vicetoll {
 
 class ChartWindow : public Form {
  public:
-  Chart& GetChart() { return *chart_; }
+  Chart& GetChart() const { return *chart_; }
   Button* CloseButton() const override { return buttons_.back(); }
   Control* FirstFocus() const override { return chart_; }
 

@@ -13,8 +13,11 @@ GrowthWindow::GrowthWindow(Platform& platform)
     const ChartContents& contents = GetChart().Contents();
     readout_->SetCaption(contents.Empty() ? contents.emptyText : Readout(contents, GetChart().Cursor()));
   };
-  // So whoever listens to the chart hears each month that the cursor comes to.
-  GetChart().SetLabelledBy({readout_});
+}
+
+std::vector<const Control*> GrowthWindow::ResultsOf(const Control& by) const {
+  if (&by != &GetChart()) return {};
+  return {readout_};
 }
 
 void GrowthWindow::Follow(const SinWorkspace& ws) {

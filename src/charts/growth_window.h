@@ -11,6 +11,9 @@ class GrowthWindow : public ChartWindow {
  public:
   explicit GrowthWindow(Platform& platform);
 
+  // Whoever listens to the chart hears the month that the cursor has come to.
+  std::vector<const Control*> ResultsOf(const Control& by) const override;
+
   // Shows that sin as it stands now.
   void Follow(const SinWorkspace& ws);
 

@@ -113,8 +113,8 @@ class Form {
   std::function<void(const Control*)> onUserActed;
   void Acted(const Control* by);
 
-  // The boxes that say what came of an action on a control, whether or not they say something new; none
-  // where nothing but changes is worth telling.
+  // The boxes, lists and labels that say what came of an action on a control, whether or not they say
+  // something new; none where nothing but changes is worth telling.
   virtual std::vector<const Control*> ResultsOf(const Control&) const { return {}; }
   // Tells those who listen to the window what it shows by now.
   void Announce(std::string_view text);

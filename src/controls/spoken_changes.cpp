@@ -24,6 +24,13 @@ const std::string* TextOf(const Control& control) {
   }
 }
 
+// A caption tells all by itself; of a text it is said whose it is.
+std::string WordsOf(const Control& control) {
+  if (control.Kind() == ControlKind::Label) return static_cast<const Label&>(control).Caption();
+  const std::string& text = *TextOf(control);
+  return SpokenName(control) + ": " + (text.empty() ? "empty" : text);
+}
+
 bool IsUsersOwnChoice(const Control& control, const Control* by) {
   const auto* list = dynamic_cast<const DropDownList*>(&control);
   return list != nullptr && list == by && list->Chosen() == list->Text();
@@ -76,8 +83,7 @@ std::string SpokenChanges::After(const Control* by) {
   std::string words;
   for (std::size_t i = 0; i < told.size() && i < kMostTold; ++i) {
     if (!words.empty()) words += "; ";
-    const std::string& text = *TextOf(*told[i]);
-    words += SpokenName(*told[i]) + ": " + (text.empty() ? "empty" : text);
+    words += WordsOf(*told[i]);
   }
   if (told.size() > kMostTold) words += "; and " + std::to_string(told.size() - kMostTold) + " more";
   return words;

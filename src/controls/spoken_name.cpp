@@ -24,9 +24,8 @@ bool HasTwin(const CaptionedControl& control) {
 }  // namespace
 
 bool FillsWindow(const Control& control) {
-  if (control.Kind() == ControlKind::Chart) return control.LabelledBy().empty();
   return control.Kind() == ControlKind::Grid || control.Kind() == ControlKind::DocumentText ||
-         control.Kind() == ControlKind::TabControl;
+         control.Kind() == ControlKind::Chart || control.Kind() == ControlKind::TabControl;
 }
 
 std::vector<const CaptionedControl*> Namers(const Control& control) {

@@ -3,6 +3,7 @@
 
 #include <QAccessibleWidget>
 
+#include "desktop/chart_widget.h"
 #include "desktop/form_window.h"
 #include "desktop/widgets.h"
 
@@ -93,9 +94,15 @@ class ListInterface : public QAccessibleWidget, public QAccessibleTextInterface 
   BlueList& list_;
 };
 
+class ChartInterface : public QAccessibleWidget {
+ public:
+  explicit ChartInterface(ChartWidget* chart) : QAccessibleWidget(chart, QAccessible::Chart) {}
+};
+
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
   if (auto* list = dynamic_cast<BlueList*>(object)) return new ListInterface(list);
   if (auto* option = dynamic_cast<RadioWidget*>(object)) return new OptionInterface(option);
+  if (auto* chart = dynamic_cast<ChartWidget*>(object)) return new ChartInterface(chart);
   if (auto* text = dynamic_cast<SpokenText*>(object)) return new SpokenTextInterface(text);
   if (auto* window = dynamic_cast<FormWindow*>(object)) return new WindowInterface(window);
   return nullptr;

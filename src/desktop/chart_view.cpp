@@ -638,7 +638,10 @@ class BarScene : public Scene {
 // A plot that can be emptied as a whole, and shows the ring of whoever has the focus for it.
 class Plot : public QCustomPlot {
  public:
-  explicit Plot(QWidget* parent) : QCustomPlot(parent) { setAttribute(Qt::WA_TransparentForMouseEvents); }
+  explicit Plot(QWidget* parent) : QCustomPlot(parent) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFocusPolicy(Qt::NoFocus);  // the widget around it has the name and the keys
+  }
   QColor ring;
 
  protected:

@@ -64,6 +64,8 @@ TEST_F(Accessible, WhatTakesTheFocusHasANameThatIsNotItsValue) {
   desktop.Enter([&] { past.cmdAdvResultsSpd->UserClicks(); });
   desktop.Enter([&] { past.cmdAdvResultsDoc->UserClicks(); });
   desktop.Enter([&] { program.Current().Get<Button>("cmdCombinedResults").UserClicks(); });
+  desktop.Enter([&] { program.Combined().Get<Button>("cmdChart").UserClicks(); });
+  desktop.Enter([&] { program.Current().Get<Button>("cmdGrowthChart").UserClicks(); });
   desktop.Enter([&] { program.Current().Get<Button>("cmdHelp").UserClicks(); });
   desktop.Enter([&] { program.Current().cmdSwitchSins->UserClicks(); });
   for (const auto& window : desktop.Windows())

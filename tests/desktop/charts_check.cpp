@@ -2,6 +2,7 @@
 // What holds for the drawn charts beyond what scenarios can say: keys, pointing, zoom, pictures.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QImage>
 #include <QMouseEvent>
@@ -62,7 +63,9 @@ TEST_F(Charts, HaveACursorThatKeysMove) {
   EXPECT_EQ(chart.Cursor(), 13);
   EXPECT_TRUE(Readout().starts_with(chart.Contents().months[13].label + ": out of pocket $")) << Readout();
   // Whoever listens hears it.
-  EXPECT_EQ(widget->accessibleName(), ToQt(Readout()));
+  EXPECT_EQ(program.Growth().Announcement(), Readout());
+  EXPECT_EQ(widget->accessibleName(), ToQt(program.Growth().Caption()));
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(widget)->role(), QAccessible::Chart);
   QTest::keyClick(widget, Qt::Key_Left);
   QTest::keyClick(widget, Qt::Key_PageUp);
   EXPECT_EQ(chart.Cursor(), 0);
