@@ -180,8 +180,10 @@ void Desktop::UpdateForms() {
   for (const bool shown : {true, false})
     for (Form* form : changed) {
       if (form->Shown() != shown) continue;
-      FormWindow* const window = shown ? &WindowOf(*form) : FindWindow(*form);
-      if (window != nullptr) window->UpdateForm();
+      if (FormWindow* const window = FindWindow(*form))
+        window->UpdateForm();
+      else if (shown)
+        WindowOf(*form);
     }
   if (!changed.empty()) KeepBeforeWorkspace();
 }

@@ -193,9 +193,9 @@ void FormWindow::GiveAccessKeys() {
 template <class Picks>
 void FormWindow::GiveAccessKeys(QString (&taken)[4], const Picks& picks) {
   for (const auto& view : views_) {
-    auto* widget = dynamic_cast<CaptionButton*>(view->Widget());
-    if (widget == nullptr) continue;
-    const auto& button = dynamic_cast<const Button&>(view->Model());
+    if (view->Model().Kind() != ControlKind::Button) continue;
+    auto* widget = static_cast<CaptionButton*>(view->Widget());
+    const auto& button = static_cast<const Button&>(view->Model());
     int page = kEveryPage;
     for (const Control* c = &button; c != nullptr; c = c->Container())
       if (c->Page() != kAnyPage) page = c->Page();
