@@ -117,7 +117,7 @@ void ChooseFutureDate(SinWorkspace& ws, const FutureDateTerms& terms) {
   ws.comInflationRateFutureDateTot->SetText(terms.inflation);
 }
 
-void ApplyTotal(SinWorkspace& ws, const SinEntries& sin) {
+void ApplyFutureDate(SinWorkspace& ws, const SinEntries& sin) {
   if (!sin.total) return;
   ws.SSTab_PastFutureSwitch->SetTab(kTotalTab);
   // Without a period that counts there is no date to choose.
@@ -131,6 +131,11 @@ void ApplyTotal(SinWorkspace& ws, const SinEntries& sin) {
   if (!sin.totalWaiting) return;
   ChooseFutureDate(ws, *sin.totalWaiting);
   ws.cmdCumulativeFutureDateTot->SetEnabled(open);
+}
+
+void ApplyTotal(SinWorkspace& ws, const SinEntries& sin) {
+  ApplyFutureDate(ws, sin);
+  if (sin.oldBalance) ShowOldBalance(ws, *sin.oldBalance);
 }
 
 }  // namespace

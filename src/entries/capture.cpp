@@ -118,6 +118,7 @@ SinEntries CaptureSin(SinWorkspace& ws) {
   sin.position = ws.Position();
   for (Side side : kSides) sin.Of(side) = CaptureSide(ws.Of(side));
   sin.total = ws.evaluatedAt;
+  sin.oldBalance = OldBalance(ws);
   const FutureDateTerms chosen{ws.comCumulativeFutureDateTot->Text(), ws.comInterestRateFutureDateTot->Text(),
                                ws.comInflationRateFutureDateTot->Text()};
   if (!sin.total) return sin;

@@ -75,6 +75,10 @@ struct SinEntries {
   // The figure that stood there, whole units, where periods have changed since it was reckoned; empty for
   // "n/a". Nobody sees it before it is reckoned anew, but the growth chart goes by it.
   std::optional<std::string> oldFigure;
+  // The balance that the TOTAL tab or the table over all sins reckoned last, whole units, where it is not
+  // what reckoning the tab anew gives. Either reckons anew when it is opened, but the table shows this where
+  // nothing counts and yet both sides have a total: that of a disabled period 1 that was set again.
+  std::optional<std::string> oldBalance;
 
   const SideEntries& Of(Side side) const { return side == Side::Past ? past : future; }
   SideEntries& Of(Side side) { return side == Side::Past ? past : future; }

@@ -196,15 +196,19 @@ SideEntries ReadSide(const JsonValue& sin, int position, Side side) {
   return entries;
 }
 
-// Whole units as digits, with or without a sign; empty for "n/a".
-std::string FigureOf(const JsonValue& value) {
+// Whole units as digits, with or without a sign.
+std::string WholeUnitsOf(const JsonValue& value) {
   std::string_view digits = value.Text();
-  if (digits == kNoFigure) return {};
   if (digits.starts_with('-')) digits.remove_prefix(1);
   const bool good = !digits.empty() && digits.find_first_not_of("0123456789") == std::string_view::npos &&
                     IsNumeric(digits) && NumberToText(TextToNumber(value.Text())) == value.Text();
   if (!good) value.Fail(Quotation(value.Text()) + " is no amount in whole units");
   return value.Text();
+}
+
+// The same, or empty for "n/a".
+std::string FigureOf(const JsonValue& value) {
+  return value.Text() == kNoFigure ? std::string() : WholeUnitsOf(value);
 }
 
 std::optional<FutureDateTerms> ReadTerms(const std::optional<JsonValue>& json) {
@@ -217,7 +221,7 @@ std::optional<FutureDateTerms> ReadTerms(const std::optional<JsonValue>& json) {
 }
 
 SinEntries ReadSin(const JsonValue& json, int position) {
-  json.HasOnly({"past", "pastScreen", "future", "futureScreen", "total", "totalWaiting"});
+  json.HasOnly({"past", "pastScreen", "future", "futureScreen", "total", "oldBalance", "totalWaiting"});
   SinEntries sin;
   sin.position = position;
   for (Side side : kSides) sin.Of(side) = ReadSide(json, position, side);
@@ -229,6 +233,7 @@ SinEntries ReadSin(const JsonValue& json, int position) {
   sin.totalWaiting = ReadTerms(waiting);
   if (const auto figure = total ? total->Optional("oldFigure") : std::nullopt)
     sin.oldFigure = FigureOf(*figure);
+  if (const auto balance = json.Optional("oldBalance")) sin.oldBalance = WholeUnitsOf(*balance);
   if (sin.totalWaiting && !sin.total) json.Member("totalWaiting").Fail("waits, but there is no \"total\"");
   return sin;
 }

@@ -81,6 +81,7 @@ Json SinOf(const SinEntries& sin) {
   if (sin.total) json["total"] = TotalOf(*sin.total);
   if (sin.oldFigure)
     json["total"]["oldFigure"] = sin.oldFigure->empty() ? std::string(kNoFigure) : *sin.oldFigure;
+  if (sin.oldBalance) json["oldBalance"] = *sin.oldBalance;
   if (sin.totalWaiting) json["totalWaiting"] = TotalOf(*sin.totalWaiting);
   return json;
 }

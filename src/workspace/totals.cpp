@@ -193,6 +193,19 @@ std::optional<std::string> OldFutureDateFigure(const SinWorkspace& ws) {
   return shown == kNotAvailable ? std::string() : NumberToText(WholeUnits(shown));
 }
 
+std::optional<std::string> OldBalance(const SinWorkspace& ws) {
+  const BothSides both(ws, ws.Of(Side::Past).Index(), ws.Of(Side::Future).Index());
+  const bool opened = ws.evaluatedAt.has_value();
+  const double anew = opened ? WholeUnits(BalanceOf(both, [](DateFault) {})) : 0;
+  const double shown = WholeUnits(ws.txtCumulativeResultsTotalSummaryTot->Text());
+  if (shown == anew) return std::nullopt;
+  return NumberToText(shown);
+}
+
+void ShowOldBalance(SinWorkspace& ws, const std::string& balance) {
+  ws.txtCumulativeResultsTotalSummaryTot->SetText(ws.Money(TextToNumber(balance), kTotalFormat));
+}
+
 void ShowOldFutureDateFigure(SinWorkspace& ws, const std::string& figure) {
   ws.txtCumulativeFutureDateTot->SetText(figure.empty() ? std::string(kNotAvailable)
                                                         : ws.Money(TextToNumber(figure), kTotalFormat));

@@ -53,6 +53,11 @@ std::optional<FutureDateFigure> FutureDateFigureOf(const SinWorkspace& ws);
 std::optional<std::string> OldFutureDateFigure(const SinWorkspace& ws);
 void ShowOldFutureDateFigure(SinWorkspace& ws, const std::string& figure);
 
+// The same of the balance in txtCumulativeResultsTotalSummaryTot, which the table over all sins writes too:
+// none where it is what the tab would write now, or zero where the tab was never opened.
+std::optional<std::string> OldBalance(const SinWorkspace& ws);
+void ShowOldBalance(SinWorkspace& ws, const std::string& balance);
+
 // A short form of UpdateTotalTab for the table over all sins: brings txtCumulativeResultsTotalSummaryTot up
 // to date and leaves the rest of the tab alone. Where both totals are zero it writes "0", not "n/a"; where
 // one is not, but nothing counts, it leaves the box as it is.

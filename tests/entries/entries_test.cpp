@@ -115,6 +115,8 @@ TEST(Reading, NamesThePlaceAndWhatIsWrong) {
       {"\"interest\": \"5\"", "\"interests\": \"5\"",
        "sins.Drinking.past[1].interests: there is no such field"},
       {"\"interest\": \"5\"", "\"unit\": \"5\"", "sins.Drinking.past[1].unit: stands here twice"},
+      {"\"past\": [", "\"oldBalance\": \"$40\", \"past\": [",
+       "sins.Smoking.oldBalance: \"$40\" is no amount in whole units"},
       {"\"tab\": \"past\"", "\"tab\": [[[[[[[[[[", "tab[1][1][1][1][1][1][1]: nested too deep"},
       {"\"version\": 1", "\"version\": 2",
        "version: this file is of version 2, written by a newer program; this one reads version 1"},
