@@ -79,7 +79,9 @@ int RunProgram(GuardedApplication& application, const std::string& file) {
       QCoreApplication::exit(1);
     };
     application.onException = [&desktop](const std::exception& cause) { desktop.Fail(cause); };
-    if (!file.empty()) desktop.Enter([&] { program.Keeper().OpenFile(file); });
+    const auto open = [&] { desktop.Enter([&] { program.Keeper().OpenFile(file); }); };
+    // As the first event: whoever asks for the end before the loop runs is not heard.
+    if (!file.empty()) QMetaObject::invokeMethod(&application, open, Qt::QueuedConnection);
     status = QCoreApplication::exec();
     keepEntries = nullptr;
   } catch (const std::exception& cause) {  // before the first window is up

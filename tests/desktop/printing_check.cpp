@@ -124,5 +124,19 @@ TEST(ARunEndedFromOutside, KeepsWhatWasSetAndSaysWhere) {
   }
 }
 
+// While a box is open that tells of a file which cannot be opened.
+TEST(ARunEndedFromOutside, EndsBeforeItHasBegun) {
+  const QTemporaryDir room;
+  QTimer::singleShot(50, [] { std::raise(SIGTERM); });
+  // A run that has not heard it ends here, and otherwise.
+  QTimer unheard;
+  unheard.setSingleShot(true);
+  QObject::connect(&unheard, &QTimer::timeout, [] { QCoreApplication::exit(0); });
+  unheard.start(3000);
+  const std::string none = room.filePath(QStringLiteral("none.vicetoll")).toStdString();
+  EXPECT_EQ(RunProgram(dynamic_cast<GuardedApplication&>(*QCoreApplication::instance()), none),
+            128 + SIGTERM);
+}
+
 }  // namespace
 }  // namespace vicetoll

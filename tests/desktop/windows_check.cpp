@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QHelpEvent>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -122,7 +121,7 @@ TEST(Run, EndsWithStatusZeroByItsExitButton) {
 TEST(Run, StartsWithAFile) {
   QString total;
   bool inFront = false;
-  QTimer::singleShot(0, [&] {
+  QTimer::singleShot(20, [&] {
     inFront = WindowNamed("Smoking")->isVisible();
     total = WindowNamed("Smoking")->findChild<QWidget*>("txtResultsTotalFut")->property("text").toString();
     ClickIn("Smoking", "cmdExit");
