@@ -2,7 +2,6 @@
 #include "desktop/form_window.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QHelpEvent>

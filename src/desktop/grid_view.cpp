@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/grid_view.h"
 
-#include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QMouseEvent>
-#include <QPainter>
 
 #include "desktop/desktop.h"
 #include "desktop/grid_model.h"
 #include "desktop/scale.h"
-#include "desktop/text.h"
 
 namespace vicetoll {
 namespace {

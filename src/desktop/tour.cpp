@@ -99,6 +99,7 @@ class Tour {
 
 int TakeTour(const QString& folder) {
   QDir().mkpath(folder);
+  ApplyLook(*qApp);
   QtPlatform platform;
   try {
     Program program(platform);

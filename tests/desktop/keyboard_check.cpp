@@ -3,7 +3,6 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAction>
-#include <QClipboard>
 #include <QMenu>
 #include <QScrollBar>
 #include <QTextBlock>
