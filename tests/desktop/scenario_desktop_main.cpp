@@ -17,13 +17,8 @@ int main(int argc, char** argv) {
   application.setQuitOnLastWindowClosed(false);
   return PlayFile(argc, argv, [](std::istream& lines, const PrintLine& print) {
     WidgetPlatform platform(print);
-    Player player(platform, print, [&platform](Program& program) {
-      auto stage = std::make_unique<WidgetStage>(program);
-      platform.desktop = &stage->GetDesktop();
-      return stage;
-    });
-    const PlayResult result = player.Play(lines);
-    platform.desktop = nullptr;
-    return result;
+    Player player(platform, print,
+                  [&platform](Program& program) { return MakeWidgetStage(program, platform); });
+    return player.Play(lines);
   });
 }

@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::istringstream lines{std::string(TextOf(data, size))};
   ScriptedPlatform platform;  // files stay in memory
   Player player(
-      platform, [](const std::string&) {}, [](Program&) { return std::make_unique<ControlStage>(); });
+      platform, [](const std::string&) {}, [](Program&) { return MakeControlStage(); });
   player.Play(lines);
   return 0;
 }

@@ -11,7 +11,7 @@ int main(int argc, char** argv) {
   if (std::setlocale(LC_ALL, "") != nullptr) std::locale::global(std::locale(""));
   return PlayFile(argc, argv, [](std::istream& lines, const PrintLine& print) {
     ScriptedPlatform platform(print);
-    Player player(platform, print, [](Program&) { return std::make_unique<ControlStage>(); });
+    Player player(platform, print, [](Program&) { return MakeControlStage(); });
     return player.Play(lines);
   });
 }

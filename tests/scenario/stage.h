@@ -5,6 +5,7 @@
 // the hands and the eyes differ.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -69,24 +70,6 @@ class Stage {
 };
 
 // The bare controls.
-class ControlStage : public Stage {
- public:
-  UserOutcome Focus(Control& control) override;
-  UserOutcome Choose(DropDownList& list, int position) override;
-  UserOutcome Click(Control& control) override;
-  UserOutcome SelectTab(TabControl& tabs, int tab) override;
-  UserOutcome Type(Control& control, std::string_view text) override;
-  UserOutcome Resize(Form& form, int width, int height) override;
-  UserOutcome SelectText(DocumentText& document, int start, int length) override;
-  UserOutcome SelectCells(Grid& grid, const CellSpan& cells) override;
-
-  ControlState Read(Control& control) override;
-  FormState Read(Form& form) override;
-  std::vector<std::string> Entries(DropDownList& list) override;
-  std::string Text(Control& control) override;
-  std::vector<std::vector<std::string>> Rows(Grid& grid) override;
-  CellSpan Selection(Grid& grid) override;
-  ChartContents Plotted(Chart& chart) override;
-};
+std::unique_ptr<Stage> MakeControlStage();
 
 }  // namespace vicetoll

@@ -214,12 +214,12 @@ std::string Check(std::uint64_t seed, const Options& options, std::uint64_t& per
   const MonthAndYear now{static_cast<int>(seed % 12) + 1, 1995 + static_cast<int>(random() % 40)};
   MutePlatform platform(now);
   Program program(platform);
-  ControlStage stage;
+  const std::unique_ptr<Stage> stage = MakeControlStage();
   RandomUser user(random, {.fineDates = random() % 3 != 0, .euro = true});
   if (const int sin = static_cast<int>(seed / 12 % kSinCount); sin != 0) program.Enter(sin);
   for (std::uint64_t done = 0; done < options.actions && !program.Ended();)
     for (const UserAction& action : user.Next(program)) {
-      Perform(action, program, stage, platform);
+      Perform(action, program, *stage, platform);
       ++done;
     }
   if (program.Ended()) return {};

@@ -49,7 +49,7 @@ class SoakSession {
   bool Do(const UserAction& action) {
     invariants_.Before(action);
     try {
-      Perform(action, program_, stage_, platform_);
+      Perform(action, program_, *stage_, platform_);
       violation_ = invariants_.After(action);
     } catch (const Fault& fault) {
       violation_ = Violation{"fault " + std::string(FaultName(fault.Kind())), fault.what()};
@@ -71,7 +71,7 @@ class SoakSession {
 
   QuietPlatform platform_;
   Program program_;
-  ControlStage stage_;
+  std::unique_ptr<Stage> stage_ = MakeControlStage();
   Invariants invariants_;
   std::optional<Violation> violation_;
 };
