@@ -53,6 +53,10 @@ bool Control::StandsInFront() const {
   return Container()->ShowsPage(Page()) && Container()->Reachable();
 }
 
+bool Control::StandsOnPageInFront() const {
+  return Container() == nullptr || (Container()->ShowsPage(Page()) && Container()->StandsOnPageInFront());
+}
+
 void Control::TakeStateOf(const Control& other) {
   enabled_ = other.enabled_;
   visible_ = other.visible_;

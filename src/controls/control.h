@@ -107,6 +107,8 @@ class Control {
   bool Reachable() const { return visible_ && enabled_ && StandsInFront(); }
   // Whether the place where it stands is one that a user can get at.
   bool StandsInFront() const;
+  // Whether neither it nor what it stands in is on a tab behind another. Nothing is said of what is hidden.
+  bool StandsOnPageInFront() const;
 
   // Takes over what the control of the same name in another window of the same design shows. Raises no event.
   virtual void TakeStateOf(const Control& other);

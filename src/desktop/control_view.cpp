@@ -159,10 +159,10 @@ class TabView : public ViewOf<TabControl, TabPages> {
 }  // namespace
 
 void ControlView::Update() {
-  UpdateContents();
   const Place& place = control_.GetPlace();
   const QRect room = ScaleOf(widget_).ToPixels(place.left, place.top, place.width, place.height);
   widget_->setGeometry(room);
+  UpdateContents();  // figures are fitted into that room
   if (toolTip_ != control_.ToolTip()) {
     toolTip_ = control_.ToolTip();
     widget_->setToolTip(ToQt(toolTip_));

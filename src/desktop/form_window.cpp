@@ -100,20 +100,11 @@ FormWindow::FormWindow(Form& form, Desktop& desktop) : form_(form), desktop_(des
   setWindowFlags(FlagsFor(form));
   setPalette(ThemePalette(CurrentTheme()));
   MakeSheet();
-  MakeControls();
-  MakeSpokenTexts();
+  MakeMenu();
   GiveAccessKeys();
   keys_ = std::make_unique<WindowKeys>(*this, desktop);
-  for (const auto& view : views_) {
-    view->Update();
-    UpdateName(*view);
-    keys_->Watch(view->Model(), *view->Hand());
-    for (const CaptionedControl* namer : Namers(view->Model())) {
-      namedBy_[namer].push_back(view.get());
-      auto* label = dynamic_cast<CaptionLabel*>(WidgetOf(*namer));
-      if (label != nullptr && label->buddy() == nullptr) label->setBuddy(view->Hand());
-    }
-  }
+  MakePagesInFront();
+  MakeSpokenTexts();
   settled_.setSingleShot(true);
   settled_.setInterval(kSettleMilliseconds);
   connect(&settled_, &QTimer::timeout, this, &FormWindow::TakeSettledSize);
@@ -139,24 +130,68 @@ void FormWindow::MakeSheet() {
   Rescale();
 }
 
-void FormWindow::MakeControls() {
-  for (const auto& control : form_.Controls()) {
-    if (auto* entry = dynamic_cast<MenuEntry*>(control.get())) {
-      MakeMenuEntry(*entry);
-      continue;
-    }
-    QWidget* ground = sheet_;
-    if (const Control* container = control->Container())
-      ground = viewOf_.at(container)->Ground(control->Page());
-    views_.push_back(MakeView(*control, ground, desktop_));
-    ControlView& view = *views_.back();
-    viewOf_[control.get()] = &view;
-    view.Widget()->setObjectName(ToQt(control->FullName()));
-    for (QWidget* widget : {view.Widget(), view.Hand()}) {
-      widget->installEventFilter(this);
-      controlOf_[widget] = control.get();
+// The widgets of a page are made when it first comes to the front: those of the pages behind it would make up
+// two thirds of what a switch to another sin costs, and many are never looked at.
+void FormWindow::MakePagesInFront() {
+  MakeControls([](const Control& control) { return control.StandsOnPageInFront(); });
+}
+
+template <class Picks>
+void FormWindow::MakeControls(const Picks& picks) {
+  const std::size_t before = views_.size();
+  for (const auto& control : form_.Controls())
+    if (control->Kind() != ControlKind::MenuEntry && !viewOf_.contains(control.get()) && picks(*control))
+      MakeControl(*control);
+  for (std::size_t i = before; i < views_.size(); ++i) {
+    ControlView& view = *views_[i];
+    view.Update();
+    UpdateName(view);
+    UpdateDescription(view);
+    keys_->Watch(view.Model(), *view.Hand());
+    for (const CaptionedControl* namer : Namers(view.Model())) {
+      namedBy_[namer].push_back(&view);
+      const auto found = viewOf_.find(namer);
+      auto* label = found == viewOf_.end() ? nullptr : dynamic_cast<CaptionLabel*>(found->second->Widget());
+      if (label != nullptr && label->buddy() == nullptr) label->setBuddy(view.Hand());
     }
   }
+  if (before == 0 || before == views_.size()) return;
+  OrderTabStops();
+  for (std::size_t i = before; i < views_.size(); ++i) {
+    QAccessibleEvent made(views_[i]->Widget(), QAccessible::ObjectCreated);
+    QAccessible::updateAccessibility(&made);
+  }
+}
+
+void FormWindow::MakeControl(Control& control) {
+  QWidget* ground = sheet_;
+  if (const Control* container = control.Container()) ground = viewOf_.at(container)->Ground(control.Page());
+  ControlView& view = *views_.emplace_back(MakeView(control, ground, desktop_));
+  viewOf_[&control] = &view;
+  view.Widget()->setObjectName(ToQt(control.FullName()));
+  if (const auto key = accessKeys_.find(&control); key != accessKeys_.end())
+    static_cast<CaptionButton*>(view.Widget())->SetAccessKey(key->second);
+  for (QWidget* widget : {view.Widget(), view.Hand()}) {
+    widget->installEventFilter(this);
+    controlOf_[widget] = &control;
+  }
+}
+
+// What is made later would come last for the Tab key.
+void FormWindow::OrderTabStops() {
+  QWidget* before = nullptr;
+  for (const auto& control : form_.Controls()) {
+    const auto view = viewOf_.find(control.get());
+    if (view == viewOf_.end() || view->second->Hand()->focusPolicy() == Qt::NoFocus) continue;
+    QWidget* const hand = view->second->Hand();
+    if (before != nullptr) setTabOrder(before, hand);
+    before = hand;
+  }
+}
+
+void FormWindow::MakeMenu() {
+  for (const auto& control : form_.Controls())
+    if (auto* entry = dynamic_cast<MenuEntry*>(control.get())) MakeMenuEntry(*entry);
 }
 
 void FormWindow::MakeMenuEntry(MenuEntry& entry) {
@@ -173,11 +208,9 @@ void FormWindow::MakeMenuEntry(MenuEntry& entry) {
 // theirs; those with keys of their own have the last.
 void FormWindow::GiveAccessKeys() {
   QString taken[4];
-  for (const auto& view : views_) {
-    const auto* tabs = dynamic_cast<const TabPages*>(view->Widget());
-    for (int i = 0; tabs != nullptr && i < tabs->Bar()->count(); ++i)
-      taken[kEveryPage] += AccessKeyOf(tabs->Bar()->tabText(i));
-  }
+  for (const auto& control : form_.Controls())
+    if (const auto* tabs = dynamic_cast<const TabControl*>(control.get()))
+      for (const std::string& caption : tabs->PageCaptions()) taken[kEveryPage] += AccessKeyOf(ToQt(caption));
   GiveAccessKeys(taken, [](const Button& button, int) { return button.AccessKey() != 0; });
   const auto isPlain = [](const Button& button) { return button.AccessKey() == 0 && button.Keys().empty(); };
   GiveAccessKeys(taken,
@@ -191,10 +224,9 @@ void FormWindow::GiveAccessKeys() {
 
 template <class Picks>
 void FormWindow::GiveAccessKeys(QString (&taken)[4], const Picks& picks) {
-  for (const auto& view : views_) {
-    if (view->Model().Kind() != ControlKind::Button) continue;
-    auto* widget = static_cast<CaptionButton*>(view->Widget());
-    const auto& button = static_cast<const Button&>(view->Model());
+  for (const auto& control : form_.Controls()) {
+    if (control->Kind() != ControlKind::Button) continue;
+    const auto& button = static_cast<const Button&>(*control);
     int page = kEveryPage;
     for (const Control* c = &button; c != nullptr; c = c->Container())
       if (c->Page() != kAnyPage) page = c->Page();
@@ -203,7 +235,7 @@ void FormWindow::GiveAccessKeys(QString (&taken)[4], const Picks& picks) {
                              ? QChar(button.AccessKey())
                              : FreeLetter(ToQt(button.Caption()), taken[kEveryPage] + taken[page]);
     if (letter.isNull()) continue;
-    widget->SetAccessKey(letter);
+    accessKeys_[&button] = letter;
     taken[page] += letter.toUpper();
   }
 }
@@ -233,7 +265,8 @@ void FormWindow::TakeTheme() {
   for (const auto& view : views_) view->TakeTheme();
 }
 
-QWidget* FormWindow::WidgetOf(const Control& control) const {
+QWidget* FormWindow::WidgetOf(const Control& control) {
+  if (!viewOf_.contains(&control)) MakeControls([](const Control&) { return true; });
   const auto view = viewOf_.find(&control);
   return view == viewOf_.end() ? nullptr : view->second->Widget();
 }
@@ -320,6 +353,7 @@ void FormWindow::TellSize() {
 
 void FormWindow::UpdateForm() {
   setWindowTitle(ToQt(form_.Caption()));
+  MakePagesInFront();
   const bool comesUp = form_.Shown() && !isVisible();
   if (comesUp || (Twips() != known_ && !resizing_)) Rescale();
   known_ = Twips();
@@ -420,6 +454,7 @@ void FormWindow::ComeInPlaceOfAnother() {
 }
 
 void FormWindow::UpdateControl(Control& control) {
+  if (control.Kind() == ControlKind::TabControl) MakePagesInFront();
   if (const auto view = viewOf_.find(&control); view != viewOf_.end()) {
     view->second->Update();
     UpdateName(*view->second);
@@ -598,11 +633,13 @@ void FormWindow::ShowBalloon(const Control& control, std::string_view text, QWid
 // What takes the focus behind a control, in the order of reading: of a frame that is what stands in it.
 QWidget* FormWindow::NextOf(const Control& control) const {
   bool behind = false;
-  for (const auto& view : views_) {
-    if (behind && view->Hand()->focusPolicy() != Qt::NoFocus && view->Hand()->isVisible() &&
-        view->Hand()->isEnabled())
-      return view->Hand();
-    behind = behind || &view->Model() == &control;
+  for (const auto& next : form_.Controls()) {
+    const auto view = viewOf_.find(next.get());
+    QWidget* const hand = view == viewOf_.end() ? nullptr : view->second->Hand();
+    if (behind && hand != nullptr && hand->focusPolicy() != Qt::NoFocus && hand->isVisible() &&
+        hand->isEnabled())
+      return hand;
+    behind = behind || next.get() == &control;
   }
   return nullptr;
 }

@@ -45,8 +45,8 @@ class FormWindow : public QWidget {
   // Takes the scale that the font, the zoom and the screen of now ask for.
   void TakeScale();
 
-  // The widget or menu entry of a control of this window.
-  QWidget* WidgetOf(const Control& control) const;
+  // The widget or menu entry of a control of this window. A widget that was never in front is made now.
+  QWidget* WidgetOf(const Control& control);
   QAction* MenuEntryOf(const Control& control) const;
 
   // The user gives the window a size, in twips. Sizes that come from the window system arrive here when
@@ -76,7 +76,12 @@ class FormWindow : public QWidget {
   void showEvent(QShowEvent* event) override;
 
  private:
-  void MakeControls();
+  void MakePagesInFront();
+  template <class Picks>
+  void MakeControls(const Picks& picks);
+  void MakeControl(Control& control);
+  void OrderTabStops();
+  void MakeMenu();
   void MakeMenuEntry(MenuEntry& entry);
   void MakeSpokenTexts();
   void UpdateSpokenTexts();
@@ -124,12 +129,13 @@ class FormWindow : public QWidget {
   bool resizing_ = false;    // the form is being told of a size
   bool filling_ = false;     // the scale is that of a maximised window
   bool newOnScreen_ = true;  // what the window manager adds to the window is not known yet
-  std::vector<std::unique_ptr<ControlView>> views_;
+  std::vector<std::unique_ptr<ControlView>> views_;  // in the order they were made
   std::unordered_map<const Control*, ControlView*> viewOf_;
   std::unordered_map<const QObject*, Control*> controlOf_;
   // Whose names take in the caption of this control.
   std::unordered_map<const Control*, std::vector<const ControlView*>> namedBy_;
   std::unordered_map<const Control*, QAction*> menu_;
+  std::unordered_map<const Control*, QChar> accessKeys_;  // of the buttons
   std::unique_ptr<WindowKeys> keys_;
   SpokenText* foot_ = nullptr;    // the line at the foot, for those who listen
   SpokenText* canvas_ = nullptr;  // what is typed on the bare window

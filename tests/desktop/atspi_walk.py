@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Reads the first window over AT-SPI: prints its tree, and fails where something that takes the focus has no
-name or is named by its value. Then presses the set button and waits for what is announced."""
+name or is named by its value. Then presses the set button and waits for what is announced, turns to a tab
+that was never in front, and reads on."""
 
 import subprocess
 import sys
@@ -71,6 +72,17 @@ def announcement_of_a_press(window):
     return ""
 
 
+def turned_to(window, tab, button):
+    """Whether a press on the tab brings that button, to a reader who knows the tree from before."""
+    page = next(n for n, _ in nodes(window) if n.getRole() == pyatspi.ROLE_PAGE_TAB and n.name == tab)
+    page.queryAction().doAction(0)
+    for _ in range(100):
+        if any(n.name.startswith(button) and showing(n) for n, _ in nodes(window)):
+            return True
+        time.sleep(0.05)
+    return False
+
+
 def main():
     program = subprocess.Popen([sys.argv[1]])
     try:
@@ -80,6 +92,9 @@ def main():
         print(f"announced: {told}")
         if "Out of Pocket Expense: $" not in told or "Total" not in told:
             wrong.append("a press is not announced")
+        if not turned_to(window, "FUTURE", "Set Future Period 1"):
+            wrong.append("a tab brings nothing")
+        wrong += check(window)
         print("\n".join(f"WRONG: {line}" for line in wrong))
         return 1 if wrong else 0
     finally:

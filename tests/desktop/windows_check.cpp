@@ -22,6 +22,7 @@
 #include <fstream>
 #include <set>
 
+#include "controls/spoken_name.h"
 #include "desktop/balloon.h"
 #include "desktop/desktop.h"
 #include "desktop/document_view.h"
@@ -159,10 +160,10 @@ TEST_F(Windows, HaveAWidgetForEveryControlUnderItsName) {
                            "frmInfo", "frmAdvResultsSpd", "frmAdvResultsDoc", "frmGrowth", "frmSinsChart"}) {
     Form& form = *program.Window(name);
     for (const auto& control : form.Controls()) {
-      const QString full = ToQt(control->FullName());
       const bool isEntry = control->Kind() == ControlKind::MenuEntry;
-      EXPECT_TRUE(isEntry ? Of(form).findChild<QAction*>(full) != nullptr
-                          : Of(form).findChild<QWidget*>(full) != nullptr)
+      const QObject* made = isEntry ? static_cast<QObject*>(Of(form).MenuEntryOf(*control))
+                                    : static_cast<QObject*>(Of(form).WidgetOf(*control));
+      EXPECT_TRUE(made != nullptr && made->objectName() == ToQt(control->FullName()))
           << name << " " << control->FullName();
     }
   }
@@ -172,6 +173,34 @@ TEST_F(Windows, AreNotMadeBeforeTheyAreShown) {
   program.At(5);
   desktop.Flush();
   for (QWidget* window : QApplication::topLevelWidgets()) EXPECT_NE(window->objectName(), "Jailing");
+}
+
+// What stands on a tab is made when that comes to the front, as it is by then, for its turn of the Tab key.
+TEST_F(Windows, MakeAPageWhenItComesToTheFront) {
+  FormWindow& window = Of(Smoking());
+  SideControls& future = Smoking().Of(Side::Future);
+  EXPECT_NE(window.findChild<QWidget*>("comStartPast"), nullptr);
+  EXPECT_EQ(window.findChild<QWidget*>("comStartFut"), nullptr);
+  desktop.Enter([&] { future.comStart->SetToolTip("The first month."); });
+  Open(Smoking(), kTotalTab);
+  EXPECT_NE(window.findChild<QWidget*>("txtResultsTotalSummaryTot"), nullptr);
+  EXPECT_EQ(window.findChild<QWidget*>("comStartFut"), nullptr);
+  Open(Smoking(), kFutureTab);
+  auto* list = window.findChild<BlueList*>("comStartFut");
+  ASSERT_NE(list, nullptr);
+  EXPECT_TRUE(list->isVisible());
+  EXPECT_EQ(list->ShownText(), ToQt(future.comStart->Text()));
+  EXPECT_EQ(list->toolTip(), "The first month.");
+  EXPECT_EQ(list->accessibleName(), ToQt(SpokenName(*future.comStart)));
+  EXPECT_TRUE(list->accessibleDescription().endsWith("The first month."));
+  EXPECT_TRUE(window.findChild<CaptionButton*>("cmdSetPeriodParamsFut")->text().contains(u'&'));
+  std::vector<const QWidget*> stops, chain;
+  for (const auto& control : Smoking().Controls())
+    if (control->TakesFocus() && control->Kind() != ControlKind::TabControl)
+      stops.push_back(window.WidgetOf(*control));
+  for (const QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain())
+    if (std::ranges::find(stops, next) != stops.end()) chain.push_back(next);
+  EXPECT_EQ(chain, stops);
 }
 
 TEST_F(Windows, HaveTheSizeOfTheirFormInPixels) {
