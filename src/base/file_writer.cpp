@@ -188,9 +188,11 @@ std::string ReasonOf(int error) {
   return reason != nullptr ? reason : "error " + std::to_string(error);
 }
 
-std::string NotWritten(const std::string& path, int error) {
+std::string NotWritten(const std::string& path, int error) { return NotWritten(path, ReasonOf(error) + "."); }
+
+std::string NotWritten(const std::string& path, const std::string& reason) {
   const std::string name = path.empty() ? std::string("A file without a name") : "The file \"" + path + "\"";
-  return name + " could not be written: " + ReasonOf(error) + ".";
+  return name + " could not be written: " + reason;
 }
 
 void WriteWholeFile(const std::string& path, std::string_view bytes, FileKind kind) {

@@ -39,6 +39,7 @@ class NoKillByFileSize {
 
 // "The file "/home/häß.txt" could not be written: No space left on device.", in UTF-8.
 std::string NotWritten(const std::string& path, int error);
+std::string NotWritten(const std::string& path, const std::string& reason);  // a sentence of its own
 
 // The system's reason for an error number, in English whatever the locale is.
 std::string ReasonOf(int error);

@@ -5,6 +5,7 @@
 
 #include "base/fault.h"
 #include "base/file_suffix.h"
+#include "base/file_writer.h"
 #include "charts/growth_points.h"
 #include "exports/csv.h"
 
@@ -22,6 +23,15 @@ std::string WithSuffix(const std::string& path) {
   const std::filesystem::file_status status = std::filesystem::status(path, none);
   if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) return path;
   return path + std::string(kCsv);
+}
+
+// What fails before there is a file says of which it was to be.
+std::string BytesOfWorkbook(const std::string& path, const Workbook& workbook) {
+  try {
+    return BytesOf(workbook);
+  } catch (const Fault& fault) {
+    throw Fault(fault.Kind(), NotWritten(path, std::string(fault.what())));
+  }
 }
 
 }  // namespace
@@ -81,7 +91,7 @@ void Exporter::Export(Form& window, const Forms& forms) {
 }
 
 std::optional<std::string> Exporter::BytesFor(const std::string& path, const Forms& forms) const {
-  if (HasSuffix(path, kWorkbook)) return BytesOf(forms.workbook());
+  if (HasSuffix(path, kWorkbook)) return BytesOfWorkbook(path, forms.workbook());
   if (!HasSuffix(path, kPdf)) return CsvOf(forms.table());
   std::optional<std::string> bytes = GetPlatform().PdfOf(WithPicture(forms.pages(), forms.chart));
   if (bytes && bytes->empty()) throw Fault(FaultKind::File, "The pages of the PDF cannot be made here.");
