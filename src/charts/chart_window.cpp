@@ -67,25 +67,35 @@ void ChartWindow::PlaceControls() {
   }
 }
 
+// A picture is not worth a run: the user is told why there is none and goes on.
+void ChartWindow::Guarded(std::string_view title, const std::function<void()>& action) const {
+  try {
+    action();
+  } catch (const Fault& fault) {
+    platform_.ShowMessage(title, fault.what(), MessageButtons::Ok);
+  }
+}
+
 void ChartWindow::Copy() {
-  platform_.SetClipboardPicture(chart_->Picture(PictureFormat::Png), TabSeparated(chart_->Contents()));
+  Guarded("Copy Picture", [this] {
+    platform_.SetClipboardPicture(chart_->Picture(PictureFormat::Png), TabSeparated(chart_->Contents()));
+  });
 }
 
 void ChartWindow::SaveAs() {
   const auto chosen = platform_.AskSavePath(filePath_);
   if (!chosen || chosen->empty()) return;
   filePath_ = *chosen;
-  try {
+  Guarded("Save Picture", [this] {
     platform_.WriteFile(filePath_, chart_->Picture(PictureFormatOf(filePath_)));
     Say("Saved in " + filePath_);
-  } catch (const Fault& fault) {
-    // A picture is not worth a run: the user is told why and goes on.
-    platform_.ShowMessage("Save Picture", fault.what(), MessageButtons::Ok);
-  }
+  });
 }
 
 void ChartWindow::Print() {
-  platform_.PrintPicture(chart_->Picture(PictureFormat::Svg), TabSeparated(chart_->Contents()));
+  Guarded("Print", [this] {
+    platform_.PrintPicture(chart_->Picture(PictureFormat::Svg), TabSeparated(chart_->Contents()));
+  });
 }
 
 PictureFormat PictureFormatOf(std::string_view path) {

@@ -2,6 +2,7 @@
 // A window around a chart: the chart, and the buttons that take its picture along.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,6 +34,7 @@ class ChartWindow : public Form {
   void SaveAs();
   void Print();
   void Exit() { Hide(); }
+  void Guarded(std::string_view title, const std::function<void()>& action) const;
 
   Platform& platform_;
   Chart* chart_ = nullptr;

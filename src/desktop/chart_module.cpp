@@ -3,6 +3,7 @@
 
 #include <QLabel>
 
+#include "base/fault.h"
 #include "base/module.h"
 #include "desktop/desktop.h"
 #include "desktop/themes.h"
@@ -24,6 +25,8 @@ ChartStyle StyleIn(Theme theme) {
 }
 
 constexpr const char* kChartModule = "charts";
+
+std::string NotDrawn(const std::string& reason) { return "The chart cannot be drawn: " + reason + "."; }
 
 class ChartView : public ControlView {
  public:
@@ -54,13 +57,17 @@ class ChartView : public ControlView {
 class NoChartView : public ControlView {
  public:
   NoChartView(Chart& chart, QWidget* parent, const std::string& error)
-      : ControlView(chart,
-                    new QLabel(QString::fromStdString("The chart cannot be drawn: " + error), parent)) {
+      : ControlView(chart, new QLabel(QString::fromStdString(NotDrawn(error)), parent)), chart_(chart) {
     static_cast<QLabel*>(Widget())->setWordWrap(true);
+    chart.draw = [error](PictureFormat) -> std::string { throw Fault(FaultKind::File, NotDrawn(error)); };
   }
+  ~NoChartView() override { chart_.draw = nullptr; }
 
  protected:
   void UpdateContents() override {}
+
+ private:
+  Chart& chart_;
 };
 
 }  // namespace
@@ -75,7 +82,7 @@ std::unique_ptr<ControlView> MakeChartView(Chart& chart, QWidget* parent, Deskto
 std::string DrawChart(const ChartContents& contents) {
   std::string error;
   const auto make = FromModule<MakeChartWidgetFunction>(kChartModule, kMakeChartWidget, error);
-  if (make == nullptr) return {};
+  if (make == nullptr) throw Fault(FaultKind::File, NotDrawn(error));
   const std::unique_ptr<ChartWidget> widget(make(nullptr));
   widget->resize(kDrawnSize);
   widget->SetStyle(StyleIn(Theme::Light));

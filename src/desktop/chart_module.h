@@ -16,7 +16,8 @@ namespace vicetoll {
 // be, the view says why.
 std::unique_ptr<ControlView> MakeChartView(Chart& chart, QWidget* parent, Desktop& desktop);
 
-// A chart on white as a picture in SVG, without a window; empty if the module cannot be loaded.
+// A chart on white as a picture in SVG, without a window. Throws Fault(File) with the reason if the module
+// cannot be loaded.
 std::string DrawChart(const ChartContents& contents);
 
 // Paints a picture of a chart, in SVG, as large as it fits into the room. False if that cannot be done.

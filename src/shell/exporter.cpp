@@ -98,8 +98,9 @@ std::optional<std::string> Exporter::BytesFor(const std::string& path, const For
   return bytes;
 }
 
+// Where the picture cannot be drawn the user is told so, and has the pages without it.
 Pages Exporter::WithPicture(Pages pages, const ChartContents& chart) const {
-  if (drawChart && !chart.Empty()) pages.svg = drawChart(chart);
+  if (drawChart && !chart.Empty()) Guarded([&] { pages.svg = drawChart(chart); });
   return pages;
 }
 

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QInputMethodEvent>
+#include <QLabel>
 #include <QTest>
 #include <QTimer>
 #include <exception>
@@ -211,7 +212,12 @@ class WidgetStage : public Stage {
     return state;
   }
 
-  ChartContents Plotted(Chart& chart) override { return Widget<ChartWidget>(chart).Plotted(); }
+  ChartContents Plotted(Chart& chart) override {
+    QWidget& widget = Widget<QWidget>(chart);
+    if (const auto* drawn = dynamic_cast<ChartWidget*>(&widget)) return drawn->Plotted();
+    // What stands in the place of a chart says why.
+    throw BadLine(chart.FullName() + ": " + dynamic_cast<QLabel&>(widget).text().toStdString());
+  }
 
   FormState Read(Form& form) override {
     const FormWindow& window = Window(form);
