@@ -8,9 +8,6 @@
 namespace vicetoll {
 namespace {
 
-constexpr std::string_view kQuantityFormat = "##.00";
-constexpr std::string_view kMoneyFormat = "$#,##0.00";
-
 // The terms of a class with cost modes.
 CostTerms TermsWithModes(CostClass costClass, double initialCost, double finalCost, double quantity,
                          double yearlyFraction, bool percentMode) {
@@ -52,14 +49,15 @@ const std::string& MonthCostCells::Column(int column) const {
 }
 
 MonthCostCells CellsOf(const CostTerms& terms, const MonthFigures& figures) {
+  static const NumberFormat kQuantity("##.00"), kMoney("$#,##0.00");
   MonthCostCells cells;
-  cells.quantity = FormatNumber(figures.quantity, kQuantityFormat);
-  cells.unitCost = FormatNumber(figures.unitCost, kMoneyFormat);
-  cells.monthCost = FormatNumber(figures.monthCost, kMoneyFormat);
+  kQuantity.Append(cells.quantity, figures.quantity);
+  kMoney.Append(cells.unitCost, figures.unitCost);
+  kMoney.Append(cells.monthCost, figures.monthCost);
   if (terms.costClass == CostClass::NetUnitsClass) {
     cells.net = true;
-    cells.reasonableCost = FormatNumber(figures.reasonableCost, kMoneyFormat);
-    cells.adjustedCost = FormatNumber(figures.AdjustedCost(), kMoneyFormat);
+    kMoney.Append(cells.reasonableCost, figures.reasonableCost);
+    kMoney.Append(cells.adjustedCost, figures.AdjustedCost());
   }
   return cells;
 }
