@@ -31,7 +31,7 @@ int main(int argc, char** argv) {
   if (tour) qputenv("QT_QPA_PLATFORM", "offscreen");
   // Qt ends a program without a display before it can say a word.
   const auto none = [](const char* name) { return qEnvironmentVariableIsEmpty(name); };
-  if (none("DISPLAY") && none("WAYLAND_DISPLAY") && none("QT_QPA_PLATFORM")) {
+  if (!line.namesDisplay && none("DISPLAY") && none("WAYLAND_DISPLAY") && none("QT_QPA_PLATFORM")) {
     std::fputs("vicetoll: there is no display to open a window on.\n", stderr);
     return 1;
   }

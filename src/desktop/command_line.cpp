@@ -35,6 +35,12 @@ QStringList OwnArguments(const QStringList& arguments) {
   return own;
 }
 
+bool NamesDisplay(const QStringList& arguments) {
+  for (const char* option : {"-platform", "--platform", "-display", "--display"})
+    if (arguments.contains(QLatin1String(option))) return true;
+  return false;
+}
+
 void Print(std::FILE* to, const QString& text) { std::fputs(qUtf8Printable(text), to); }
 
 }  // namespace
@@ -60,6 +66,7 @@ CommandLine ReadCommandLine(int argc, char** argv) {
                                QStringLiteral("[file]"));
 
   CommandLine line;
+  line.namesDisplay = NamesDisplay(QCoreApplication::arguments());
   QString wrong;
   if (!parser.parse(OwnArguments(QCoreApplication::arguments())))
     wrong = parser.errorText();
