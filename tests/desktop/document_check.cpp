@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QMimeData>
 #include <QTemporaryDir>
@@ -84,17 +83,14 @@ TEST_F(DocumentEditor, ShowsAPasteIntoACutEndOfLine) {
   EXPECT_EQ(edit.Text(), window.Text().Text());
 }
 
-// The old way took a minute for the longest line, and as long for each key.
-TEST_F(DocumentEditor, TakesALongLineWithoutBlanksWithoutDelay) {
-  QElapsedTimer timer;
-  timer.start();
+// To look for the ends of words took a minute for the longest line, and as long for each key.
+TEST_F(DocumentEditor, BreaksALongLineWithoutBlanksAnywhere) {
   Paste(std::string(kLongestLine, 'x'));
   EXPECT_EQ(window.Text().Length(), kLongestLine);
   QTest::keyClick(&edit, Qt::Key_Backspace);
   QApplication::processEvents();
   EXPECT_EQ(window.Text().Length(), kLongestLine - 1);
   EXPECT_EQ(edit.wordWrapMode(), QTextOption::WrapAnywhere);
-  EXPECT_LT(timer.elapsed(), 10'000);
   Set("words again");
   EXPECT_EQ(edit.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
 }

@@ -14,6 +14,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "desktop/activation.h"
 #include "desktop/desktop.h"
 #include "desktop/form_window.h"
 #include "desktop/page_progress.h"
@@ -29,8 +30,7 @@ TEST(TakingAlong, CtrlCInACellOfAllSinsCopiesTheTickedRows) {
   Desktop desktop(program);
   desktop.Enter([&] { program.At(0).Get<Button>("cmdCombinedResults").UserClicks(); });
   FormWindow& window = desktop.WindowOf(program.Combined());
-  window.activateWindow();
-  QApplication::processEvents();
+  ASSERT_TRUE(BringToFront(window));
   auto* cell = window.findChild<QLineEdit*>(QStringLiteral("txtOopSins(3)"));
   ASSERT_NE(cell, nullptr);
   cell->setFocus();

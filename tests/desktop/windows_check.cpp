@@ -918,8 +918,10 @@ TEST(Dialogs, OfAFirstSaveSayThatANameIsNeeded) {
 }
 
 TEST(Dialogs, OfPrintsOfferTheSelectionWhereThereIsOneAndNoPageNumbers) {
+  int dialogs = 0;
   for (const bool selection : {true, false}) {
     WhenUp<QPrintDialog>([&](QPrintDialog& dialog) {
+      ++dialogs;
       const auto option = [&](const char* name) {
         return dialog.findChild<QRadioButton*>(QLatin1String(name));
       };
@@ -936,6 +938,7 @@ TEST(Dialogs, OfPrintsOfferTheSelectionWhereThereIsOneAndNoPageNumbers) {
     WhenUp<QMessageBox>([](QMessageBox& box) { box.accept(); });
     QtPlatform().Print("report", selection);
   }
+  EXPECT_EQ(dialogs, 2);
 }
 
 TEST(Printing, WithoutAPrinterAndAFileGoesNowhereAndSaysSo) {
