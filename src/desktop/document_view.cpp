@@ -11,6 +11,7 @@
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTimer>
+#include <algorithm>
 
 #include "base/file_reader.h"
 #include "desktop/desktop.h"
@@ -132,11 +133,14 @@ void DocumentEdit::KeepTyped(const std::string& text) {
   shown_ = text;
   const QString known = ToQtLines(text);
   setWordWrapMode(WrapsWords(known) ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::WrapAnywhere);
-  if (known == PlainText()) return;
-  const int position = textCursor().position();
+  const QString typed = PlainText();
+  if (known == typed) return;
+  // One character gives way to one "?", also where it is two to Qt.
+  const QString before = typed.left(textCursor().position());
+  const auto pairs = std::ranges::count_if(before, [](QChar c) { return c.isLowSurrogate(); });
   setPlainText(known);
   QTextCursor cursor = textCursor();
-  cursor.setPosition(std::min(position, document()->characterCount() - 1));
+  cursor.setPosition(std::min(static_cast<int>(before.size() - pairs), document()->characterCount() - 1));
   setTextCursor(cursor);
 }
 

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <QFile>
+#include <QInputMethodEvent>
 #include <QMimeData>
 #include <QTemporaryDir>
 #include <QTest>
@@ -65,6 +66,18 @@ TEST_F(DocumentEditor, KeepsNonBreakingBlanksWhenTyping) {
   EXPECT_EQ(edit.Text(),
             "1\xA0"
             "000 $");
+}
+
+// A face is two characters to Qt, and one question mark to the report.
+TEST_F(DocumentEditor, KeepsTheCaretBehindACharacterThatATextCannotHold) {
+  Set("abcd");
+  desktop.Enter([this] { window.Text().UserSelects(2, 0); });
+  QInputMethodEvent face;
+  face.setCommitString(QStringLiteral("\U0001F600"));
+  QApplication::sendEvent(&edit, &face);
+  QTest::keyClicks(&edit, "!");
+  EXPECT_EQ(window.Text().Text(), "ab?!cd");
+  EXPECT_EQ(edit.Text(), "ab?!cd");
 }
 
 TEST_F(DocumentEditor, KeepsNonBreakingBlanksWhenTextIsDragged) {
