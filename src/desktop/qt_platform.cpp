@@ -126,6 +126,25 @@ std::optional<std::string> Chosen(const QString& path) {
   return QFile::encodeName(path).toStdString();
 }
 
+bool MayReplace(const QString& path) {
+  const QString text = QStringLiteral("%1 is there already.\nDo you want to replace it?").arg(path);
+  return AnswerOf(MakeMessageBox({}, text, MessageButtons::OkCancel)->exec()) == Answer::Ok;
+}
+
+// The file that the dialog is left with, its suffix that of a kind. Qt adds none to a name with a point in
+// it.
+std::optional<std::string> ChosenOf(const QStringList& kinds, QFileDialog& dialog) {
+  while (dialog.exec() == QDialog::Accepted) {
+    const QString path = dialog.selectedFiles().value(0);
+    const QFileInfo file(path);
+    const bool device = file.exists() && !file.isFile();
+    if (path.isEmpty() || device || kinds.contains(file.suffix().toLower())) return Chosen(path);
+    const QString whole = path + u'.' + dialog.defaultSuffix();
+    if (!QFileInfo::exists(whole) || MayReplace(whole)) return Chosen(whole);
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 std::optional<std::string> QtPlatform::AskSavePath(std::string_view lastPath) {
@@ -177,8 +196,7 @@ std::optional<std::string> QtPlatform::AskExportPath(std::string_view lastPath) 
   dialog.selectNameFilter(names[last]);
   takeKind(names[last]);
   if (!start.isDir()) dialog.selectFile(start.fileName());
-  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-  return Chosen(dialog.selectedFiles().value(0));
+  return ChosenOf(kinds, dialog);
 }
 
 std::optional<std::string> QtPlatform::PdfOf(const Pages& pages) {

@@ -917,6 +917,22 @@ TEST(Dialogs, OfAFirstSaveSayThatANameIsNeeded) {
   EXPECT_TRUE(title.contains("a file name is needed")) << title.toStdString();
 }
 
+// What is chosen as PDF is PDF, also under a name with a point in it.
+TEST(Dialogs, OfExportsAddTheSuffixOfTheKind) {
+  const QTemporaryDir room;
+  const std::pair<const char*, const char*> names[] = {
+      {"report", "report.pdf"}, {"report 2.0", "report 2.0.pdf"}, {"table.CSV", "table.CSV"}};
+  for (const auto& [typed, wanted] : names) {
+    WhenUp<QFileDialog>([&](QFileDialog& dialog) {
+      for (const QString& kind : dialog.nameFilters())
+        if (kind.contains("*.pdf")) dialog.selectNameFilter(kind), emit dialog.filterSelected(kind);
+      dialog.findChild<QLineEdit*>("fileNameEdit")->setText(room.filePath(typed));
+      QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    EXPECT_EQ(QtPlatform().AskExportPath({}), room.filePath(wanted).toStdString());
+  }
+}
+
 TEST(Dialogs, OfPrintsOfferTheSelectionWhereThereIsOneAndNoPageNumbers) {
   int dialogs = 0;
   for (const bool selection : {true, false}) {
