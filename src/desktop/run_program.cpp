@@ -4,6 +4,7 @@
 #include <csignal>
 #include <cstdio>
 #include <new>
+#include <optional>
 
 #include "base/fault.h"
 #include "desktop/desktop.h"
@@ -57,11 +58,13 @@ int RunProgram(GuardedApplication& application, const std::string& file) {
   std::signal(SIGXFSZ, SIG_IGN);
   QtPlatform platform;
   std::function<void()> keepEntries;
-  const Termination termination([&platform, &keepEntries](int signal) {
+  std::optional<int> asked;  // to end, with this status
+  const Termination termination([&](int signal) {
     platform.NobodyThere();
     // Now, not on the way out: the display may be gone in a moment.
     if (keepEntries) keepEntries();
-    QCoreApplication::exit(128 + signal);
+    asked = 128 + signal;
+    QCoreApplication::exit(*asked);
   });
   int status = 1;
   try {
@@ -75,6 +78,8 @@ int RunProgram(GuardedApplication& application, const std::string& file) {
     platform.beforeWaiting = [&desktop] { desktop.Flush(); };
     desktop.onEnded = [] { QCoreApplication::exit(0); };
     desktop.onFault = [&](const std::exception& cause) {
+      // Such as a first save without a name, whose dialog closed unanswered: the run ends anyway.
+      if (asked) return;
       Tell(cause, program.Keeper().Rescue(platform.DataFolder()));
       QCoreApplication::exit(1);
     };
@@ -88,7 +93,7 @@ int RunProgram(GuardedApplication& application, const std::string& file) {
     Tell(cause, {});
   }
   application.onException = nullptr;
-  return status;
+  return asked.value_or(status);
 }
 
 }  // namespace vicetoll

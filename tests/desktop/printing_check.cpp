@@ -95,6 +95,12 @@ QStringList Rescued(const QTemporaryDir& data) {
   return found;
 }
 
+void Press(const char* name) {
+  for (QWidget* widget : QApplication::topLevelWidgets())
+    if (auto* button = widget->findChild<QPushButton*>(QLatin1String(name)); button && button->isVisible())
+      return button->click();
+}
+
 TEST(ARunEndedFromOutside, ClosesWhatIsOpen) {
   const QTemporaryDir data;
   qputenv("XDG_DATA_HOME", data.path().toUtf8());
@@ -107,11 +113,7 @@ TEST(ARunEndedFromOutside, KeepsWhatWasSetAndSaysWhere) {
   for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
     const QTemporaryDir data;
     qputenv("XDG_DATA_HOME", data.path().toUtf8());
-    QTimer::singleShot(0, [] {
-      for (QWidget* widget : QApplication::topLevelWidgets())
-        if (auto* button = widget->findChild<QPushButton*>(QStringLiteral("cmdSetPeriodParamsPast")))
-          button->click();
-    });
+    QTimer::singleShot(0, [] { Press("cmdSetPeriodParamsPast"); });
     testing::internal::CaptureStderr();
     EXPECT_EQ(RunEndedBy(signal), 128 + signal);
     const std::string told = testing::internal::GetCapturedStderr();
@@ -136,6 +138,25 @@ TEST(ARunEndedFromOutside, EndsBeforeItHasBegun) {
   const std::string none = room.filePath(QStringLiteral("none.vicetoll")).toStdString();
   EXPECT_EQ(RunProgram(dynamic_cast<GuardedApplication&>(*QCoreApplication::instance()), none),
             128 + SIGTERM);
+}
+
+// A first save without a name is a fault: not when its dialog is closed by the end of the run.
+TEST(ARunEndedFromOutside, EndsAsAskedWithTheDialogOfAFirstSaveOpen) {
+  for (const char* report : {"cmdAdvResultsSpdPast", "cmdAdvResultsDocPast"}) {
+    const QTemporaryDir data;
+    qputenv("XDG_DATA_HOME", data.path().toUtf8());
+    bool asked = false;
+    QTimer::singleShot(0, [report] {
+      for (const char* button : {"cmdSetPeriodParamsPast", report, "cmdSaveAs"}) Press(button);
+    });
+    QTimer::singleShot(25, [&asked] { asked = QApplication::activeModalWidget() != nullptr; });
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(RunEndedBy(SIGTERM), 128 + SIGTERM) << report;
+    testing::internal::GetCapturedStderr();
+    qunsetenv("XDG_DATA_HOME");
+    EXPECT_TRUE(asked) << report;
+    EXPECT_EQ(Rescued(data).size(), 1) << report;
+  }
 }
 
 }  // namespace
