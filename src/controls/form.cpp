@@ -120,6 +120,8 @@ void Form::UserPointsAt(const Control* control) {
 }
 
 void Form::TellFocus(const Control& control) {
+  // Who goes on by keys is not told of what the pointer was left on.
+  hint_.PointAt({});
   hint_.Focus(TipOf(&control));
   HintChanged();
 }

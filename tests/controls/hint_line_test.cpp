@@ -74,6 +74,15 @@ TEST_F(HintOfAForm, IsTheToolTipOfTheFocusAndOfThePointerInUnicode) {
   EXPECT_EQ(form.Hint(), "next");
 }
 
+TEST_F(HintOfAForm, GoesOnFromThePointerThatWasLeftBehindToTheFocus) {
+  Button& other = form.Add<Button>({"cmdOther"}, "Other");
+  form.UserPointsAt(&button);
+  other.UserFocuses();
+  EXPECT_EQ(form.Hint(), "next");
+  button.UserFocuses();
+  EXPECT_EQ(form.Hint(), "pays at €5");
+}
+
 TEST_F(HintOfAForm, KeepsWhatAHandlerSaysUntilTheNextAction) {
   button.onClick = [this] { form.Say("paid"); };
   button.UserFocuses();
