@@ -25,12 +25,12 @@ void ReportWindow::Furnish(Control& report) {
   report_ = &report;
   cmdPrint_ = &AddButton("cmdPrint", "Print Results", [this] { Print(); });
   cmdSaveAs_ = &AddButton("cmdSaveAs", "File (Save As)", [this] { SaveAs(); });
-  cmdExit_ = &AddButton("cmdExit", "Exit", [this] { Exit(); });
   cmdPrint_->SetKeys("Ctrl+P");
   cmdSaveAs_->SetKeys("Ctrl+S");
   AddMenuEntry("cmdSelectAll", "Select All", [this] { SelectAll(); });
   AddMenuEntry("cmdCopy", "Copy", [this] { Copy(); });
   AddMore();
+  cmdExit_ = &AddButton("cmdExit", "Exit", [this] { Exit(); });
   onResize = [this] { OnResize(); };
   Resize(kReportWidth, shape_.height);
   SetNextStep("Print or save what is selected, or everything; Exit closes the report");

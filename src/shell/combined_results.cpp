@@ -140,13 +140,13 @@ void CombinedResults::MakeBottom() {
   cmdUpdate_ = &Add<Button>({"cmdUpdate"}, "Update");
   cmdUpdate_->SetPlace({5600, kBottom + 250, 2200, 600});
   cmdUpdate_->onClick = [this] { PopulateCombResultsText(); };
-  cmdExit_ = &Add<Button>({"cmdExit"}, "Exit");
-  cmdExit_->SetPlace({kCombinedWidth - kMargin - 2200, kBottom + 250, 2200, 600});
-  cmdExit_->onClick = [this] { Hide(); };
   Add<Button>({"cmdChart"}, "Chart").SetPlace({8000, kBottom + 250, 2200, 600});
   Button& take = Add<Button>({"cmdExport"}, kExportCaption);
   take.SetPlace({10400, kBottom + 250, 2200, 600});
   take.SetKeys(kExportKeys);
+  cmdExit_ = &Add<Button>({"cmdExit"}, "Exit");
+  cmdExit_->SetPlace({kCombinedWidth - kMargin - 2200, kBottom + 250, 2200, 600});
+  cmdExit_->onClick = [this] { Hide(); };
   Add<MenuEntry>({"cmdCopy"}, "Copy").onClick = [this] {
     workspaces_.GetSession().platform.SetClipboard(TabSeparated(TickedRows()));
   };

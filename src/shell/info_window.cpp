@@ -19,12 +19,12 @@ constexpr int kLargestText = 2'000'000;  // bytes; the manual has a hundredth of
 InfoWindow::InfoWindow(Platform& platform) : Form("frmInfo", ""), platform_(platform) {
   rtfInfo_ = &Add<DocumentText>({"rtfInfo"});
   rtfInfo_->SetReadOnly(true);
-  cmdExit_ = &Add<Button>({"cmdExit"}, "Exit");
-  cmdExit_->SetPlace({0, 0, 1500, 500});
-  cmdExit_->onClick = [this] { Hide(); };
   cmdAbout_ = &Add<Button>({"cmdAbout"}, "About");
   cmdAbout_->SetPlace({0, 0, 1500, 500});
   cmdAbout_->onClick = [this] { ShowAbout(); };
+  cmdExit_ = &Add<Button>({"cmdExit"}, "Exit");
+  cmdExit_->SetPlace({0, 0, 1500, 500});
+  cmdExit_->onClick = [this] { Hide(); };
   onResize = [this] { PlaceControls(); };
   Resize(kInfoWidth, kInfoHeight);
 }

@@ -82,6 +82,27 @@ TEST_F(Keyboard, AGroupIsOneTabStop) {
   EXPECT_EQ(Focus().toStdString(), "optFineDateStartPast");
 }
 
+// In the order of reading, also what was added beside: the button that closes a window stands last.
+TEST_F(Keyboard, TabPassesTheButtonsOfAWindowFromLeftToRight) {
+  Report<QWidget>(&SideControls::cmdAdvResultsSpd, program.Spd().Rows());
+  desktop.Enter([&] { program.Current().Get<Button>("cmdCombinedResults").UserClicks(); });
+  desktop.Enter([&] { program.Current().Get<Button>("cmdHelp").UserClicks(); });
+  desktop.Enter([&] { program.Current().Get<Button>("cmdGrowthChart").UserClicks(); });
+  for (Form* form : {static_cast<Form*>(&program.Spd()), static_cast<Form*>(&program.Combined()),
+                     static_cast<Form*>(&program.Info()), static_cast<Form*>(&program.Growth())}) {
+    FormWindow& window = Of(*form);
+    int passed = 0, right = 0;
+    for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
+      if (qobject_cast<QPushButton*>(next) == nullptr || !next->isVisible()) continue;
+      const int left = next->mapTo(&window, QPoint()).x();
+      EXPECT_GE(left, right) << form->Name() << " " << next->objectName().toStdString();
+      right = left + next->width();
+      ++passed;
+    }
+    EXPECT_GT(passed, 1) << form->Name();
+  }
+}
+
 TEST_F(Keyboard, TheTableIsWalkedByArrows) {
   desktop.Enter([&] { Smoking().Of(Side::Past).cmdSetPeriodParams->UserClicks(); });
   desktop.Enter([&] { Smoking().Get<Button>("cmdCombinedResults").UserClicks(); });
