@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTimer>
@@ -233,6 +234,22 @@ void PageBrowser::SetText(const std::string& text, const QString& folder) {
   setSearchPaths({folder});
   setMarkdown(ToQt(text));
   ColourLinks();
+}
+
+// Pictures keep the size that they were loaded in: a page of another width loads them anew.
+void PageBrowser::resizeEvent(QResizeEvent* event) {
+  const bool anew = event->size().width() != event->oldSize().width();
+  if (anew)
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+      for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+        const QTextImageFormat picture = piece.fragment().charFormat().toImageFormat();
+        if (!picture.isValid()) continue;
+        const QUrl name(picture.name());
+        document()->addResource(QTextDocument::ImageResource, name,
+                                loadResource(QTextDocument::ImageResource, name));
+        document()->markContentsDirty(piece.fragment().position(), piece.fragment().length());
+      }
+  QTextBrowser::resizeEvent(event);
 }
 
 void PageBrowser::ColourLinks() {

@@ -68,6 +68,7 @@ class PageBrowser : public QTextBrowser {
  protected:
   // Pictures that are wider than the page are made to fit it.
   QVariant loadResource(int type, const QUrl& name) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   std::string shown_;

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QInputMethodEvent>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -122,6 +123,10 @@ TEST_F(DocumentEditor, RefusesALongerLineAndSaysSo) {
 
 // ---- The pictures of the help window ----
 
+int WidthOfPicture(const PageBrowser& page, const QString& name) {
+  return page.document()->resource(QTextDocument::ImageResource, QUrl(name)).value<QImage>().width();
+}
+
 // The widths of a document's pictures, in the order of their names.
 QList<int> WidthsOfPictures(const std::string& folder, const QStringList& names) {
   PageBrowser page(nullptr);
@@ -130,10 +135,25 @@ QList<int> WidthsOfPictures(const std::string& folder, const QStringList& names)
   for (const QString& name : names) text += "![" + name.toStdString() + "](" + name.toStdString() + ")\n\n";
   page.SetText(text, QString::fromStdString(folder));
   QList<int> widths;
-  for (const QString& name : names)
-    widths.push_back(
-        page.document()->resource(QTextDocument::ImageResource, QUrl(name)).value<QImage>().width());
+  for (const QString& name : names) widths.push_back(WidthOfPicture(page, name));
   return widths;
+}
+
+TEST(HelpPictures, FitAPageThatBecomesNarrowerOrWider) {
+  const QTemporaryDir room;
+  QImage picture(700, 30, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  ASSERT_TRUE(picture.save(room.filePath(QStringLiteral("wide.png"))));
+  PageBrowser page(nullptr);
+  page.resize(800, 600);
+  page.show();
+  page.SetText("![wide](wide.png)", room.path());
+  EXPECT_EQ(WidthOfPicture(page, QStringLiteral("wide.png")), 700);
+  page.resize(400, 600);
+  EXPECT_LT(WidthOfPicture(page, QStringLiteral("wide.png")), 400);
+  EXPECT_EQ(page.horizontalScrollBar()->maximum(), 0);
+  page.resize(800, 600);
+  EXPECT_EQ(WidthOfPicture(page, QStringLiteral("wide.png")), 700);
 }
 
 TEST(HelpPictures, WhatIsNoPictureOfASaneSizeIsShownAsMissing) {
