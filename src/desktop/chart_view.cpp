@@ -699,6 +699,7 @@ class PlotWidget : public ChartWidget {
   std::string Picture(PictureFormat format, const ChartStyle& style) const override;
 
   ChartContents Plotted() const override { return scene_ ? scene_->Plotted() : ChartContents(); }
+  bool ZoomsInTime() const override { return contents_.months.size() > 1; }
   Span MonthsInView() const override { return scene_ ? scene_->InView() : Span(); }
   QPoint PointOf(int month) const override { return scene_->PointOf(month); }
 

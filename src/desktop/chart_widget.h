@@ -43,6 +43,8 @@ class ChartWidget : public QWidget {
     bool operator==(const Span&) const = default;
   };
   virtual Span MonthsInView() const = 0;
+  // Whether there are months to zoom into: more than one.
+  virtual bool ZoomsInTime() const = 0;
   // Where a month stands on the widget.
   virtual QPoint PointOf(int month) const = 0;
 

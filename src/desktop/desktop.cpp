@@ -9,6 +9,7 @@
 #include "desktop/chart_widget.h"
 #include "desktop/form_window.h"
 #include "desktop/widgets.h"
+#include "desktop/zoom_input.h"
 
 namespace vicetoll {
 namespace {
@@ -52,38 +53,33 @@ class SystemWatch : public QObject {
   }
 
  private:
-  // A chart has a zoom of its own, in time, by the same keys and the same wheel.
+  // A chart over months has a zoom of its own, in time, by the same keys and the same wheel.
   static bool IsInWindow(QObject* watched) {
     const auto* widget = qobject_cast<const QWidget*>(watched);
     if (widget == nullptr || dynamic_cast<FormWindow*>(widget->window()) == nullptr) return false;
     for (; widget != nullptr; widget = widget->parentWidget())
-      if (dynamic_cast<const ChartWidget*>(widget) != nullptr) return false;
+      if (const auto* chart = dynamic_cast<const ChartWidget*>(widget)) return !chart->ZoomsInTime();
     return true;
   }
 
   bool TakeKey(QKeyEvent& key) {
-    if ((key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != Qt::ControlModifier) return false;
-    const bool plus = key.key() == Qt::Key_Plus || key.key() == Qt::Key_Equal;
-    if (!plus && key.key() != Qt::Key_Minus && key.key() != Qt::Key_0) return false;
-    desktop_.ZoomBy(plus ? 1 : key.key() == Qt::Key_Minus ? -1 : 0);
+    const Zoom zoom = ZoomOf(key);
+    if (zoom == Zoom::None) return false;
+    desktop_.ZoomBy(zoom == Zoom::In ? 1 : zoom == Zoom::Out ? -1 : 0);
     key.accept();
     return true;
   }
 
-  // A touch pad turns the wheel by fractions of a notch.
   bool TakeWheel(QWheelEvent& wheel) {
-    constexpr int kNotch = 120;
-    if (wheel.modifiers() != Qt::ControlModifier) return false;
-    turned_ += wheel.angleDelta().y();
-    const int steps = turned_ / kNotch;
-    turned_ -= steps * kNotch;
+    if (!ZoomWheel::Zooms(wheel)) return false;
+    const int steps = wheel_.Turn(wheel);
     if (steps != 0) desktop_.ZoomBy(steps);
     wheel.accept();
     return true;
   }
 
   Desktop& desktop_;
-  int turned_ = 0;  // of the wheel, not yet a notch
+  ZoomWheel wheel_;
 };
 
 Desktop::Desktop(Program& program) : program_(program), watch_(std::make_unique<SystemWatch>(*this)) {

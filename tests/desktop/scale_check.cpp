@@ -127,6 +127,22 @@ TEST_F(Sizes, LettersOfAChartFollowTheZoom) {
   for (const QWidget* part : chart.findChildren<QWidget*>()) EXPECT_EQ(part->font().pixelSize(), 24);
 }
 
+// A chart over months zooms in time by them; where there is no time to zoom into, they are the windows' own.
+TEST_F(Sizes, KeysAndWheelZoomTheWindowOfAChartWithoutMonths) {
+  desktop.Enter([&] { Smoking().Of(Side::Past).cmdSetPeriodParams->UserClicks(); });
+  desktop.Enter([&] { Smoking().Get<Button>("cmdCombinedResults").UserClicks(); });
+  desktop.Enter([&] { program.Combined().Get<Button>("cmdChart").UserClicks(); });
+  Form& sins = *program.Window("frmSinsChart");
+  QWidget& chart = *Of(sins).WidgetOf(*sins.Find("chtSins"));
+  QTest::keyClick(&chart, Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_EQ(desktop.GetScaling().Zoom(), 110);
+  TurnWheel(chart, 120);
+  EXPECT_EQ(desktop.GetScaling().Zoom(), 125);
+  desktop.Enter([&] { Smoking().Get<Button>("cmdGrowthChart").UserClicks(); });
+  TurnWheel(*Of(program.Growth()).WidgetOf(program.Growth().GetChart()), 120);
+  EXPECT_EQ(desktop.GetScaling().Zoom(), 125);
+}
+
 TEST_F(Sizes, ReportsKeepTheirWindowAndZoomTheirText) {
   desktop.Enter([&] { program.Info().ShowHelpFile(); });
   FormWindow& help = Of(program.Info());
