@@ -7,6 +7,7 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QToolButton>
 
 #include "desktop/accessible.h"
 #include "desktop/themes.h"
@@ -31,6 +32,9 @@ class DesktopStyle : public QProxyStyle {
   // Fusion derives these from the ground, and on a dark one they are hardly to be seen.
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
+    // As strong as on the program's own buttons.
+    if (element == PE_FrameFocusRect && qobject_cast<const QToolButton*>(widget) != nullptr)
+      return DrawFocusRing(*painter, widget->rect());
     if (element != PE_Frame) QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool ofDialogs = element == PE_FrameLineEdit || element == PE_PanelButtonCommand;
     if (element == PE_Frame || element == PE_PanelMenu || (ofDialogs && IsBlack()))

@@ -15,10 +15,8 @@
 #include <QMimeData>
 #include <QPaintEngine>
 #include <QPrintDialog>
-#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPushButton>
-#include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTimer>
@@ -28,6 +26,7 @@
 #include "base/file_writer.h"
 #include "base/places.h"
 #include "desktop/page_progress.h"
+#include "desktop/preview.h"
 #include "desktop/printing.h"
 #include "desktop/report_pages.h"
 #include "desktop/text.h"
@@ -145,19 +144,45 @@ std::optional<std::string> ChosenOf(const QStringList& kinds, QFileDialog& dialo
   return std::nullopt;
 }
 
+// Its lists are called by what they show, unless they are their labels' buddies.
+void NameLists(const QFileDialog& dialog) {
+  constexpr const char* kLists[][2] = {{"lookInLabel", "lookInCombo"}, {"fileTypeLabel", "fileTypeCombo"}};
+  for (const auto& [label, list] : kLists)
+    if (auto* words = dialog.findChild<QLabel*>(QLatin1String(label)))
+      words->setBuddy(dialog.findChild<QWidget*>(QLatin1String(list)));
+}
+
+// A dialog to save begins with the last name.
+void Begin(QFileDialog& dialog, std::string_view lastPath) {
+  const QFileInfo start(StartOf(lastPath));
+  dialog.setDirectory(start.isDir() ? start.filePath() : start.path());
+  if (!start.isDir() && dialog.acceptMode() == QFileDialog::AcceptSave) dialog.selectFile(start.fileName());
+  NameLists(dialog);
+}
+
+std::optional<std::string> Ask(QFileDialog& dialog, std::string_view lastPath) {
+  Begin(dialog, lastPath);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return Chosen(dialog.selectedFiles().value(0));
+}
+
+std::optional<std::string> AskForReport(const QString& title, std::string_view lastPath) {
+  QFileDialog dialog(QApplication::activeWindow(), title);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  return Ask(dialog, lastPath);
+}
+
 }  // namespace
 
 std::optional<std::string> QtPlatform::AskSavePath(std::string_view lastPath) {
   ShowChanges();
-  return Chosen(QFileDialog::getSaveFileName(QApplication::activeWindow(), QStringLiteral("Save As"),
-                                             StartOf(lastPath)));
+  return AskForReport(QStringLiteral("Save As"), lastPath);
 }
 
 std::optional<std::string> QtPlatform::AskFirstSavePath() {
   ShowChanges();
-  return Chosen(QFileDialog::getSaveFileName(
-      QApplication::activeWindow(),
-      QStringLiteral("Save As: a file name is needed, without one the program ends"), StartOf({})));
+  return AskForReport(QStringLiteral("Save As: a file name is needed, without one the program ends"), {});
 }
 
 std::optional<std::string> QtPlatform::AskEntriesPath(FilePurpose purpose, std::string_view lastPath) {
@@ -169,11 +194,7 @@ std::optional<std::string> QtPlatform::AskEntriesPath(FilePurpose purpose, std::
   dialog.setDefaultSuffix(QStringLiteral("vicetoll"));
   dialog.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
   dialog.setFileMode(open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-  const QFileInfo start(StartOf(lastPath));
-  dialog.setDirectory(start.isDir() ? start.filePath() : start.path());
-  if (!start.isDir() && !open) dialog.selectFile(start.fileName());
-  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-  return Chosen(dialog.selectedFiles().value(0));
+  return Ask(dialog, lastPath);
 }
 
 std::optional<std::string> QtPlatform::AskExportPath(std::string_view lastPath) {
@@ -190,12 +211,11 @@ std::optional<std::string> QtPlatform::AskExportPath(std::string_view lastPath) 
     dialog.setDefaultSuffix(kinds.value(static_cast<int>(names.indexOf(name)), kinds.first()));
   };
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, takeKind);
-  const QFileInfo start(StartOf(lastPath));
-  dialog.setDirectory(start.isDir() ? start.filePath() : start.path());
-  const auto last = std::max<qsizetype>(kinds.indexOf(start.suffix().toLower()), 0);
+  const QString suffix = QFileInfo(StartOf(lastPath)).suffix().toLower();
+  const auto last = std::max<qsizetype>(kinds.indexOf(suffix), 0);
   dialog.selectNameFilter(names[last]);
   takeKind(names[last]);
-  if (!start.isDir()) dialog.selectFile(start.fileName());
+  Begin(dialog, lastPath);
   return ChosenOf(kinds, dialog);
 }
 
@@ -213,10 +233,7 @@ void QtPlatform::PreviewPages(const Pages& pages) {
   printer.setPageSize(ReportPaper());
   TurnPaper(pages, printer);
   printer.setDocName(ToQt(pages.title));
-  QPrintPreviewDialog dialog(&printer, QApplication::activeWindow());
-  dialog.setWindowTitle(QStringLiteral("Preview"));
-  // All of its tools and a page that can be read, where the screen has the room.
-  dialog.resize(QSize(900, 800).boundedTo(dialog.screen()->availableSize() - QSize(20, 60)));
+  PreviewDialog dialog(&printer, QApplication::activeWindow());
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* paper) {
     // The dialog has the pages painted for its own eyes, and again to print them.
     if (paper->paintEngine()->type() == QPaintEngine::Picture)

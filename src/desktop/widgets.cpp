@@ -445,7 +445,8 @@ TabPages::TabPages(const std::vector<std::string>& captions, QWidget* parent)
   bar_->setFocusPolicy(Qt::StrongFocus);
   for (const std::string& caption : captions) {
     bar_->addTab(ToQt(caption));
-    pages_.push_back(new QWidget(this));
+    pages_.push_back(new TabPage(this));
+    pages_.back()->setAccessibleName(WithoutAccessKey(ToQt(caption)));
   }
   bar_->raise();
   SetTab(0);

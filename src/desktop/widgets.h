@@ -151,6 +151,12 @@ class PanelWidget : public QWidget {
   bool pressed_ = false;
 };
 
+// What stands on one tab; named by it for those who listen.
+class TabPage : public QWidget {
+ public:
+  using QWidget::QWidget;
+};
+
 // A tab control: a bar over three pages, of which one is in front. The pages cover all of it, so that what
 // stands on them may stand beside the bar too.
 class TabPages : public QWidget {

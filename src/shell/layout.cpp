@@ -59,6 +59,7 @@ void ApplyFormLayout(SinWorkspace& ws) {
   PlaceBottomRow(ws);
   FitPanels(ws);
   ws.SSTab_PastFutureSwitch->SetTab(kPastTab);
+  ws.SSTab_PastFutureSwitch->SetOwnName("Past, future and total");
 }
 
 void PlaceWorkspaceControls(SinWorkspace& ws) {

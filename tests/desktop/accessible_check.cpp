@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The windows for those who listen: what Qt's accessibility interface says of them.
 #include <QAccessible>
+#include <QFileDialog>
+#include <QPrintPreviewDialog>
+#include <QTabBar>
+#include <QToolButton>
 #include <set>
 
 #include "desktop/accessible.h"
+#include "desktop/qt_platform.h"
 #include "desktop/text.h"
+#include "desktop/when_up.h"
 #include "desktop/widgets.h"
 #include "windows_fixture.h"
 
@@ -29,21 +35,27 @@ class Accessible : public Windows {
       if (QAccessibleInterface* child = node.child(i)) Walk(*child, visit);
   }
   // Everything that takes the focus has a name, and not its value for one.
-  static void CheckNames(FormWindow& window) {
+  static void CheckNames(QWidget& window) {
     int focusable = 0;
     Walk(*QAccessible::queryAccessibleInterface(&window), [&](QAccessibleInterface& node) {
       if (!node.state().focusable || node.state().invisible) return;
-      // A cell is named by what it shows, be it nothing; of a table Qt gives the name for the value.
-      if (node.role() == QAccessible::Cell || node.role() == QAccessible::ColumnHeader) return;
-      const std::string where = window.objectName().toStdString() + " " +
-                                (node.object() != nullptr ? node.object()->objectName().toStdString() : "?");
+      // A cell is named by what it shows, be it nothing; of tables, trees and lists Qt gives the name
+      // for the value.
+      for (const auto cell :
+           {QAccessible::Cell, QAccessible::TreeItem, QAccessible::ListItem, QAccessible::ColumnHeader})
+        if (node.role() == cell) return;
+      const std::string where =
+          Titled(window) + " " + (node.object() != nullptr ? node.object()->objectName().toStdString() : "?");
       const QString name = node.text(QAccessible::Name), value = node.text(QAccessible::Value);
       EXPECT_FALSE(name.trimmed().isEmpty()) << where;
-      EXPECT_TRUE(value.isEmpty() || name != value || node.role() == QAccessible::Table)
-          << where << " is named " << name.toStdString();
+      const bool ofItems = node.tableInterface() != nullptr || node.role() == QAccessible::List;
+      EXPECT_TRUE(value.isEmpty() || name != value || ofItems) << where << " is named " << name.toStdString();
       ++focusable;
     });
-    EXPECT_GT(focusable, 1) << window.objectName().toStdString();
+    EXPECT_GT(focusable, 1) << Titled(window);
+  }
+  static std::string Titled(const QWidget& window) {
+    return (window.objectName().isEmpty() ? window.windowTitle() : window.objectName()).toStdString();
   }
 };
 
@@ -70,6 +82,52 @@ TEST_F(Accessible, WhatTakesTheFocusHasANameThatIsNotItsValue) {
   desktop.Enter([&] { program.Current().cmdSwitchSins->UserClicks(); });
   for (const auto& window : desktop.Windows())
     if (window->isVisible()) CheckNames(*window);
+}
+
+// Also in what the toolkit shows: of its dialogs every tool, and a preview's are all in reach of the Tab key.
+TEST_F(Accessible, DialogsHaveNamesToo) {
+  int shown = 0;
+  const auto check = [&shown](QDialog& dialog) {
+    if (++shown > 20) return;
+    CheckNames(dialog);
+    for (const auto* tool : dialog.findChildren<QToolButton*>())
+      EXPECT_TRUE(tool->defaultAction() == nullptr || (tool->focusPolicy() & Qt::TabFocus) != 0)
+          << tool->toolTip().toStdString();
+    dialog.reject();
+  };
+  WhenUp<QPrintPreviewDialog>(check);
+  QtPlatform().PreviewPages({.title = "Smoking", .subtitle = "Past", .summary = {}, .svg = {}, .rows = {}});
+  WhenUp<QFileDialog>(check);
+  QtPlatform().AskEntriesPath(FilePurpose::OpenEntries, {});
+  WhenUp<QFileDialog>(check);
+  QtPlatform().AskExportPath({});
+  WhenUp<QFileDialog>(check);
+  QtPlatform().AskFirstSavePath();
+  EXPECT_EQ(shown, 4);
+}
+
+TEST_F(Accessible, TabsAndWhatStandsOnThemHaveNamesOfTheirOwn) {
+  Open(Smoking(), kFutureTab);
+  QAccessibleInterface& bar = *QAccessible::queryAccessibleInterface(Of(Smoking()).findChild<QTabBar*>());
+  EXPECT_EQ(bar.text(QAccessible::Name), "Past, future and total");
+  EXPECT_EQ(bar.role(), QAccessible::PageTabList);
+  ASSERT_EQ(bar.childCount(), 3);
+  for (int i = 0; i < 3; ++i) {
+    QAccessibleInterface& tab = *bar.child(i);
+    EXPECT_EQ(tab.text(QAccessible::Name), QStringList({"PAST", "FUTURE", "TOTAL"})[i]);
+    EXPECT_EQ(tab.role(), QAccessible::PageTab);
+    EXPECT_EQ(tab.state().selected, i == 1);
+    EXPECT_EQ(bar.indexOfChild(&tab), i);
+    EXPECT_EQ(bar.childAt(tab.rect().center().x(), tab.rect().center().y()), &tab);
+  }
+  bar.child(2)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(Smoking().SSTab_PastFutureSwitch->Tab(), kTotalTab);
+  QStringList pages;
+  Walk(*QAccessible::queryAccessibleInterface(&Of(Smoking())), [&](QAccessibleInterface& node) {
+    if (dynamic_cast<TabPage*>(node.object()) != nullptr && !node.state().invisible)
+      pages << node.text(QAccessible::Name);
+  });
+  EXPECT_EQ(pages, QStringList("TOTAL"));
 }
 
 // What is in front together is told apart.

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QGraphicsView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintPreviewDialog>
@@ -13,6 +14,8 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
+#include <vector>
 
 #include "desktop/activation.h"
 #include "desktop/desktop.h"
@@ -95,6 +98,39 @@ TEST(Progress, ShowsWhereItTakesLongAndCanBeCancelled) {
   EXPECT_EQ(dialog->value(), 2);
   QTest::mouseClick(dialog->findChild<QPushButton*>(), Qt::LeftButton);
   EXPECT_FALSE(goOn(3, 10));
+}
+
+TEST(Preview, ZoomsByTheKeysAndTheWheelOfAllWindows) {
+  std::vector<double> zooms;
+  QTimer::singleShot(50, [&zooms] {
+    auto* dialog = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    const auto* preview = dialog->findChild<QPrintPreviewWidget*>();
+    QWidget* view = dialog->findChild<QGraphicsView*>()->viewport();
+    const auto note = [&] { zooms.push_back(preview->zoomFactor()); };
+    const auto turn = [&](int delta) {
+      QWheelEvent wheel({5, 5}, view->mapToGlobal(QPointF(5, 5)), {}, {0, delta}, Qt::NoButton,
+                        Qt::ControlModifier, Qt::NoScrollPhase, false);
+      QApplication::sendEvent(view, &wheel);
+      note();
+    };
+    note();
+    QTest::keyClick(dialog, Qt::Key_Plus, Qt::ControlModifier);
+    note();
+    turn(60);
+    turn(60);
+    turn(-240);
+    QTest::keyClick(dialog, Qt::Key_0, Qt::ControlModifier);
+    note();
+    dialog->reject();
+  });
+  QtPlatform().PreviewPages(PagesWith(10));
+  ASSERT_EQ(zooms.size(), 6u);
+  EXPECT_NEAR(zooms[1], zooms[0] * 1.1, 0.01);
+  EXPECT_EQ(zooms[2], zooms[1]);  // half a notch
+  EXPECT_NEAR(zooms[3], zooms[0] * 1.21, 0.01);
+  EXPECT_NEAR(zooms[4], zooms[0], 0.01);
+  EXPECT_NEAR(zooms[5], zooms[0], 0.01);
 }
 
 TEST(Preview, TellsOfAPrintThatFails) {

@@ -35,6 +35,7 @@
 #include "desktop/scale.h"
 #include "desktop/text.h"
 #include "desktop/toolkit_messages.h"
+#include "desktop/when_up.h"
 #include "desktop/widgets.h"
 #include "entries/entries_file.h"
 #include "windows_fixture.h"
@@ -54,16 +55,6 @@ QWidget* WindowNamed(const char* name) {
 
 void ClickIn(const char* window, const char* control) {
   QTest::mouseClick(WindowNamed(window)->findChild<QWidget*>(control), Qt::LeftButton);
-}
-
-// Acts on the next modal box of that class once it is up, and again until it goes.
-template <class Box>
-void WhenUp(std::function<void(Box&)> action) {
-  QTimer::singleShot(20, [action] {
-    auto* box = qobject_cast<Box*>(QApplication::activeModalWidget());
-    if (box != nullptr) action(*box);
-    if (box == nullptr || box->isVisible()) WhenUp<Box>(action);
-  });
 }
 
 // Saves a report into a folder that has just gone, and reads what the program then says. What was entered is
