@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QPaintEngine>
 #include <QPrintDialog>
@@ -144,6 +145,17 @@ std::optional<std::string> ChosenOf(const QStringList& kinds, QFileDialog& dialo
   return std::nullopt;
 }
 
+// A name of a file to open may leave out the suffix; but a file that is there has the name that it has.
+void TakeNamesOfFiles(QFileDialog& dialog, const QString& suffix) {
+  dialog.setDefaultSuffix(suffix);
+  auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  if (name == nullptr) return;
+  QObject::connect(name, &QLineEdit::textChanged, &dialog, [&dialog, suffix](const QString& text) {
+    const bool there = QFileInfo(dialog.directory(), text).isFile();
+    dialog.setDefaultSuffix(there ? QString() : suffix);
+  });
+}
+
 // Its lists are called by what they show, unless they are their labels' buddies.
 void NameLists(const QFileDialog& dialog) {
   constexpr const char* kLists[][2] = {{"lookInLabel", "lookInCombo"}, {"fileTypeLabel", "fileTypeCombo"}};
@@ -191,7 +203,10 @@ std::optional<std::string> QtPlatform::AskEntriesPath(FilePurpose purpose, std::
   QFileDialog dialog(QApplication::activeWindow(),
                      open ? QStringLiteral("Open Entries") : QStringLiteral("Save Entries As"));
   dialog.setNameFilters({QStringLiteral("Vicetoll entries (*.vicetoll)"), QStringLiteral("All files (*)")});
-  dialog.setDefaultSuffix(QStringLiteral("vicetoll"));
+  if (open)
+    TakeNamesOfFiles(dialog, QStringLiteral("vicetoll"));
+  else
+    dialog.setDefaultSuffix(QStringLiteral("vicetoll"));
   dialog.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
   dialog.setFileMode(open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   return Ask(dialog, lastPath);

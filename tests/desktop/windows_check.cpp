@@ -924,6 +924,27 @@ TEST(Dialogs, OfExportsAddTheSuffixOfTheKind) {
   }
 }
 
+// A suffix that is left out is known; but a file without one can be opened too.
+TEST(Dialogs, ThatOpenEntriesTakeAFileByTheNameThatItHas) {
+  const QTemporaryDir room;
+  for (const char* name : {"plain", "with.vicetoll"}) {
+    QFile file(room.filePath(QLatin1String(name)));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  }
+  const auto opened = [&](const char* typed) {
+    WhenUp<QFileDialog>([&](QFileDialog& dialog) {
+      dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
+          ->setText(room.filePath(QLatin1String(typed)));
+      QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    return QtPlatform().AskEntriesPath(FilePurpose::OpenEntries, {}).value_or("none");
+  };
+  const auto path = [&](const char* name) { return room.filePath(QLatin1String(name)).toStdString(); };
+  EXPECT_EQ(opened("plain"), path("plain"));
+  EXPECT_EQ(opened("with"), path("with.vicetoll"));
+  EXPECT_EQ(opened("with.vicetoll"), path("with.vicetoll"));
+}
+
 TEST(Dialogs, OfPrintsOfferTheSelectionWhereThereIsOneAndNoPageNumbers) {
   int dialogs = 0;
   for (const bool selection : {true, false}) {
