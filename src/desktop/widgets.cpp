@@ -414,6 +414,11 @@ class TallTabBar : public QTabBar {
     for (int tab = 0; tab < count(); ++tab) PaintTab(painter, tab);
     if (hasFocus()) DrawFocusRing(painter, tabRect(currentIndex()).adjusted(3, 3, -3, -2));
   }
+  // The key of a tab brings the focus, as those of buttons do.
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::Shortcut) setFocus(Qt::ShortcutFocusReason);
+    return QTabBar::event(event);
+  }
   // A notch of the wheel on the way elsewhere must not change the tab.
   void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 

@@ -266,6 +266,16 @@ TEST_F(Keyboard, AnAccessKeyBringsTheFocus) {
   EXPECT_TRUE(Smoking().Of(Side::Past).cmdSetPeriodParams->Enabled());
 }
 
+TEST_F(Keyboard, TheKeyOfATabBringsTheFocusAlsoInFront) {
+  const QWidget* bar = dynamic_cast<TabPages&>(Widget(Smoking(), "SSTab_PastFutureSwitch")).Bar();
+  for (const auto& [key, tab] : {std::pair(Qt::Key_P, kPastTab), std::pair(Qt::Key_T, kTotalTab)}) {
+    FocusOn(Smoking(), "cmdSwitchSins");
+    Press(key, Qt::AltModifier);
+    EXPECT_EQ(Smoking().SSTab_PastFutureSwitch->Tab(), tab);
+    EXPECT_EQ(QApplication::focusWidget(), bar) << tab;
+  }
+}
+
 TEST_F(Keyboard, APressThatClosesItsButtonHandsTheFocusToTheNext) {
   FocusOn(Smoking(), "cmdSetPeriodParamsPast");
   Press(Qt::Key_Space);
