@@ -448,7 +448,12 @@ void FormWindow::ComeInPlaceOfAnother() {
   if (!form_.SharesPlace()) return;
   for (const auto& other : desktop_.Windows())
     if (other->isVisible() && other->form_.SharesPlace()) {
-      move(other->pos());
+      // One that has only just been shown has none yet: it goes, and the window manager finds this one the
+      // place that it would have had.
+      if (other->testAttribute(Qt::WA_Moved) || other->windowHandle()->isExposed())
+        move(other->pos());
+      else
+        other->hide();
       if (other->FillsScreen()) setWindowState(other->windowState());
     }
 }

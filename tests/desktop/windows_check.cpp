@@ -600,6 +600,11 @@ TEST_F(Windows, ASinComesWhereTheOneBeforeStood) {
   EXPECT_EQ(Of(Visit(4)).pos(), QPoint(70, 50));
 }
 
+// As where the program starts with a file of another sin.
+TEST_F(Windows, ASinInPlaceOfOneThatIsNotUpYetIsPlacedByTheSystem) {
+  EXPECT_FALSE(Of(Visit(4)).testAttribute(Qt::WA_Moved));
+}
+
 TEST_F(Windows, TabVisitsEveryReachableControlInReadingOrder) {
   SinWorkspace& ws = Smoking();
   desktop.Enter([&] { ws.Of(Side::Past).cmdSetPeriodParams->UserClicks(); });
