@@ -2,6 +2,7 @@
 // vicetoll-report: the reports of files of entries, without a window.
 #include <malloc.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <ctime>
@@ -9,6 +10,7 @@
 #include <iostream>
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <set>
 
 #include "base/code_page.h"
 #include "base/fault.h"
@@ -43,6 +45,7 @@ constexpr const char* kUsage =
 constexpr std::string_view kSides3[] = {"past", "future", "total"};
 constexpr std::string_view kFormats[] = {"table", "csv", "json"};
 constexpr std::string_view kSuffixes[] = {".txt", ".csv", ".json"};
+constexpr std::string_view kOptions[] = {"--sin", "--side", "--format", "--clock", "--output"};
 enum Format { kTable, kCsv, kJson };
 
 struct Options {
@@ -287,16 +290,47 @@ void ReportOnFile(const std::string& path, const Options& options, std::string& 
   ReportOn(entries, options, out);
 }
 
-void Put(const std::string& path, const std::string& report, const Options& options, bool intoFolder) {
-  if (options.output.empty()) {
-    std::cout << report << std::flush;
-    if (!std::cout) throw EntriesRefused("standard output cannot be written");
-    return;
+bool IsFolder(const std::string& path) {
+  std::error_code none;
+  return std::filesystem::is_directory(path, none);
+}
+
+// Where the report on a file goes; empty for standard output.
+std::string TargetFor(const std::string& path, const Options& options, bool intoFolder) {
+  if (!intoFolder) return options.output;
+  return options.output + "/" + std::filesystem::path(path).stem().string() +
+         std::string(kSuffixes[options.format]);
+}
+
+// The files that no report may take the place of: those that are read, and the reports written before it.
+class TakenFiles {
+ public:
+  explicit TakenFiles(const std::vector<std::string>& read) {
+    for (const std::string& path : read) files_.insert(WholePath(path));
   }
-  std::string to = options.output;
-  if (intoFolder)
-    to += "/" + std::filesystem::path(path).stem().string() + std::string(kSuffixes[options.format]);
-  WriteWholeFile(to, report, FileKind::Remade);
+
+  // Throws EntriesRefused for a target that is taken.
+  void Take(const std::string& target) {
+    if (!target.empty() && !files_.insert(WholePath(target)).second)
+      throw EntriesRefused("its report would overwrite " + target +
+                           ", which is read or was written by the same call");
+  }
+
+ private:
+  // As it is where the system does not tell: a pipe has no whole path.
+  static std::string WholePath(const std::string& path) {
+    std::error_code error;
+    std::string whole = std::filesystem::weakly_canonical(path, error).string();
+    return error ? path : whole;
+  }
+
+  std::set<std::string> files_;
+};
+
+void Put(const std::string& report, const std::string& target) {
+  if (!target.empty()) return WriteWholeFile(target, report, FileKind::Remade);
+  std::cout << report << std::flush;
+  if (!std::cout) throw EntriesRefused("standard output cannot be written");
 }
 
 int MakeReports(const Options& options) {
@@ -304,13 +338,16 @@ int MakeReports(const Options& options) {
   constexpr int kKept = 32 << 20;
   mallopt(M_MMAP_THRESHOLD, kKept);
   mallopt(M_TRIM_THRESHOLD, kKept);
-  const bool intoFolder = options.files.size() > 1 || std::filesystem::is_directory(options.output);
+  const bool intoFolder = options.files.size() > 1 || IsFolder(options.output);
+  TakenFiles taken(options.files);
   int status = 0;
   std::string report;
   for (const std::string& path : options.files) {
     try {
+      const std::string target = TargetFor(path, options, intoFolder);
       ReportOnFile(path, options, report);
-      Put(path, report, options, intoFolder);
+      taken.Take(target);
+      Put(report, target);
     } catch (const std::runtime_error& error) {  // EntriesRefused, Fault
       std::cerr << "vicetoll-report: " << path << ": " << error.what() << '\n';
       status = 1;
@@ -368,6 +405,7 @@ std::string Parse(const std::vector<std::string>& words, Options& options) {
     } else {
       const std::size_t equals = word.find('=');
       std::string name = word.substr(0, equals);
+      if (std::ranges::find(kOptions, name) == std::end(kOptions)) return name + " is no option";
       if (equals == std::string::npos && ++i == words.size()) return name + " needs a value";
       const std::string value = equals == std::string::npos ? words[i] : word.substr(equals + 1);
       if (!TakeOption(name, value, options))
@@ -375,7 +413,7 @@ std::string Parse(const std::vector<std::string>& words, Options& options) {
     }
   }
   if (options.files.empty()) return "no file is named";
-  if (options.files.size() > 1 && !std::filesystem::is_directory(options.output))
+  if (options.files.size() > 1 && !IsFolder(options.output))
     return "several files need --output with a folder that is there";
   return {};
 }
@@ -394,6 +432,7 @@ int main(int argc, char** argv) {
   using namespace vicetoll;
   const std::vector<std::string> words(argv + 1, argv + argc);
   for (const std::string& word : words) {
+    if (word == "--") break;
     if (word == "--help") return std::fputs(kUsage, stdout) < 0 ? 1 : 0;
     if (word == "--version")
       return std::puts(("vicetoll-report " + std::string(vicetoll::kVersion)).c_str()) < 0 ? 1 : 0;
