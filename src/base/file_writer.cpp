@@ -73,6 +73,8 @@ std::string FolderOf(const std::string& path) {
 int WriteAsItIs(const std::string& path, std::string_view bytes) {
   OpenFile file(open(path.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
   if (!file.Good()) return errno;
+  // A reader that is there may take its time: a pipe holds no more than a part of a report.
+  if (fcntl(file.Descriptor(), F_SETFL, 0) == -1) return errno;
   if (const int error = file.Write(bytes)) return error;
   return file.Close();
 }

@@ -14,9 +14,9 @@ enum class FileKind {
 
 // Puts a file with these bytes in the place of the one that is there: written beside it, flushed to the disk,
 // then renamed. If that fails the old file is untouched and no other is left behind. A link is followed. What
-// is no regular file (a device, a pipe) is written to as it is, without waiting for a reader. Where the
-// folder takes no new file, one that is there is written in place, and put back if that fails. Paths are in
-// the encoding of the file system. Returns 0, or the system's error number.
+// is no regular file (a device, a pipe) is written to as it is; a pipe that nobody reads is an error. Where
+// the folder takes no new file, one that is there is written in place, and put back if that fails. Paths are
+// in the encoding of the file system. Returns 0, or the system's error number.
 //
 // A run that is killed leaves the file that it was writing beside the other one; the next time that one is
 // written, what was left more than a minute ago and nobody is writing is taken away.
