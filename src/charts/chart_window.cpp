@@ -68,16 +68,16 @@ void ChartWindow::PlaceControls() {
 }
 
 // A picture is not worth a run: the user is told why there is none and goes on.
-void ChartWindow::Guarded(std::string_view title, const std::function<void()>& action) const {
+void ChartWindow::Guarded(const std::function<void()>& action) const {
   try {
     action();
   } catch (const Fault& fault) {
-    platform_.ShowMessage(title, fault.what(), MessageButtons::Ok);
+    platform_.ShowFileMessage(fault.what(), MessageButtons::Ok);
   }
 }
 
 void ChartWindow::Copy() {
-  Guarded("Copy Picture", [this] {
+  Guarded([this] {
     platform_.SetClipboardPicture(chart_->Picture(PictureFormat::Png), TabSeparated(chart_->Contents()));
   });
 }
@@ -86,14 +86,14 @@ void ChartWindow::SaveAs() {
   const auto chosen = platform_.AskSavePath(filePath_);
   if (!chosen || chosen->empty()) return;
   filePath_ = *chosen;
-  Guarded("Save Picture", [this] {
+  Guarded([this] {
     platform_.WriteFile(filePath_, chart_->Picture(PictureFormatOf(filePath_)));
     Say("Saved in " + filePath_);
   });
 }
 
 void ChartWindow::Print() {
-  Guarded("Print", [this] {
+  Guarded([this] {
     platform_.PrintPicture(chart_->Picture(PictureFormat::Svg), TabSeparated(chart_->Contents()));
   });
 }

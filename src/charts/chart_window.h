@@ -34,7 +34,7 @@ class ChartWindow : public Form {
   void SaveAs();
   void Print();
   void Exit() { Hide(); }
-  void Guarded(std::string_view title, const std::function<void()>& action) const;
+  void Guarded(const std::function<void()>& action) const;
 
   Platform& platform_;
   Chart* chart_ = nullptr;
