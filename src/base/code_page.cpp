@@ -21,6 +21,9 @@ char ByteOf(char32_t character) {
   return '?';
 }
 
+// Whether the byte goes on with a character of UTF-8.
+bool IsFollower(char byte) { return (static_cast<std::uint8_t>(byte) & 0xC0) == 0x80; }
+
 // Whether all bytes are below 0x80: eight at a time, for most texts are long and have no others.
 bool IsAscii(std::string_view text) {
   std::uint64_t seen = 0;
@@ -63,10 +66,11 @@ std::string FromUtf8(std::string_view utf8) {
     const auto lead = static_cast<std::uint8_t>(utf8[i++]);
     const int followers = lead < 0xC0 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
     char32_t character = followers == 0 ? lead : lead & (0x3F >> followers);
-    for (int k = 0; k < followers && i < utf8.size(); ++k)
+    int followed = 0;
+    for (; followed < followers && i < utf8.size() && IsFollower(utf8[i]); ++followed)
       character = character << 6 | (static_cast<std::uint8_t>(utf8[i++]) & 0x3F);
-    // A lone byte above 127 is no UTF-8.
-    text += followers == 0 && lead >= 0x80 ? '?' : ByteOf(character);
+    const bool whole = followed == followers && (followers > 0 || lead < 0x80);
+    text += whole ? ByteOf(character) : '?';
   }
   return text;
 }

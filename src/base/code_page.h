@@ -10,7 +10,7 @@ namespace vicetoll {
 // The text as UTF-8. The five bytes without a character become the control character of their number.
 std::string ToUtf8(std::string_view codePageText);
 
-// A UTF-8 text in the code page; a character it cannot hold becomes "?".
+// A UTF-8 text in the code page; a character it cannot hold becomes "?", and so does what is no UTF-8.
 std::string FromUtf8(std::string_view utf8);
 
 }  // namespace vicetoll

@@ -58,5 +58,12 @@ TEST(CodePage, ALoneByteIsAQuestionMark) {
             "a?b");
 }
 
+TEST(CodePage, ACharacterThatIsCutOffTakesNothingOfWhatFollows) {
+  EXPECT_EQ(FromUtf8("a\xC3\"b"), "a?\"b");
+  EXPECT_EQ(FromUtf8("a\xE2\x82/b"), "a?/b");
+  EXPECT_EQ(FromUtf8("a\xF0\x9F"), "a?");
+  EXPECT_EQ(FromUtf8("a\xE2\xE2\x82\xAC"), "a?\x80");
+}
+
 }  // namespace
 }  // namespace vicetoll
