@@ -42,7 +42,7 @@ constexpr const char* kUsage =
     "  --help, --version\n\n"
     "Exit status: 0, 1 if a file cannot be used, 2 for wrong use.\n";
 
-constexpr std::string_view kSides3[] = {"past", "future", "total"};
+constexpr std::string_view kScopes[] = {"past", "future", "total"};
 constexpr std::string_view kFormats[] = {"table", "csv", "json"};
 constexpr std::string_view kSuffixes[] = {".txt", ".csv", ".json"};
 constexpr std::string_view kOptions[] = {"--sin", "--side", "--format", "--clock", "--output"};
@@ -90,12 +90,12 @@ std::string_view KindWord(MonthKind kind) {
   return kWords[static_cast<int>(kind)];
 }
 
-std::string_view SideWord(const ReportMonth& month) { return kSides3[month.side == Side::Past ? 0 : 1]; }
+std::string_view ScopeWord(ReportScope scope) { return kScopes[static_cast<int>(scope)]; }
 
 // ---- The grid, as a table ----
 
 void AddTable(const SinWorkspace& ws, ReportScope scope, const MonthReport& report, std::string& out) {
-  out += std::string(ws.Sin().key) + ", " + std::string(kSides3[static_cast<int>(scope)]) + "\n";
+  out += std::string(ws.Sin().key) + ", " + std::string(ScopeWord(scope)) + "\n";
   const auto columns = ColumnsOf(ws.Class());
   // The cells row by row in one text, and where each ends.
   std::string text;
@@ -159,13 +159,12 @@ std::string CsvHeading() {
 }
 
 void AddCsv(const SinWorkspace& ws, ReportScope scope, const MonthReport& report, std::string& out) {
-  const std::string start =
-      std::string(ws.Sin().key) + "," + std::string(kSides3[static_cast<int>(scope)]) + ",";
+  const std::string start = std::string(ws.Sin().key) + "," + std::string(ScopeWord(scope)) + ",";
   for (const ReportMonth& month : report.months) {
     out += start;
     AppendNumber(out, month.index);
     (out += ',') += KindWord(month.kind);
-    (out += ',') += SideWord(month);
+    (out += ',') += SideWord(month.side);
     AppendNumber(out += ',', month.period);
     (out += ',') += IsoMonth(month.label);
     for (const FigureName& figure : kFigures) AppendNumberText(out += ',', FigureOf(month, figure.column));
@@ -187,7 +186,7 @@ void AddMonths(const MonthReport& report, std::string& out) {
     out += &month == &report.months.front() ? "\n      {\"index\": " : ",\n      {\"index\": ";
     AppendNumber(out, month.index);
     (out += ", \"kind\": \"") += KindWord(month.kind);
-    (out += "\", \"side\": \"") += SideWord(month);
+    (out += "\", \"side\": \"") += SideWord(month.side);
     AppendNumber(out += "\", \"period\": ", month.period);
     (out += ", \"month\": \"") += IsoMonth(month.label);
     out += '"';
@@ -241,7 +240,7 @@ void AddJson(SinWorkspace& ws, ReportScope scope, const MonthReport& report, con
     }
   };
   ((out += out == "[" ? "\n  {\n" : ",\n  {\n") += "    \"sin\": \"") += ws.Sin().key;
-  ((out += "\",\n    \"report\": \"") += kSides3[static_cast<int>(scope)]) += "\",\n    \"periods\": ";
+  ((out += "\",\n    \"report\": \"") += ScopeWord(scope)) += "\",\n    \"periods\": ";
   addInner(PeriodsOf(entries, scope));
   out += ",\n    \"months\": [";
   AddMonths(report, out);
@@ -382,7 +381,7 @@ bool TakeOption(std::string_view name, std::string_view value, Options& options)
   if (name == "--sin") return (options.sin = SinPosition(value)) != -1;
   if (name == "--clock") return TakeMonth(value, options.now);
   if (name == "--output") return !(options.output = value).empty();
-  if (name == "--side" && TakeWord(value, kSides3, place)) {
+  if (name == "--side" && TakeWord(value, kScopes, place)) {
     options.scope = static_cast<ReportScope>(place);
     return true;
   }

@@ -17,6 +17,9 @@ constexpr std::string_view ControlSuffix(Side side) { return side == Side::Past 
 // The side's suffix in names of operations: "Past", "Future".
 constexpr std::string_view OperationSuffix(Side side) { return side == Side::Past ? "Past" : "Future"; }
 
+// The side's word in files and tables: "past", "future".
+constexpr std::string_view SideWord(Side side) { return side == Side::Past ? "past" : "future"; }
+
 // "Past Period 2".
 inline std::string PeriodName(Side side, int period) {
   return (side == Side::Past ? "Past Period " : "Future Period ") + std::to_string(period);

@@ -84,8 +84,6 @@ std::string_view KindWord(ChartMonthKind kind) {
   return "active";
 }
 
-std::string_view SideWord(Side side) { return side == Side::Past ? "past" : "future"; }
-
 namespace {
 
 std::string MonthLines(const ChartContents& contents) {

@@ -22,8 +22,7 @@ std::string Readout(const ChartContents& contents, int month);
 // the currency with two decimals.
 std::string TabSeparated(const ChartContents& contents);
 
-// The words for a kind and a side of months: "disabled", "future".
+// The word for a kind of months: "disabled".
 std::string_view KindWord(ChartMonthKind kind);
-std::string_view SideWord(Side side);
 
 }  // namespace vicetoll

@@ -4,8 +4,6 @@
 
 #include <string_view>
 
-#include "base/side.h"
-
 namespace vicetoll {
 
 inline constexpr std::string_view kFormatName = "vicetoll entries";
@@ -21,7 +19,5 @@ inline constexpr std::string_view kCostModeWords[] = {"percent", "final cost"};
 inline constexpr std::string_view kCountedInWords[] = {"all", "enabled", "all, period 1 hidden"};
 inline constexpr std::string_view kOutOfOrder = "out of order";
 inline constexpr std::string_view kNoFigure = "n/a";
-
-constexpr std::string_view SideWord(Side side) { return kTabWords[side == Side::Past ? 0 : 1]; }
 
 }  // namespace vicetoll
