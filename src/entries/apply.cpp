@@ -10,8 +10,6 @@
 namespace vicetoll {
 namespace {
 
-constexpr std::int16_t kCoarseStep = 12;
-
 std::string RateText(int percent) { return std::to_string(percent) + "%"; }
 
 void ShowAmount(const SinWorkspace& ws, DropDownList* list, const std::string& amount,

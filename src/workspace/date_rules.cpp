@@ -13,6 +13,9 @@ namespace {
 
 constexpr std::int16_t kFineStep = 1;
 
+// Lists that were reset reach farther than those of a load.
+constexpr int kFutureYearsAfterReset = 85;
+
 // Handed to the fine rules for period 1, which has no previous period: a date long past. It is parsed,
 // but each rule that would use it applies only to periods above 1.
 const std::string kNoPreviousStop = "Jun - 1915";
@@ -163,7 +166,7 @@ void FineStop(WorkspaceSide& side, DropDownList& list, const std::string& thisDa
 void PrepareNextPeriodDates(WorkspaceSide& side, int period, SideIndex sideIndex) {
   const Present now(side.GetSession());
   const std::string next = MonthAfter(side.Store().At(period - 1, sideIndex).StopLabel);
-  const std::string last = side.IsPast() ? now.Label(0, 0) : now.Label(1, 75);
+  const std::string last = side.IsPast() ? now.Label(0, 0) : now.Label(1, kFutureYears);
   for (DropDownList* list : {side.comStart, side.comStop}) {
     FillDateList(true, *list, next, last, kCoarseStep);
     list->SetText(next);
@@ -172,8 +175,8 @@ void PrepareNextPeriodDates(WorkspaceSide& side, int period, SideIndex sideIndex
 
 void ResetDateLists(WorkspaceSide& side) {
   const Present now(side.GetSession());
-  const std::string first = side.IsPast() ? now.Label(0, -90) : now.Label(1, 0);
-  const std::string last = side.IsPast() ? now.Label(0, 0) : now.Label(1, 85);
+  const std::string first = side.IsPast() ? now.Label(0, kPastYears) : now.Label(1, 0);
+  const std::string last = side.IsPast() ? now.Label(0, 0) : now.Label(1, kFutureYearsAfterReset);
   side.optFineDateStart->SetValue(true);
   side.optFineDateStop->SetValue(true);
   for (int p = 1; p <= kPeriodCount; ++p) {

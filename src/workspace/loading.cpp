@@ -7,9 +7,8 @@
 namespace vicetoll {
 namespace {
 
-// The earliest past month lies so many years back, the latest future month so many ahead.
-constexpr int kPastYears = -90;
-constexpr int kFutureYears = 75;
+// How far the first list of future stops reaches, which the next steps of a load replace.
+constexpr int kFirstFutureYears = 90;
 // The default length of period 1.
 constexpr int kDefaultYears = 10;
 
@@ -158,7 +157,7 @@ void InitializeDates(WorkspaceSide& side, SideIndex sideIndex) {
     const std::string stop = now.Label(1, kDefaultYears);
     FillDateList(true, *side.comStart, present, present, kCoarseStep);
     side.comStart->SetText(present);
-    FillDateList(true, *side.comStop, stop, now.Label(1, 90), kCoarseStep);
+    FillDateList(true, *side.comStop, stop, now.Label(1, kFirstFutureYears), kCoarseStep);
     side.comStop->SetText(stop);
   }
 }
