@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workspace/date_rules.h"
 
+#include <algorithm>
 #include <cstdlib>
-#include <vector>
 
 #include "base/checked_int.h"
 #include "calendar/date_label.h"
@@ -51,50 +51,56 @@ std::string PreviousStop(WorkspaceSide& side, SideIndex sideIndex) {
   return current == 1 ? kNoPreviousStop : side.Store().At(current - 1, sideIndex).StopLabel;
 }
 
+// What the two lists showed and where they ended, before they are made anew.
+struct DatesBefore {
+  std::string start, stop;
+  std::string firstStart, lastStop;
+  std::string previousStop;  // of the period before
+};
+
+// In coarse lists the two dates bound each other; the list that has the focus keeps its stored far end, the
+// other one the far end it has.
+void RebuildStart(WorkspaceSide& side, const DatesBefore& before, const PeriodRecord& record, From from) {
+  const bool focused = from == From::Start;
+  const bool coarse = focused ? side.optCourseDateStart->Value() : !side.optFineDateStart->Value();
+  if (coarse)
+    FillDateList(true, *side.comStart, focused ? record.StartListFirst : before.firstStart, before.stop,
+                 kCoarseStep);
+  else if (before.start != before.stop)
+    FineBetween(side, *side.comStart, before.start, before.stop, before.previousStop);
+  else
+    FineStart(side, *side.comStart, before.start, before.previousStop);
+}
+
+void RebuildStop(WorkspaceSide& side, const DatesBefore& before, const PeriodRecord& record, From from) {
+  const bool focused = from == From::Stop;
+  const bool coarse = focused ? side.optCourseDateStop->Value() : !side.optFineDateStop->Value();
+  if (coarse)
+    FillDateList(true, *side.comStop, before.start, focused ? record.StopListLast : before.lastStop,
+                 kCoarseStep);
+  else if (before.start != before.stop)
+    FineBetween(side, *side.comStop, before.stop, before.start, before.previousStop);
+  else
+    FineStop(side, *side.comStop, before.stop);
+}
+
 void RebuildDates(WorkspaceSide& side, From from) {
-  const std::string startText = side.comStart->Text();
-  const std::string stopText = side.comStop->Text();
-  const std::string lastStop = side.comStop->Entry(side.comStop->Count() - 1);
-  const std::string firstStart = side.comStart->Entry(0);
+  DatesBefore before{.start = side.comStart->Text(),
+                     .stop = side.comStop->Text(),
+                     .firstStart = side.comStart->Entry(0),
+                     .lastStop = side.comStop->Entry(side.comStop->Count() - 1),
+                     .previousStop = {}};
   side.comStart->Clear();
   side.comStop->Clear();
   // The side in front by its number: the tabs keep it.
   const SideIndex sideIndex = side.GetSession().CurrentSinNumber;
-  const std::string previousStop = PreviousStop(side, sideIndex);
+  before.previousStop = PreviousStop(side, sideIndex);
   const PeriodRecord& record = side.Store().At(side.state.CurrentPeriod, sideIndex);
-
-  // In coarse lists the two dates bound each other; the list that has the focus keeps its stored far end,
-  // the other one the far end it has.
-  const auto rebuildStart = [&] {
-    const bool coarse =
-        from == From::Start ? side.optCourseDateStart->Value() : !side.optFineDateStart->Value();
-    if (coarse)
-      FillDateList(true, *side.comStart, from == From::Start ? record.StartListFirst : firstStart, stopText,
-                   kCoarseStep);
-    else if (startText != stopText)
-      FineBetween(side, *side.comStart, startText, stopText, previousStop);
-    else
-      FineStart(side, *side.comStart, startText, previousStop);
-  };
-  const auto rebuildStop = [&] {
-    const bool coarse = from == From::Stop ? side.optCourseDateStop->Value() : !side.optFineDateStop->Value();
-    if (coarse)
-      FillDateList(true, *side.comStop, startText, from == From::Stop ? record.StopListLast : lastStop,
-                   kCoarseStep);
-    else if (startText != stopText)
-      FineBetween(side, *side.comStop, stopText, startText, previousStop);
-    else
-      FineStop(side, *side.comStop, stopText);
-  };
-  if (from == From::Start) {
-    rebuildStart();
-    rebuildStop();
-  } else {
-    rebuildStop();
-    rebuildStart();
-  }
-  side.comStart->SelectEntry(std::max(0, side.comStart->Find(startText)));
-  const int stop = side.comStop->Find(stopText);
+  if (from == From::Start) RebuildStart(side, before, record, from);
+  RebuildStop(side, before, record, from);
+  if (from == From::Stop) RebuildStart(side, before, record, from);
+  side.comStart->SelectEntry(std::max(0, side.comStart->Find(before.start)));
+  const int stop = side.comStop->Find(before.stop);
   side.comStop->SelectEntry(stop == -1 ? side.comStop->Count() - 1 : stop);
 }
 
