@@ -27,6 +27,23 @@ void MarkPeriod(WorkspaceSide& side, int p, PeriodRecord& record, bool set) {
   side.txtResultsPeriod(p).SetText(set ? side.Money(CostInPeriod(side, p), kResultFormat) : "0");
 }
 
+// The total adds all four boxes, also those of disabled periods. The event of a radio that the press has
+// changed may have written results into the boxes of periods that are not set.
+void ShowTotalAndBalances(WorkspaceSide& side, int count, SideIndex sideIndex) {
+  double total = 0;
+  for (int p = 1; p <= kPeriodCount; ++p) {
+    if (p > count) side.txtResultsPeriod(p).SetText("0");
+    total += MoneyToNumber(side.txtResultsPeriod(p).Text());
+  }
+  side.txtResultsTotal->SetText(side.Money(total, kResultFormat));
+
+  SideTerms terms = SideTermsOf(side, sideIndex);
+  terms.counted.fill(true);  // a press chains disabled periods too
+  const auto balances = ChainBalances(terms, count, "0", WarningOf(side.Workspace()));
+  for (int p = 1; p <= kPeriodCount; ++p)
+    side.txtCumulativeResultsPeriod(p).SetText(p <= count ? balances[p - 1] : "0");
+}
+
 // A past period that stops in the present month leaves no room behind it. The future side has the same
 // rule moved by its one month, which closes it at the wrong end of time; in December the 13th month
 // equals none.
@@ -72,21 +89,7 @@ void CommitPeriod(WorkspaceSide& side, int count, SideIndex sideIndex) {
   if (count < kPeriodCount)
     for (int p = 1; p <= kPeriodCount; ++p)
       if (p == 1 || p > count) store.At(p, sideIndex).PeriodFresh = true;
-
-  // The total adds all four boxes, also those of disabled periods. A radio event above may have written
-  // results into the boxes of periods that are not set.
-  double total = 0;
-  for (int p = 1; p <= kPeriodCount; ++p) {
-    if (p > count) side.txtResultsPeriod(p).SetText("0");
-    total += MoneyToNumber(side.txtResultsPeriod(p).Text());
-  }
-  side.txtResultsTotal->SetText(side.Money(total, kResultFormat));
-
-  SideTerms terms = SideTermsOf(side, sideIndex);
-  terms.counted.fill(true);  // a press chains disabled periods too
-  const auto balances = ChainBalances(terms, count, "0", WarningOf(ws));
-  for (int p = 1; p <= kPeriodCount; ++p)
-    side.txtCumulativeResultsPeriod(p).SetText(p <= count ? balances[p - 1] : "0");
+  ShowTotalAndBalances(side, count, sideIndex);
 }
 
 void SelectPeriod(WorkspaceSide& side, SideIndex sideIndex) {
