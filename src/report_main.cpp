@@ -368,12 +368,10 @@ bool TakeWord(std::string_view value, const std::string_view (&words)[kCount], i
 }
 
 bool TakeMonth(std::string_view value, MonthAndYear& month) {
-  if (value.size() != 7 || value[4] != '-') return false;
-  for (std::size_t i = 0; i < value.size(); ++i)
-    if (i != 4 && (value[i] < '0' || value[i] > '9')) return false;
-  month = {(value[5] - '0') * 10 + value[6] - '0',
-           ((value[0] - '0') * 10 + value[1] - '0') * 100 + (value[2] - '0') * 10 + value[3] - '0'};
-  return month.month >= 1 && month.month <= 12 && month.year >= 1000;
+  const std::string label = LabelOfIsoMonth(value);
+  if (label.empty()) return false;
+  month = {MonthNumberFromLabel(label), YearFromLabel(label)};
+  return true;
 }
 
 bool TakeOption(std::string_view name, std::string_view value, Options& options) {

@@ -77,6 +77,19 @@ std::string IsoMonth(std::string_view label) {
   return iso;
 }
 
+std::string LabelOfIsoMonth(std::string_view iso) {
+  if (iso.size() != 7 || iso[4] != '-') return {};
+  int number = 0;  // 203106
+  for (std::size_t i = 0; i < iso.size(); ++i) {
+    if (i == 4) continue;
+    if (iso[i] < '0' || iso[i] > '9') return {};
+    number = number * 10 + (iso[i] - '0');
+  }
+  const int month = number % 100, year = number / 100;
+  if (month < 1 || month > kMonthsPerYear || year < kFirstIsoYear) return {};
+  return MakeDateLabel(static_cast<std::int16_t>(month), static_cast<std::int16_t>(year));
+}
+
 std::string MonthAfter(std::string_view label) {
   const std::int16_t month = MonthNumberFromLabel(label);
   const std::int16_t year = YearFromLabel(label);

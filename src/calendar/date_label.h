@@ -31,6 +31,12 @@ std::int16_t MonthsBetween(std::string_view label, std::string_view other);
 // "Jun - 2031" as "2031-06"; a label that names no month as it is.
 std::string IsoMonth(std::string_view label);
 
+// "2031-06" as "Jun - 2031"; the empty text for what is no month so written, its year one of those below.
+std::string LabelOfIsoMonth(std::string_view iso);
+
+// Years of four digits, the first of which is no zero.
+inline constexpr int kFirstIsoYear = 1000, kLastIsoYear = 9999;
+
 // The label of the month after this one, across a year's end.
 std::string MonthAfter(std::string_view label);
 

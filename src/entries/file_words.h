@@ -9,9 +9,6 @@ namespace vicetoll {
 inline constexpr std::string_view kFormatName = "vicetoll entries";
 inline constexpr int kFormatVersion = 1;
 
-// Years have four digits.
-inline constexpr int kFirstYear = 1000, kLastYear = 9999;
-
 inline constexpr std::string_view kRangeWord = " to ";
 inline constexpr std::string_view kCurrencyWords[] = {"dollar", "euro"};
 inline constexpr std::string_view kTabWords[] = {"past", "future", "total"};

@@ -15,18 +15,10 @@
 namespace vicetoll {
 namespace {
 
-// "2031-06" as a label.
 std::string MonthOf(const JsonValue& value, std::string_view text) {
-  bool good = text.size() == 7 && text[4] == '-';
-  for (std::size_t i = 0; good && i < text.size(); ++i) good = i == 4 || (text[i] >= '0' && text[i] <= '9');
-  const auto number = [&](std::size_t from, std::size_t length) {
-    int sum = 0;
-    for (char c : text.substr(from, length)) sum = sum * 10 + (c - '0');
-    return sum;
-  };
-  if (!good || number(0, 4) < kFirstYear || number(5, 2) < 1 || number(5, 2) > 12)
-    value.Fail(Quotation(text) + " is no month (such as \"2031-06\")");
-  return MakeDateLabel(static_cast<std::int16_t>(number(5, 2)), static_cast<std::int16_t>(number(0, 4)));
+  std::string label = LabelOfIsoMonth(text);
+  if (label.empty()) value.Fail(Quotation(text) + " is no month (such as \"2031-06\")");
+  return label;
 }
 
 std::string MonthOf(const JsonValue& value) { return MonthOf(value, value.Text()); }

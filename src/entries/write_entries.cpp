@@ -11,14 +11,11 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// "2031-06".
 std::string MonthText(const std::string& label) {
-  const int month = MonthNumberFromLabel(label);
   const int year = YearFromLabel(label);
-  if (month == 0 || year < kFirstYear || year > kLastYear)
-    throw EntriesRefused("\"" + label + "\" has no place in a file: its year has not four digits");
-  const std::string digits = std::to_string(year);
-  return digits + (month < 10 ? "-0" : "-") + std::to_string(month);
+  if (MonthNumberFromLabel(label) == 0 || year < kFirstIsoYear || year > kLastIsoYear)
+    throw EntriesRefused("\"" + label + "\" has no place in a file: its year does not have four digits");
+  return IsoMonth(label);
 }
 
 std::string RangeText(const MonthRange& range) {

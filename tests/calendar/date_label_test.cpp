@@ -79,6 +79,20 @@ TEST(DateLabel, ACountThatLeavesSixteenBitsIsAFault) {
   EXPECT_EQ(FaultOf([] { MonthsInclusive("Jan - 0001", "Jan - 9999"); }), FaultKind::Overflow);
 }
 
+TEST(DateLabel, AMonthInFiguresIsItsLabelAndBack) {
+  EXPECT_EQ(IsoMonth("Jun - 2031"), "2031-06");
+  EXPECT_EQ(IsoMonth("Dec - 1000"), "1000-12");
+  EXPECT_EQ(LabelOfIsoMonth("2031-06"), "Jun - 2031");
+  EXPECT_EQ(LabelOfIsoMonth("9999-10"), "Oct - 9999");
+  EXPECT_EQ(IsoMonth("n/a"), "n/a");
+}
+
+TEST(DateLabel, WhatIsNoMonthInFiguresHasNoLabel) {
+  for (const char* text : {"", "2031", "2031-6", "2031-006", "2031-00", "2031-13", "0999-06", "2031/06",
+                           "2031-0x", "20x1-06", " 2031-06", "+031-06", "12031-06"})
+    EXPECT_EQ(LabelOfIsoMonth(text), "") << text;
+}
+
 TEST(DateLabel, TheMonthAfterDecemberIsJanuaryOfTheNextYear) {
   EXPECT_EQ(MonthAfter("Dec - 1999"), "Jan - 2000");
   EXPECT_EQ(MonthAfter("Nov - 1999"), "Dec - 1999");
