@@ -5,6 +5,7 @@
 #include <array>
 
 #include "calendar/number_text.h"
+#include "workspace/parameters.h"
 
 namespace vicetoll {
 namespace {
@@ -16,11 +17,7 @@ struct SinAmounts {
 Amounts AmountsOf(const ListDefinition& list) {
   std::string_view format = list.format;
   if (format.starts_with('$')) format.remove_prefix(1);
-  Amounts amounts;
-  for (const Run& run : list.runs)
-    for (int i = run.first; i <= run.last; ++i)
-      amounts.push_back(FormatNumber(static_cast<double>(i) * run.multiplier / run.divisor, format));
-  return amounts;
+  return EntriesIn(NumberFormat(format), list);
 }
 
 const SinAmounts& AmountsOfSin(int position) {

@@ -187,9 +187,13 @@ const std::string& QuantityText(const WorkspaceSide& side, int period) {
 }
 
 std::vector<std::string> EntriesOf(const SinWorkspace& ws, const ListDefinition& definition) {
-  const NumberFormat format = definition.format.starts_with('$')
-                                  ? MoneyFormat(ws.GetSession().currency, definition.format)
-                                  : NumberFormat(definition.format);
+  return EntriesIn(definition.format.starts_with('$')
+                       ? MoneyFormat(ws.GetSession().currency, definition.format)
+                       : NumberFormat(definition.format),
+                   definition);
+}
+
+std::vector<std::string> EntriesIn(const NumberFormat& format, const ListDefinition& definition) {
   std::vector<std::string> entries;
   entries.reserve(EntryCount(definition));
   for (const Run& run : definition.runs) {

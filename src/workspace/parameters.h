@@ -45,6 +45,8 @@ const std::string& QuantityText(const WorkspaceSide& side, int period);
 
 // The entries of a value list, in the currency of the run.
 std::vector<std::string> EntriesOf(const SinWorkspace& ws, const ListDefinition& definition);
+// The same in another format than the list's own.
+std::vector<std::string> EntriesIn(const NumberFormat& format, const ListDefinition& definition);
 
 // Appends the entries of a value list.
 void AppendEntries(const SinWorkspace& ws, DropDownList& list, const ListDefinition& definition);
