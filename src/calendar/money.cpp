@@ -46,4 +46,9 @@ std::string FormatMoneyLetter(Currency currency, double value, std::string_view 
 
 double MoneyToNumber(std::string_view text) { return TextToNumber(WithoutEuroSign(text)); }
 
+std::optional<double> AmountShown(std::string_view text) {
+  if (!IsNumeric(WithoutEuroSign(text))) return std::nullopt;
+  return MoneyToNumber(text);
+}
+
 }  // namespace vicetoll

@@ -2,6 +2,7 @@
 // Money as text, in the currency of the run.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,5 +30,8 @@ NumberFormat MoneyLetterFormat(Currency currency, std::string_view format);
 
 // The number in a money text: StripCurrency, then text to number. Throws Fault(Conversion).
 double MoneyToNumber(std::string_view text);
+
+// The same for a box that may show no amount: none for words, nothing at all, or a symbol alone.
+std::optional<double> AmountShown(std::string_view text);
 
 }  // namespace vicetoll

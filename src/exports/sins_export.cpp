@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "exports/sins_export.h"
 
+#include <algorithm>
+
 #include "base/line_ends.h"
-#include "calendar/number_text.h"
 
 namespace vicetoll {
 namespace {
-
-std::optional<double> AmountShown(const std::string& text) {
-  const std::string stripped = StripCurrency(text);
-  return IsNumeric(stripped) ? std::optional(TextToNumber(stripped)) : std::nullopt;
-}
 
 std::vector<std::string> TextsOf(const SinsAsShown::Row& row) {
   std::vector<std::string> texts{row.caption};

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/combined_results.h"
 
+#include <algorithm>
+
 #include "base/fault.h"
 #include "calendar/number_text.h"
 #include "workspace/totals.h"
@@ -39,10 +41,7 @@ constexpr int kCombinedWidth = 2 * kMargin + kTickWidth + 6 * (kColumnWidth + kG
 constexpr int kCombinedHeight = kBottom + 1150;
 
 // The amount in a cell; a text that is none (words, a blank, a lone currency symbol) adds nothing.
-double AmountIn(const std::string& text) {
-  const std::string stripped = StripCurrency(text);
-  return IsNumeric(stripped) ? TextToNumber(stripped) : 0;
-}
+double AmountIn(const std::string& text) { return AmountShown(text).value_or(0); }
 
 constexpr std::string_view kTotalCaption = "Total";
 

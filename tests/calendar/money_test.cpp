@@ -66,5 +66,14 @@ TEST(Money, ReadsBackWhatItShows) {
   }
 }
 
+TEST(Money, ABoxMayShowNoAmount) {
+  EXPECT_EQ(AmountShown("$1,235"), 1235);
+  EXPECT_EQ(AmountShown("-\x80"
+                        "12"),
+            -12);
+  for (const char* text : {"", "$", "\x80", "n/a", "NO DATA", " "})
+    EXPECT_EQ(AmountShown(text), std::nullopt) << text;
+}
+
 }  // namespace
 }  // namespace vicetoll
