@@ -338,4 +338,6 @@ double RoundToCents(double value) {
   return value < 0 ? -cents : cents;
 }
 
+double RoundToUnits(double value) { return TextToNumber(FormatNumber(value, "0")); }
+
 }  // namespace vicetoll

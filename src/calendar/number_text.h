@@ -66,4 +66,7 @@ std::string FormatNumber(double value, std::string_view format);
 // back from that text, without making it.
 double RoundToCents(double value);
 
+// The same of whole units: the number that FormatNumber(value, "0") shows.
+double RoundToUnits(double value);
+
 }  // namespace vicetoll

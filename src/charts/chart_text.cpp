@@ -34,7 +34,7 @@ std::string Money(Currency currency, double value, int decimals) {
 
 // Behind the minus that a small negative amount keeps when it is rounded to nothing stands no amount.
 double WholeUnits(double value) {
-  const double whole = TextToNumber(FormatNumber(value, "0"));
+  const double whole = RoundToUnits(value);
   return whole == 0 ? 0 : whole;
 }
 

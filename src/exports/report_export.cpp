@@ -44,8 +44,6 @@ void AddPeriods(SinWorkspace& ws, ReportExport& report) {
 
 // ---- What the periods come to ----
 
-double InWholeUnits(double amount) { return TextToNumber(FormatNumber(amount, "0")); }
-
 // The months of a period in the report, by their places in it.
 std::vector<std::size_t> PlacesOf(const ReportExport& report, const ReportExportPeriod& period) {
   std::vector<std::size_t> places;
@@ -163,16 +161,16 @@ class PeriodChain {
     const std::vector<std::size_t> places = PlacesOf(report_, period);
     double cost = 0;
     for (const std::size_t i : places) cost += report_.months[i].monthCost;
-    cells.emplace_back(InWholeUnits(cost), CostFormula(row));
+    cells.emplace_back(RoundToUnits(cost), CostFormula(row));
     const ExportCell opening = Opening(period);
     double balance = *opening.number;
     for (const std::size_t i : places)
       balance = (balance + report_.months[i].monthCost) * RatesIn(period.entries).MonthlyFactor();
-    cells.emplace_back(InWholeUnits(balance), "=ROUND(" + GrownFormula(opening.formula, places, row) + ",0)");
+    cells.emplace_back(RoundToUnits(balance), "=ROUND(" + GrownFormula(opening.formula, places, row) + ",0)");
     before_ = &period;
     beforeRow_ = row;
-    beforeBalance_ = InWholeUnits(balance);
-    total_ += InWholeUnits(cost);
+    beforeBalance_ = RoundToUnits(balance);
+    total_ += RoundToUnits(cost);
     if (firstRow_ == 0) firstRow_ = row;
   }
 
@@ -221,7 +219,7 @@ class PeriodChain {
     const std::string formula = CellName(beforeRow_, At(kWithInterestColumn)) + "*" +
                                 FactorFormula(beforeRow_) + "^" + std::to_string(gap);
     if (before_->side != period.side && period.number == 1) return {grown, formula};
-    return {InWholeUnits(grown), "ROUND(" + formula + ",0)"};
+    return {RoundToUnits(grown), "ROUND(" + formula + ",0)"};
   }
 
   // Where the opening leads over the period. The report has the same months from another opening, and what

@@ -255,6 +255,13 @@ TEST(DecimalRounding, RoundsToTheCentsThatAreShown) {
     EXPECT_EQ(RoundToCents(value), TextToNumber(FormatNumber(value, "$#,##0.00")));
 }
 
+TEST(DecimalRounding, RoundsToTheUnitsThatAreShown) {
+  EXPECT_EQ(RoundToUnits(0.5), 1);
+  EXPECT_EQ(RoundToUnits(-2.5), -3);
+  EXPECT_EQ(RoundToUnits(1234.499999), 1234);
+  EXPECT_EQ(RoundToUnits(123456789012345678.0), 123456789012346000);
+}
+
 // ---- Text to number ----
 
 struct NumberCase {
