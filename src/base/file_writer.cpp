@@ -8,15 +8,16 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <climits>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
+#include <limits>
 #include <memory>
-#include <optional>
 
 #include "base/fault.h"
+#include "base/file_reader.h"
 
 namespace vicetoll {
 namespace {
@@ -79,18 +80,6 @@ int WriteAsItIs(const std::string& path, std::string_view bytes) {
   return file.Close();
 }
 
-std::optional<std::string> BytesOf(const std::string& path) {
-  OpenFile file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
-  if (!file.Good()) return std::nullopt;
-  std::string bytes;
-  char block[1 << 16];
-  ssize_t got;
-  while ((got = read(file.Descriptor(), block, sizeof block)) > 0)
-    bytes.append(block, static_cast<std::size_t>(got));
-  if (got != 0) return std::nullopt;
-  return bytes;
-}
-
 int Overwrite(const std::string& path, std::string_view bytes) {
   OpenFile file(open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC));
   if (!file.Good()) return errno;
@@ -101,10 +90,10 @@ int Overwrite(const std::string& path, std::string_view bytes) {
 
 int WriteInPlace(const std::string& path, std::string_view bytes, int folderError) {
   if (access(path.c_str(), W_OK) != 0) return folderError;
-  const std::optional<std::string> before = BytesOf(path);
-  if (!before) return folderError;
+  std::string before;
+  if (ReadRegularFile(path, std::numeric_limits<std::int64_t>::max(), before) != 0) return folderError;
   const int error = Overwrite(path, bytes);
-  if (error != 0) Overwrite(path, *before);
+  if (error != 0) Overwrite(path, before);
   return error;
 }
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <sys/stat.h>
+#include <algorithm>
+#include <array>
 
-#include <cerrno>
-#include <cstdio>
-#include <memory>
-
+#include "base/file_reader.h"
 #include "base/file_writer.h"
 #include "calendar/date_label.h"
 #include "calendar/number_text.h"
@@ -14,6 +12,8 @@
 
 namespace vicetoll {
 namespace {
+
+constexpr const char* kTooManyBytes = "the file is larger than 1 MiB";
 
 std::string MonthOf(const JsonValue& value, std::string_view text) {
   std::string label = LabelOfIsoMonth(text);
@@ -247,7 +247,7 @@ void CheckVersion(const JsonValue& json) {
 }  // namespace
 
 Entries ReadEntries(std::string_view bytes) {
-  if (bytes.size() > kMostEntriesBytes) throw EntriesRefused("the file is larger than 1 MiB");
+  if (bytes.size() > kMostEntriesBytes) throw EntriesRefused(kTooManyBytes);
   const JsonValue::Json parsed = ParseJson(bytes);
   const JsonValue json(parsed, "");
   json.Member("format").Word({kFormatName});
@@ -272,23 +272,17 @@ Entries ReadEntries(std::string_view bytes) {
 }
 
 std::string ReadEntriesBytes(const std::string& path) {
-  const auto fail = [](int error) { throw EntriesRefused(ReasonOf(error)); };
-  struct stat status;
-  if (stat(path.c_str(), &status) != 0) fail(errno);
-  if (!S_ISREG(status.st_mode)) throw EntriesRefused("this is no regular file");
-  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), std::fclose);
-  if (!file) fail(errno);
-  // It may be growing: one byte more than allowed tells that it is too large.
   std::string bytes;
-  char block[1 << 14];
-  while (bytes.size() <= kMostEntriesBytes) {
-    const std::size_t got = std::fread(block, 1, sizeof block, file.get());
-    if (std::ferror(file.get()) != 0) fail(errno);
-    if (got == 0) break;
-    bytes.append(block, got);
+  switch (const int error = ReadRegularFile(path, kMostEntriesBytes, bytes)) {
+    case 0:
+      return bytes;
+    case kNoRegularFile:
+      throw EntriesRefused("this is no regular file");
+    case kTooLarge:
+      throw EntriesRefused(kTooManyBytes);
+    default:
+      throw EntriesRefused(ReasonOf(error));
   }
-  if (bytes.size() > kMostEntriesBytes) throw EntriesRefused("the file is larger than 1 MiB");
-  return bytes;
 }
 
 }  // namespace vicetoll

@@ -26,13 +26,21 @@ std::string Replaced(std::string text, std::string_view what, std::string_view b
   return text.replace(at, what.size(), by);
 }
 
-std::string ReasonFor(const std::string& bytes) {
+std::string RefusalOf(const std::function<void()>& read) {
   try {
-    ReadEntries(bytes);
+    read();
     return "read";
   } catch (const EntriesRefused& refused) {
     return refused.what();
   }
+}
+
+std::string ReasonFor(const std::string& bytes) {
+  return RefusalOf([&] { ReadEntries(bytes); });
+}
+
+std::string ReasonForFile(const std::string& path) {
+  return RefusalOf([&] { ReadEntriesBytes(path); });
 }
 
 class FileOfEverySin : public testing::TestWithParam<int> {};
@@ -141,8 +149,9 @@ TEST(Reading, RefusesRubbish) {
   EXPECT_EQ(ReasonFor(std::string(kMostEntriesBytes + 1, ' ')), "the file is larger than 1 MiB");
   EXPECT_EQ(ReasonFor("{\"format\": 1e999}"), "the file: a number is too large");
   EXPECT_NE(ReasonFor(std::string(1 << 20, '[')).find("nested too deep"), std::string::npos);
-  EXPECT_THROW(ReadEntriesBytes("/dev/zero"), EntriesRefused);
-  EXPECT_THROW(ReadEntriesBytes(std::string(ENTRIES_FILES)), EntriesRefused);
+  EXPECT_EQ(ReasonForFile("/dev/zero"), "this is no regular file");
+  EXPECT_EQ(ReasonForFile(ENTRIES_FILES), "this is no regular file");
+  EXPECT_EQ(ReasonForFile(ENTRIES_FILES "/None.vicetoll"), "No such file or directory");
 }
 
 TEST(Reading, RefusesAFifthPeriod) {
