@@ -14,6 +14,18 @@ using Event = Json::parse_event_t;
 constexpr int kMostNesting = 8;
 constexpr std::size_t kMostQuoted = 40;
 
+// Without what is no character, and no longer than a message needs.
+std::string Shortened(std::string_view text) {
+  std::string shown;
+  std::size_t characters = 0;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if ((byte & 0xC0) != 0x80 && ++characters > kMostQuoted) return shown + "...";
+    shown += byte < 32 || byte == 127 ? '?' : c;
+  }
+  return shown;
+}
+
 std::string Join(const std::string& place, std::string_view key) {
   return place.empty() ? std::string(key) : place + "." + std::string(key);
 }
@@ -34,8 +46,7 @@ class Watcher {
         open_.pop_back();
         break;
       case Event::key:
-        open_.back().key = Quotation(parsed.get_ref<const std::string&>());
-        open_.back().key = open_.back().key.substr(1, open_.back().key.size() - 2);
+        open_.back().key = Shortened(parsed.get_ref<const std::string&>());
         if (!open_.back().keys.insert(parsed.get_ref<const std::string&>()).second)
           throw EntriesRefused(Place() + ": stands here twice");
         break;
@@ -81,19 +92,7 @@ std::string LineAndColumn(std::string_view bytes, std::size_t at) {
 
 }  // namespace
 
-std::string Quotation(std::string_view text) {
-  std::string quoted = "\"";
-  std::size_t characters = 0;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const auto byte = static_cast<unsigned char>(text[i]);
-    if ((byte & 0xC0) != 0x80 && ++characters > kMostQuoted) {
-      quoted += "...";
-      break;
-    }
-    quoted += byte < 32 || byte == 127 ? '?' : text[i];
-  }
-  return quoted + "\"";
-}
+std::string Quotation(std::string_view text) { return "\"" + Shortened(text) + "\""; }
 
 void JsonValue::Fail(const std::string& what) const {
   throw EntriesRefused((place_.empty() ? "the file" : place_) + ": " + what);
@@ -128,10 +127,7 @@ void JsonValue::RequireObject() const {
   if (!json_.is_object()) Fail("must be an object in braces");
 }
 
-std::string JsonValue::Below(std::string_view key) const {
-  const std::string quoted = Quotation(key);
-  return Join(place_, std::string_view(quoted).substr(1, quoted.size() - 2));
-}
+std::string JsonValue::Below(std::string_view key) const { return Join(place_, Shortened(key)); }
 
 std::optional<JsonValue> JsonValue::Optional(std::string_view key) const {
   RequireObject();
