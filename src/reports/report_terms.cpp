@@ -10,13 +10,7 @@ namespace vicetoll {
 ReportPeriod ReportPeriodOf(const WorkspaceSide& side, int period, bool counted) {
   const PeriodRecord& record = side.Record(period);
   ReportPeriod read{.side = side.Which(), .number = period, .set = record.PeriodSet, .counted = counted};
-  if (read.set && counted) {
-    read.terms = PeriodTermsOf(side, period);
-  } else {
-    read.terms.StartLabel = record.StartLabel;
-    read.terms.StopLabel = record.StopLabel;
-    read.terms.rates = RatesOf(record);
-  }
+  read.terms = read.set && counted ? PeriodTermsOf(side, period) : DatesAndRatesOf(record);
   read.stretchStart = record.StartLabel;
   read.stretchStop = record.StopLabel;
   return read;

@@ -4,6 +4,7 @@
 #include "base/checked_int.h"
 #include "calendar/date_label.h"
 #include "calendar/number_text.h"
+#include "reports/report_operations.h"
 
 namespace vicetoll {
 namespace {
@@ -22,7 +23,7 @@ CostTerms TermsWithModes(CostClass costClass, double initialCost, double finalCo
 // The day count of the month is looked up and takes no part in the cost.
 MonthCostCells CellsOfMonth(const SinWorkspace& ws, const CostTerms& terms, double month, double months,
                             std::int16_t period) {
-  const Side side = ws.FuturePast_Flag == 1 ? Side::Past : Side::Future;
+  const Side side = ws.FuturePast_Flag == kShowsPast ? Side::Past : Side::Future;
   std::string index = NumberToText(month);
   DayCountOfMonthIndex(index, ws.Of(side).Record(period).StartLabel);
   return CellsOf(terms, FiguresOfMonth(terms, month, months));
