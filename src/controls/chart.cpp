@@ -2,6 +2,7 @@
 #include "controls/chart.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace vicetoll {
 
@@ -10,10 +11,9 @@ void Chart::SetContents(ChartContents contents) {
   const std::string month = cursor_ < 0 ? std::string() : contents_.months[cursor_].label;
   contents_ = std::move(contents);
   const auto same = std::ranges::find(contents_.months, month, &ChartMonth::label);
-  const auto place = same == contents_.months.end()
-                         ? contents_.months.size() - 1
-                         : static_cast<std::size_t>(same - contents_.months.begin());
-  PutCursor(static_cast<int>(place));
+  const auto place =
+      same == contents_.months.end() ? std::ssize(contents_.months) - 1 : same - contents_.months.begin();
+  PutCursor(static_cast<int>(place));  // -1 where there are no months
 }
 
 int Chart::Count() const {

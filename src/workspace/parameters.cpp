@@ -58,8 +58,9 @@ int FindCost(const DropDownList& list, const std::string& stored) {
   for (int i = 0; i < list.Count(); ++i)
     if (StripCurrency(list.Entry(i)) == wanted) return i;
   if (!IsNumeric(wanted)) return -1;
+  const double amount = TextToNumber(wanted);
   for (int i = 0; i < list.Count(); ++i)
-    if (MoneyToNumber(list.Entry(i)) == TextToNumber(wanted)) return i;
+    if (MoneyToNumber(list.Entry(i)) == amount) return i;
   return -1;
 }
 
