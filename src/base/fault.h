@@ -26,15 +26,13 @@ constexpr std::string_view HowToAvoid(FaultKind kind) {
   switch (kind) {
     case FaultKind::File:
       return "To avoid this, give each report a name, in a folder that you may write to and that has room, "
-             "and "
-             "do not cancel its first save.";
+             "and do not cancel its first save.";
     case FaultKind::Overflow:
       return "To avoid this, choose shorter periods, or lower amounts, costs and rates.";
     case FaultKind::Conversion:
     case FaultKind::Index:
-      return "To avoid this, choose the dates of a period anew before you set it, and set its periods in "
-             "their "
-             "order.";
+      return "To avoid this, choose the dates of a period anew before you set it, and set the periods of a "
+             "side in their order.";
   }
   return {};
 }

@@ -10,9 +10,8 @@ std::string AboutText() {
          "Version " +
          std::string(kVersion) +
          "\r\n\r\n"
-         "What a costly habit has cost, what it will cost, and what that money would have grown to, put "
-         "aside "
-         "month by month.\r\n\r\n"
+         "What a costly habit has cost, what it will cost, and what that money would have grown to, "
+         "put aside month by month.\r\n\r\n"
          "## Licence\r\n\r\n"
          "Copyright 2026 The Orvane Team\r\n\r\n"
          "This program is free software: you can redistribute it and change it under the terms of the GNU "
