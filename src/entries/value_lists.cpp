@@ -94,12 +94,4 @@ std::optional<QuantityPlaces> PlacesOf(int position, const SideEntries& side) {
   return std::nullopt;
 }
 
-Unit UsualResultsUnit(const SideEntries& side) { return side.periods.back().unit; }
-
-CountedIn UsualResultsBy(const SideEntries& side) {
-  const bool anyOff = std::any_of(side.periods.begin(), side.periods.end(),
-                                  [](const PeriodEntries& period) { return !period.enabled; });
-  return anyOff ? CountedIn::Switch : CountedIn::Press;
-}
-
 }  // namespace vicetoll
