@@ -174,15 +174,6 @@ TEST_F(Switching, APositionOutsideTheSinsIsAFault) {
     EXPECT_EQ(FaultOf([&] { program.Chooser().ShowSinChooser(position); }), FaultKind::Index);
 }
 
-TEST_F(Switching, OnlySmokingAndInterringCanBeRestored) {
-  run.Enter("Gambling");
-  for (int i = 0; i < kSinCount; ++i) {
-    const bool has = i == 0 || Catalogue()[i].key == "Interring";
-    for (const char* name : {"cmdRestoreProgram", "cmdRevealDeveloper"})
-      EXPECT_EQ(program.At(i).Find(name) != nullptr, has) << Catalogue()[i].key;
-  }
-}
-
 // ---- Exit ----
 
 TEST_F(Switching, ExitCreatesAndClosesEveryWindow) {
