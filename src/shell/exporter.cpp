@@ -45,13 +45,18 @@ void Exporter::Remember(SinWorkspace& ws, ReportScope scope) {
   }
 }
 
+bool Exporter::HasReport() const {
+  if (!shown_)
+    GetPlatform().ShowFileMessage("There is no report here that can be exported.", MessageButtons::Ok);
+  return shown_.has_value();
+}
+
 void Exporter::ExportGrid(Form& window) {
-  if (shown_) return ExportReport(window, *shown_);
-  GetPlatform().ShowFileMessage("This report cannot be taken along.", MessageButtons::Ok);
+  if (HasReport()) ExportReport(window, *shown_);
 }
 
 void Exporter::PreviewGrid() {
-  if (!shown_) return;
+  if (!HasReport()) return;
   Guarded([this] { GetPlatform().PreviewPages(WithPicture(PagesOf(*shown_), shown_->chart)); });
 }
 

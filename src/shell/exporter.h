@@ -41,6 +41,8 @@ class Exporter {
     const ChartContents& chart;
   };
 
+  // Whether the grid shows one that can be taken along; tells the user if not.
+  bool HasReport() const;
   void Export(Form& window, const Forms& forms);
   void ExportReport(Form& window, const ReportExport& report);
   // None if the user did not wait for them.

@@ -35,6 +35,19 @@ TEST_F(Export, CancelWritesNothing) {
   EXPECT_TRUE(run.platform.messages.empty());
 }
 
+// The program itself shows no grid without a report.
+TEST_F(Export, AGridWithoutAReportTellsSo) {
+  grid.Show();
+  for (const char* button : {"cmdExport", "cmdPrintPreview"}) {
+    EXPECT_EQ(grid.Get<Button>(button).UserClicks(), UserOutcome::Done);
+    ASSERT_EQ(run.platform.messages.size(), 1u) << button;
+    EXPECT_EQ(run.platform.messages[0].text, "There is no report here that can be exported.");
+    run.platform.messages.clear();
+  }
+  EXPECT_TRUE(run.platform.savePathsOffered.empty());
+  EXPECT_TRUE(run.platform.previewed.empty());
+}
+
 TEST_F(Export, TheSuffixDecidesInAnyCase) {
   OpenGrid();
   for (const char* name : {"a.csv", "b.CSV", "c.xlsx", "d.Xlsx", "e", "f.txt"}) PressWith(name);
