@@ -13,7 +13,6 @@
 #include <set>
 
 #include "base/code_page.h"
-#include "base/fault.h"
 #include "base/file_writer.h"
 #include "base/quiet_platform.h"
 #include "base/version.h"

@@ -2,7 +2,6 @@
 #include "charts/sins_points.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace vicetoll {
 namespace {

@@ -2,7 +2,6 @@
 // Controls that are on or off: options, radios, check boxes.
 #pragma once
 
-#include <string_view>
 #include <vector>
 
 #include "controls/control.h"
@@ -46,7 +45,6 @@ class Choice : public CaptionedControl {
   void TakeStateOf(const Control& other) override;
 
   void JoinGroup(ChoiceGroup& group);
-  const ChoiceGroup* Group() const { return group_; }
 
   // Runs on a user's click, also on a choice that is on already, and never by program.
   UserOutcome UserClicks();

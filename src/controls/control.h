@@ -51,8 +51,6 @@ inline constexpr int kAnyPage = -1;
 // Colours are the numbers blue * 65536 + green * 256 + red.
 inline constexpr int kRed = 255;
 inline constexpr int kGreen = 49152;
-inline constexpr int kBlue = 16711680;
-inline constexpr int kWhite = 16777215;
 
 class Control {
  public:

@@ -6,6 +6,7 @@
 
 #include "base/code_page.h"
 #include "base/fault.h"
+#include "base/line_ends.h"
 
 namespace vicetoll {
 
@@ -128,7 +129,7 @@ void Form::TellFocus(const Control& control) {
 
 std::string Form::ExplanationOf(const Control& control) const {
   std::string text(HelpOn(control));
-  if (!text.empty() && !control.ToolTip().empty()) text += "\r\n";
+  if (!text.empty() && !control.ToolTip().empty()) text += kLineEnd;
   return text + control.ToolTip();
 }
 
@@ -178,12 +179,12 @@ Control* Form::FocusBehind(const Control& gone) const {
 }
 
 void Form::Register(std::unique_ptr<Control> control) {
-  byName_.emplace(NameLess::Key(control->Name(), control->Index()), control.get());
+  byName_.emplace(NameAndIndex(control->Name(), control->Index()), control.get());
   controls_.push_back(std::move(control));
 }
 
 Control* Form::Find(std::string_view name, int index) const {
-  const auto found = byName_.find(NameLess::Key(name, index));
+  const auto found = byName_.find(NameAndIndex(name, index));
   return found == byName_.end() ? nullptr : found->second;
 }
 
@@ -200,7 +201,7 @@ Control* Form::Find(std::string_view fullName) const {
 
 std::vector<Control*> Form::FindAll(std::string_view name) const {
   std::vector<Control*> found;
-  for (auto i = byName_.lower_bound(NameLess::Key(name, kNoIndex)); i != byName_.end(); ++i) {
+  for (auto i = byName_.lower_bound(NameAndIndex(name, kNoIndex)); i != byName_.end(); ++i) {
     if (i->first.first != name) break;
     found.push_back(i->second);
   }

@@ -173,11 +173,7 @@ class Form {
   void SetShown(bool shown);
 
  private:
-  struct NameLess {
-    using is_transparent = void;
-    using Key = std::pair<std::string_view, int>;
-    bool operator()(const Key& a, const Key& b) const { return a < b; }
-  };
+  using NameAndIndex = std::pair<std::string_view, int>;
 
   template <class T>
   T& AddFocusGroup() {
@@ -206,7 +202,7 @@ class Form {
   int announcementsMade_ = 0;
   std::vector<std::unique_ptr<Control>> controls_;
   std::vector<std::unique_ptr<FocusGroup>> groups_;
-  std::map<NameLess::Key, Control*, NameLess> byName_;  // the names live in the controls
+  std::map<NameAndIndex, Control*> byName_;  // the names live in the controls
   FormListener* listener_ = nullptr;
 };
 

@@ -6,7 +6,7 @@
 #include "calendar/date_label.h"
 #include "calendar/number_text.h"
 #include "charts/growth_points.h"
-#include "engine/side_chain.h"
+#include "engine/period_cost.h"
 #include "entries/capture.h"
 #include "reports/report_columns.h"
 #include "workspace/period_operations.h"

@@ -3,7 +3,6 @@
 // between two layouts, print and save.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include "controls/document_text.h"

@@ -2,6 +2,7 @@
 #include "reports/report_operations.h"
 
 #include "controls/form.h"
+#include "reports/doc_text.h"
 #include "reports/report_terms.h"
 #include "reports/spd_rows.h"
 

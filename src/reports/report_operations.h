@@ -9,7 +9,6 @@
 
 #include "controls/document_text.h"
 #include "controls/grid.h"
-#include "reports/doc_text.h"
 #include "reports/report_months.h"
 #include "workspace/sin_workspace.h"
 

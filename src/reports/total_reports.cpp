@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reports/total_reports.h"
 
+#include "reports/doc_text.h"
 #include "reports/report_operations.h"
 #include "reports/report_terms.h"
 #include "reports/spd_rows.h"

@@ -2,7 +2,6 @@
 // The reports over both sides: the past, the months to the future, the future.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include "controls/grid.h"

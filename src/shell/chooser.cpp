@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/chooser.h"
 
+#include <algorithm>
+
 #include "base/fault.h"
 #include "workspace/loading.h"
 #include "workspace/totals.h"

@@ -3,7 +3,7 @@
 // existing, hidden, as the user left it.
 #pragma once
 
-#include <functional>
+#include <array>
 
 #include "controls/form.h"
 #include "workspace/workspaces.h"

@@ -5,6 +5,7 @@
 
 #include "base/fault.h"
 #include "calendar/number_text.h"
+#include "engine/side_chain.h"
 #include "workspace/totals.h"
 
 namespace vicetoll {

@@ -4,9 +4,6 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
-
-#include "entries/entries.h"
 
 namespace vicetoll {
 

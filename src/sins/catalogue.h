@@ -9,14 +9,11 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <span>
 #include <string_view>
 
 #include "base/side.h"
-#include "calendar/period_store.h"
 #include "calendar/side_index.h"
 
 namespace vicetoll {

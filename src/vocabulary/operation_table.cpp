@@ -2,6 +2,7 @@
 #include "vocabulary/operation_table.h"
 
 #include "calendar/date_label.h"
+#include "reports/doc_text.h"
 #include "reports/report_operations.h"
 #include "reports/result_buttons.h"
 #include "shell/identification.h"

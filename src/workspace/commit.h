@@ -3,8 +3,6 @@
 // sums and put it back.
 #pragma once
 
-#include <cstdint>
-
 #include "workspace/sin_workspace.h"
 
 namespace vicetoll {

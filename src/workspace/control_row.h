@@ -4,7 +4,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <type_traits>
 
 #include "workspace/sin_workspace.h"

@@ -6,7 +6,6 @@
 // are offered.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include "workspace/sin_workspace.h"

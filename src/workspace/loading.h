@@ -2,8 +2,6 @@
 // Bringing a side to life: value lists, defaults, first values in the store, the screen of period 1.
 #pragma once
 
-#include <cstdint>
-
 #include "workspace/sin_workspace.h"
 
 namespace vicetoll {

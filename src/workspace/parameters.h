@@ -5,7 +5,6 @@
 // under the names their sins give them.
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>

@@ -2,8 +2,6 @@
 // The period operations of a workspace: the engine's, fed from the workspace's store and lists.
 #pragma once
 
-#include <cstdint>
-#include <string>
 #include <string_view>
 
 #include "engine/side_chain.h"

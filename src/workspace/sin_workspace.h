@@ -15,7 +15,6 @@
 #include "base/side.h"
 #include "controls/drop_down_list.h"
 #include "controls/form.h"
-#include "engine/side_chain.h"
 #include "sins/catalogue.h"
 #include "workspace/session.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workspace/workspace_design.h"
 
+#include <algorithm>
 #include <map>
 #include <stdexcept>
 
