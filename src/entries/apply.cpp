@@ -10,8 +10,6 @@
 namespace vicetoll {
 namespace {
 
-std::string RateText(int percent) { return std::to_string(percent) + "%"; }
-
 void ShowAmount(const SinWorkspace& ws, DropDownList* list, const std::string& amount,
                 std::string_view format) {
   if (list != nullptr) list->SetText(ws.Money(TextToNumber(amount), format));

@@ -207,8 +207,8 @@ std::optional<FutureDateTerms> ReadTerms(const std::optional<JsonValue>& json) {
   if (!json) return std::nullopt;
   FutureDateTerms terms;
   if (const auto date = json->Optional("date")) terms.date = MonthOf(*date);
-  terms.interest = std::to_string(PercentOf(json->Member("interest"))) + "%";
-  terms.inflation = std::to_string(PercentOf(json->Member("inflation"))) + "%";
+  terms.interest = RateText(PercentOf(json->Member("interest")));
+  terms.inflation = RateText(PercentOf(json->Member("inflation")));
   return terms;
 }
 

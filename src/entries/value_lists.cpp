@@ -73,6 +73,8 @@ const std::string& AmountAt(const Amounts& amounts, int place) {
   return amounts.at(std::min<std::size_t>(place, amounts.size() - 1));
 }
 
+std::string RateText(int percent) { return std::to_string(percent) + "%"; }
+
 std::string_view UnitWord(int position, Unit unit) {
   if (HasListPerUnit(Catalogue().at(position).costClass))
     return unit == Unit::PerDay ? "packs" : "cigarettes";

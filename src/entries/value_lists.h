@@ -22,6 +22,9 @@ int PlaceOf(const Amounts& amounts, const std::string& amount);
 // The amount at a place, the last one for a place past the end.
 const std::string& AmountAt(const Amounts& amounts, int place);
 
+// An entry of the lists of rates: "5%".
+std::string RateText(int percent);
+
 // The words of a unit: "packs", "cigarettes", "per day", "per month".
 std::string_view UnitWord(int position, Unit unit);
 

@@ -159,9 +159,7 @@ std::string BalanceOf(const BothSides& both, const DateWarning& warn) {
 }
 
 // The number in a box of kTotalFormat, where zero is a symbol without a digit.
-double WholeUnits(const std::string& shown) {
-  return IsNumeric(StripCurrency(shown)) ? MoneyToNumber(shown) : 0;
-}
+double WholeUnits(const std::string& shown) { return AmountShown(shown).value_or(0); }
 
 // The figure reckoned anew with the terms of the last time; none where there are none, or nothing counts. Its
 // `value` is unrounded.
