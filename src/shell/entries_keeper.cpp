@@ -67,7 +67,7 @@ bool EntriesKeeper::MayReplace() {
   if (!Changed()) return true;
   const std::string what = path_.empty()
                                ? std::string("What you entered is in no file.")
-                               : "What you entered since is not in the file \"" + NameOf(path_) + "\".";
+                               : "What you entered last is not yet in the file \"" + NameOf(path_) + "\".";
   switch (program_.GetSession().platform.ShowFileMessage(what + "\r\n\r\nSave it?",
                                                          MessageButtons::SaveDiscardCancel)) {
     case Answer::Ok:
