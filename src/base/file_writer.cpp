@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
+#include <filesystem>
 #include <limits>
 #include <memory>
 
@@ -57,12 +58,15 @@ class OpenFile {
   int descriptor_;
 };
 
+// Where links lead to, also one whose file is not there yet.
 std::string Followed(const std::string& path) {
-  char* resolved = realpath(path.c_str(), nullptr);
-  if (resolved == nullptr) return path;
-  std::string followed(resolved);
-  std::free(resolved);
-  return followed;
+  if (const std::unique_ptr<char, void (*)(void*)> whole(realpath(path.c_str(), nullptr), std::free); whole)
+    return whole.get();
+  // Neither links in a circle, nor an open pipe, which is there but has no path.
+  std::error_code noLink;
+  if (errno != ENOENT || std::filesystem::exists(path, noLink)) return path;
+  const std::filesystem::path target = std::filesystem::read_symlink(path, noLink);
+  return noLink ? path : Followed(std::filesystem::path(path).parent_path() / target);
 }
 
 std::string FolderOf(const std::string& path) {

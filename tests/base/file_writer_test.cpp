@@ -57,6 +57,18 @@ TEST_F(ReplacingAFile, KeepsRightsAndLinks) {
   EXPECT_EQ(fs::status(Path("a")).permissions(), fs::perms(0640));
 }
 
+TEST_F(ReplacingAFile, FollowsALinkToAFileThatIsNotThereYet) {
+  fs::create_directory(Path("folder"));
+  fs::create_symlink("folder/second", Path("first"));
+  fs::create_symlink("../file", Path("folder/second"));
+  EXPECT_EQ(ReplaceFile(Path("first"), "one"), 0);
+  EXPECT_EQ(Read(Path("file")), "one");
+  EXPECT_TRUE(fs::is_symlink(Path("first")) && fs::is_symlink(Path("folder/second")));
+  fs::create_symlink(Path("none/file"), Path("nowhere"));
+  EXPECT_EQ(ReplaceFile(Path("nowhere"), "x"), ENOENT);
+  EXPECT_TRUE(fs::is_symlink(Path("nowhere")));
+}
+
 // As a full disk would: the limit of the shell for the size of files.
 TEST_F(ReplacingAFile, LeavesTheOldOneWhereTheNewOneHasNoRoom) {
   const std::string old(12'000, 'x');
