@@ -25,7 +25,7 @@ constexpr ColumnDesign kColumnDesigns[] = {
 };
 
 // The entries of comDataRep by position.
-enum Representation { kNoDataWords, kBlank, kZero };
+enum Representation { kWords, kBlank, kZero };
 
 // In twips: one table, its ticks in front of their rows, the totals set apart below.
 constexpr int kMargin = 200;
@@ -38,7 +38,8 @@ constexpr int kCellHeight = 360;
 constexpr int kTotalTop = kFirstRow + kSinCount * kRowStep + 180;
 constexpr int kTableHeight = kTotalTop + kCellHeight + 180;
 constexpr int kBottom = kMargin + kTableHeight + 200;
-constexpr int kCombinedWidth = 2 * kMargin + kTickWidth + 6 * (kColumnWidth + kGap);
+constexpr int kCombinedWidth =
+    2 * kMargin + kTickWidth + static_cast<int>(std::size(kColumnDesigns)) * (kColumnWidth + kGap);
 constexpr int kCombinedHeight = kBottom + 1150;
 
 // The amount in a cell; a text that is none (words, a blank, a lone currency symbol) adds nothing.
@@ -160,17 +161,11 @@ void CombinedResults::PopulateCombResultsText() {
 
 const std::string& CombinedResults::NoData() {
   // What was typed and is no entry leaves the representation as it was.
-  switch (comDataRep_->Find(comDataRep_->Text())) {
-    case kNoDataWords:
-      noData_ = "NO DATA";
-      break;
-    case kBlank:
-      noData_.clear();
-      break;
-    case kZero:
-      noData_ = comDataRep_->Entry(kZero);
-      break;
-  }
+  const int entry = comDataRep_->Find(comDataRep_->Text());
+  if (entry == kBlank)
+    noData_.clear();
+  else if (entry != -1)
+    noData_ = comDataRep_->Entry(entry);
   return noData_;
 }
 

@@ -27,15 +27,14 @@ void SetLeft(Control& control, int left) {
 
 // Left edges from left to right, tops from the window's bottom. Sizes are those of the design.
 void PlaceBottomRow(SinWorkspace& ws) {
-  const int H = ws.Height();
   Control& switchSins = *ws.cmdSwitchSins;
   Control& combined = Bottom(ws, "cmdCombinedResults");
   Control& tips = Bottom(ws, "frmToolTipOnOff");
   Control& exit = *ws.cmdExit;
   Control& help = Bottom(ws, "cmdHelp");
   Control& faq = Bottom(ws, "cmdFaq");
-  const auto fromBottom = [H](const Control& control, int margin) {
-    return H - control.GetPlace().height - margin;
+  const auto fromBottom = [&ws](const Control& control, int margin) {
+    return ws.Height() - control.GetPlace().height - margin;
   };
   SetLeft(switchSins, 0);
   SetTop(switchSins, fromBottom(switchSins, 600));
