@@ -198,7 +198,7 @@ void AddMonths(const MonthReport& report, std::string& out) {
   }
 }
 
-// What the boxes of the window show, whole units.
+// Unrounded, and as the boxes of the window show them in whole units.
 Json TotalsOf(SinWorkspace& ws, ReportScope scope, const MonthReport& report) {
   Json totals;
   totals["outOfPocket"] = Digits15(report.after.cost);

@@ -27,6 +27,7 @@ constexpr std::size_t kHeadingLines = 3;
 constexpr std::size_t kNarrowest = 8, kWidest = 40;  // characters
 constexpr std::size_t kBesideText = 2;
 constexpr std::size_t kMonthsNamed = 10;  // along a chart
+constexpr std::uint8_t kA4 = 9;           // as the library counts papers
 constexpr const char* kMonthFormat = "mmm yyyy";
 
 // The library writes to a file by name: this one lies in memory.
@@ -166,7 +167,7 @@ class WorkbookWriter {
     }
     worksheet_freeze_panes(sheet, 1, 0);
     worksheet_set_landscape(sheet);
-    worksheet_set_paper(sheet, 9);  // A4
+    worksheet_set_paper(sheet, kA4);
     worksheet_repeat_rows(sheet, 0, 0);
     worksheet_fit_to_pages(sheet, 1, 0);
     for (std::size_t r = 0; r < table.rows.size(); ++r)
@@ -249,7 +250,7 @@ class WorkbookWriter {
     options.y_scale = lines ? 1.8 : 2.4;
     worksheet_insert_chart_opt(sheet, 0, 0, chart, &options);
     worksheet_set_landscape(sheet);
-    worksheet_set_paper(sheet, 9);
+    worksheet_set_paper(sheet, kA4);
     worksheet_fit_to_pages(sheet, 1, 1);
   }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include "base/fault.h"
+#include "fault_of.h"
 #include "reports/report_world.h"
 #include "vocabulary/month_reports.h"
 
@@ -226,12 +226,8 @@ TEST_F(SpdRowsTest, IndexBeyond16BitsIsAFault) {
   SinWorkspace& ws = world.At("Smoking");
   Write(ws, Side::Past, 1, {"Jan - 2000", "Mar - 2000"});
   std::int16_t index = 32765;
-  try {
-    ParametersForMonthInPeriodSpd(ws.Of(Side::Past), Rows(), 1, index, 0, 0);
-    FAIL() << "no fault";
-  } catch (const Fault& fault) {
-    EXPECT_EQ(fault.Kind(), FaultKind::Overflow);
-  }
+  EXPECT_EQ(FaultOf([&] { ParametersForMonthInPeriodSpd(ws.Of(Side::Past), Rows(), 1, index, 0, 0); }),
+            FaultKind::Overflow);
 }
 
 // $20 a day costs 608.40 a month; with 1% interest 614.484. There is no cell for the unit cost.
