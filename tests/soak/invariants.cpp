@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "calendar/date_label.h"
+#include "engine/side_chain.h"
 
 namespace vicetoll {
 namespace {
