@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // vicetoll-report: the reports of files of entries, without a window.
 #include <malloc.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 #include <set>
+#include <utility>
 
 #include "base/file_writer.h"
 #include "base/quiet_platform.h"
@@ -46,25 +49,31 @@ std::string TargetFor(const std::string& path, const ReportOptions& options) {
 class TakenFiles {
  public:
   explicit TakenFiles(const std::vector<std::string>& read) {
-    for (const std::string& path : read) files_.insert(WholePath(path));
+    for (const std::string& path : read)
+      if (const auto file = FileAt(path)) read_.insert(*file);
   }
 
   // Throws EntriesRefused for a target that is taken.
   void Take(const std::string& target) {
-    if (!target.empty() && !files_.insert(WholePath(target)).second)
+    if (target.empty()) return;
+    const auto file = FileAt(target);
+    if ((file && read_.contains(*file)) || !written_.insert(target).second)
       throw EntriesRefused("its report would overwrite " + target +
                            ", which is read or was written by the same call");
   }
 
  private:
-  // As it is where the system does not tell: a pipe has no whole path.
-  static std::string WholePath(const std::string& path) {
-    std::error_code error;
-    std::string whole = std::filesystem::weakly_canonical(path, error).string();
-    return error ? path : whole;
+  using File = std::pair<dev_t, ino_t>;
+
+  // Whatever way leads there; none where there is no file.
+  static std::optional<File> FileAt(const std::string& path) {
+    struct stat status;
+    if (stat(path.c_str(), &status) != 0) return std::nullopt;
+    return File(status.st_dev, status.st_ino);
   }
 
-  std::set<std::string> files_;
+  std::set<File> read_;
+  std::set<std::string> written_;
 };
 
 void Put(const std::string& report, const std::string& target) {
