@@ -35,8 +35,9 @@ namespace {
 constexpr int kSettleMilliseconds = 60;
 
 // What is typed on the bare window: bold, 30 points (40 pixels of the design), narrow enough for the longest
-// line.
+// line. Letters come in whole pixels, lines do not: rounded, the last of them would come down on the buttons.
 constexpr int kCanvasPixels = 40;
+constexpr int kCanvasLine = 46;
 constexpr int kCanvasStretch = 72;
 
 // Pixels that a window's title takes before the window manager has said so.
@@ -709,12 +710,11 @@ void FormWindow::PaintCanvas(QPainter& painter) {
   letters.setStretch(kCanvasStretch);
   painter.setFont(letters);
   painter.setPen(Colour(Tone::Ink));
-  const int step = painter.fontMetrics().height();
-  int baseline = painter.fontMetrics().ascent();
-  for (const CanvasLine& line : form_.Canvas()) {
-    painter.drawText(GetScale().ToPixels(line.left), baseline, ToQt(line.text));
-    baseline += step;
-  }
+  const int ascent = painter.fontMetrics().ascent();
+  int lines = 0;
+  for (const CanvasLine& line : form_.Canvas())
+    painter.drawText(GetScale().ToPixels(line.left), GetScale().Of(kCanvasLine * lines++) + ascent,
+                     ToQt(line.text));
 }
 
 }  // namespace vicetoll

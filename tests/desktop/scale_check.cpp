@@ -14,6 +14,7 @@
 #include "desktop/document_view.h"
 #include "desktop/form_window.h"
 #include "desktop/look.h"
+#include "desktop/themes.h"
 #include "desktop/widgets.h"
 #include "scenario/scripted_platform.h"
 
@@ -166,6 +167,28 @@ TEST_F(Sizes, AScreenTooSmallForReadableLettersScrolls) {
   EXPECT_EQ(Smoking().Width(), 12000);
   QApplication::processEvents();
   EXPECT_GT(window.findChild<QScrollArea*>()->verticalScrollBar()->maximum(), 0);
+}
+
+// Letters come in whole pixels: what is typed on the bare window must not drift down over its buttons.
+TEST_F(Sizes, LinesOnTheBareWindowKeepTheirPlaceAtAnyScale) {
+  const auto lowestInk = [&](const QSize& screen) {
+    SetScreen(screen);
+    const QImage picture = Of(Smoking()).GetSheet().grab().toImage();
+    const int buttons = Of(Smoking()).WidgetOf(*Smoking().cmdEuro)->y();
+    for (int y = buttons - 1; y > 0; --y)
+      for (int x = 0; x < picture.width(); ++x)
+        if (picture.pixelColor(x, y) == Colour(Tone::Ink)) return static_cast<double>(y) / picture.height();
+    return 0.0;
+  };
+  desktop.Enter([&] {
+    Smoking().SSTab_PastFutureSwitch->SetVisible(false);
+    for (int i = 0; i < 12; ++i) Smoking().StartCanvasLine(100);
+    Smoking().TypeOnCanvas('H');
+  });
+  const double designed = lowestInk({1920, 1080});
+  EXPECT_GT(designed, 0.5);
+  EXPECT_NEAR(lowestInk({1024, 600}), designed, 0.007);
+  EXPECT_NEAR(lowestInk({1366, 690}), designed, 0.007);
 }
 
 TEST_F(Sizes, TheTableOverAllSinsFitsASmallScreen) {
