@@ -24,6 +24,10 @@ constexpr double kLineWidth = 2.2;
 constexpr int kHatchStep = 9;
 constexpr int kEndGap = 8;          // between the end of a line and its amount
 constexpr int kNameMargin = 4;      // around a band's name
+constexpr int kAxisPadding = 10;    // beyond the labels of an axis
+constexpr int kTitleTop = 8;        // above the title
+constexpr int kTitleBottom = 6;     // and below it
+constexpr int kLeastMargin = 15;    // on the other sides of the plot
 constexpr int kTickGap = 26;        // between the labels of the months' axis
 constexpr int kBesideAxis = 170;    // about what the months' axis leaves to amounts on both sides
 constexpr int kLeastDrag = 5;       // a shorter drag is a click
@@ -313,6 +317,8 @@ class Scene {
     auto* title = new QCPTextElement(&plot_, ToQt(contents.title));
     title->setTextColor(style.text);
     title->setFont(plot_.font());
+    title->setMargins({0, kTitleTop, 0, 0});
+    plot_.axisRect()->setMinimumMargins({kLeastMargin, kTitleBottom, kLeastMargin, kLeastMargin});
     plot_.plotLayout()->insertRow(0);
     plot_.plotLayout()->addElement(0, 0, title);
   }
@@ -327,6 +333,7 @@ class Scene {
 
  protected:
   void StyleAxis(QCPAxis& axis) const {
+    axis.setPadding(kAxisPadding);
     axis.setBasePen(style_.hint);
     axis.setTickPen(style_.hint);
     axis.setSubTicks(false);
@@ -521,7 +528,7 @@ class MonthScene : public Scene {
                              style_);
     QCPAxisRect* area = plot_.axisRect();
     area->setAutoMargins(QCP::msLeft | QCP::msTop | QCP::msBottom);
-    area->setMargins(QMargins(0, 0, ends->Width() + kEndGap, 0));
+    area->setMargins(QMargins(0, 0, ends->Width() + kAxisPadding, 0));
   }
 
   QSharedPointer<MonthTicker> monthTicker_{new MonthTicker(plot_)};
@@ -582,8 +589,8 @@ class BarScene : public Scene {
   }
   void MakeStacks() {
     pastOut_ = MakeSeries("Past, out of pocket", style_.outOfPocket, 0.95, nullptr);
-    futureOut_ = MakeSeries("Future, out of pocket", style_.outOfPocket, 0.3, pastOut_);
     pastWith_ = MakeSeries("Past, with interest", style_.withInterest, 0.95, nullptr);
+    futureOut_ = MakeSeries("Future, out of pocket", style_.outOfPocket, 0.3, pastOut_);
     futureWith_ = MakeSeries("Future, with interest", style_.withInterest, 0.3, pastWith_);
     carried_ = MakeSeries("Past money's growth in the future", style_.withInterest, 0.08, futureWith_);
     auto* pairs = new QCPBarsGroup(&plot_);
@@ -615,15 +622,16 @@ class BarScene : public Scene {
     text->position->setCoords(std::max(amount, 0.0), place);
   }
 
-  // Below the bars, where it hides none.
+  // Below the bars, where it hides none, and arranged as they are: out of pocket above, with interest below
+  // it.
   void MakeLegend() {
     plot_.legend->setVisible(true);
     plot_.legend->setBorderPen(Qt::NoPen);
     plot_.legend->setBrush(Qt::NoBrush);
     plot_.legend->setTextColor(style_.text);
     plot_.legend->setFont(plot_.font());
-    plot_.legend->setWrap(3);
-    plot_.legend->setFillOrder(QCPLegend::foColumnsFirst);
+    plot_.legend->setWrap(2);
+    plot_.legend->setFillOrder(QCPLegend::foRowsFirst);
     plot_.axisRect()->insetLayout()->take(plot_.legend);
     plot_.plotLayout()->addElement(plot_.plotLayout()->rowCount(), 0, plot_.legend);
     plot_.plotLayout()->setRowStretchFactor(plot_.plotLayout()->rowCount() - 1, 0.001);

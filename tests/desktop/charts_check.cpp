@@ -73,6 +73,19 @@ TEST_F(Charts, HaveACursorThatKeysMove) {
   EXPECT_EQ(chart.Cursor(), Last());
 }
 
+// The ring of the focus takes three pixels; then comes the ground, then the title.
+TEST_F(Charts, KeepWhatTheyDrawClearOfTheirEdges) {
+  const QImage picture = widget->grab().toImage();
+  const auto isGround = [&](int x, int y) { return picture.pixelColor(x, y) == Colour(Tone::BoxGround); };
+  for (int y = 3; y < 9; ++y)
+    for (int x = 6; x < picture.width() - 6; ++x) ASSERT_TRUE(isGround(x, y)) << x << ' ' << y;
+  for (int x = 3; x < 9; ++x)
+    for (int y = 6; y < picture.height() - 6; ++y) {
+      ASSERT_TRUE(isGround(x, y)) << x << ' ' << y;
+      ASSERT_TRUE(isGround(picture.width() - 1 - x, y)) << picture.width() - 1 - x << ' ' << y;
+    }
+}
+
 TEST_F(Charts, HaveACursorThatGoesWithThePointer) {
   MoveTo(40, Qt::NoButton);
   EXPECT_EQ(chart.Cursor(), 40);
