@@ -234,6 +234,26 @@ void PageBrowser::SetText(const std::string& text, const QString& folder) {
   setSearchPaths({folder});
   setMarkdown(ToQt(text));
   ColourLinks();
+  SpaceOut();
+}
+
+// Markdown says nothing of the room between its parts, and Qt leaves none.
+void PageBrowser::SpaceOut() {
+  constexpr double kAboveHeading = 0.9, kBelowHeading = 0.3, kBelowItem = 0.15, kBelowText = 0.5;
+  const double line = QFontMetricsF(font()).height();
+  for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+    QTextCursor cursor(block);
+    if (cursor.currentTable() != nullptr) continue;
+    QTextBlockFormat space;
+    const bool withinList = block.textList() != nullptr && block.next().textList() != nullptr;
+    if (block.blockFormat().headingLevel() > 0) {
+      space.setTopMargin(block == document()->begin() ? 0 : kAboveHeading * line);
+      space.setBottomMargin(kBelowHeading * line);
+    } else {
+      space.setBottomMargin((withinList ? kBelowItem : kBelowText) * line);
+    }
+    cursor.mergeBlockFormat(space);
+  }
 }
 
 // Pictures keep the size that they were loaded in: a page of another width loads them anew.
@@ -343,6 +363,7 @@ class PageView : public ControlView {
   PageView(DocumentText& document, QWidget* parent, const InfoWindow& window)
       : ControlView(document, new PageBrowser(parent)), document_(document), window_(window) {}
   void TakeTheme() override { static_cast<PageBrowser*>(Widget())->ColourLinks(); }
+  void TakeScale() override { static_cast<PageBrowser*>(Widget())->SpaceOut(); }
 
  protected:
   void UpdateContents() override {

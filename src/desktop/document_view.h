@@ -64,6 +64,8 @@ class PageBrowser : public QTextBrowser {
   const std::string& Text() const { return shown_; }
   // Gives the links the colour of the theme in force.
   void ColourLinks();
+  // Sets paragraphs and headings apart, by parts of a line of text.
+  void SpaceOut();
 
  protected:
   // Pictures that are wider than the page are made to fit it.

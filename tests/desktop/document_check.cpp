@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlock>
 
 #include "desktop/desktop.h"
 #include "desktop/document_view.h"
@@ -121,7 +122,27 @@ TEST_F(DocumentEditor, RefusesALongerLineAndSaysSo) {
   EXPECT_EQ(window.Text().Length(), 5);
 }
 
-// ---- The pictures of the help window ----
+// ---- The help window ----
+
+TEST(HelpText, ItsPartsStandApart) {
+  PageBrowser page(nullptr);
+  page.resize(800, 600);
+  page.SetText("# Top\n\nOne.\n\nTwo.\n\n- an item\n- another\n\nThree.\n\n## Next\n\nFour.\n", {});
+  page.show();
+  const QTextDocument& text = *page.document();
+  ASSERT_EQ(text.blockCount(), 8);
+  // The room below a block, which is one line, in lines of text.
+  const auto below = [&](int block) {
+    const auto line = [&](int i) { return page.cursorRect(QTextCursor(text.findBlockByNumber(i))); };
+    return (line(block + 1).top() - line(block).bottom()) / QFontMetricsF(page.font()).height();
+  };
+  EXPECT_GT(below(1), 0.4);       // between paragraphs
+  EXPECT_LT(below(3), below(4));  // items stand closer than what follows the list
+  EXPECT_GT(below(5), 0.8);       // above a heading
+  EXPECT_LT(below(6), below(5));  // which belongs to what follows it
+}
+
+// ---- Its pictures ----
 
 int WidthOfPicture(const PageBrowser& page, const QString& name) {
   return page.document()->resource(QTextDocument::ImageResource, QUrl(name)).value<QImage>().width();
