@@ -30,7 +30,8 @@ constexpr int kArrowRoom = 20;      // at the right end of a list
 constexpr int kListMargin = 7;      // between a list's left end and its text
 constexpr int kButtonMargin = 5;    // between a button's sides and its caption
 constexpr int kBoxMargin = 1;       // between a box's line and its text
-constexpr int kIndicatorRoom = 20;  // in front of the caption of a choice
+constexpr int kIndicatorRoom = 21;  // in front of the caption of a choice
+constexpr int kIndicatorLeft = 4;   // in front of its mark, clear of the focus ring
 constexpr int kCorner = 3;          // the radius of corners
 constexpr int kIndicator = 14;      // across the mark of a choice
 constexpr int kTabHeight = 46, kTabTop = 8, kTabLeft = 8;
@@ -340,7 +341,8 @@ void CaptionChoice<Base>::paintEvent(QPaintEvent*) {
   constexpr bool isRadio = std::is_same_v<Base, QRadioButton>;
   const Scale scale = ScaleOf(this);
   const int mark = scale.Of(kIndicator);
-  DrawIndicator(painter, QRect(2, (this->height() - mark) / 2, mark, mark), isRadio, option);
+  DrawIndicator(painter, QRect(scale.Of(kIndicatorLeft), (this->height() - mark) / 2, mark, mark), isRadio,
+                option);
   QColor ink = this->palette().color(QPalette::WindowText);
   if (colour_ != -1) {
     ink = Readable(QColor(colour_ & 0xFF, colour_ >> 8 & 0xFF, colour_ >> 16 & 0xFF),
@@ -412,7 +414,7 @@ class TallTabBar : public QTabBar {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     for (int tab = 0; tab < count(); ++tab) PaintTab(painter, tab);
-    if (hasFocus()) DrawFocusRing(painter, tabRect(currentIndex()).adjusted(3, 3, -3, -2));
+    if (hasFocus()) DrawFocusRing(painter, tabRect(currentIndex()).adjusted(4, 6, -4, -2));
   }
   // The key of a tab brings the focus, as those of buttons do.
   bool event(QEvent* event) override {

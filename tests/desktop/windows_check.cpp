@@ -34,6 +34,7 @@
 #include "desktop/run_program.h"
 #include "desktop/scale.h"
 #include "desktop/text.h"
+#include "desktop/themes.h"
 #include "desktop/toolkit_messages.h"
 #include "desktop/when_up.h"
 #include "desktop/widgets.h"
@@ -348,6 +349,18 @@ TEST_F(Windows, OptionsShowWhatTheControlsSay) {
   desktop.Enter([&] { Smoking().Get<Option>("optFineDateStartPast").SetValue(false); });
   EXPECT_FALSE(fine.isChecked());
   EXPECT_FALSE(course.isChecked());
+}
+
+// The ring of the focus goes around the mark and does not touch it.
+TEST_F(Windows, TheFocusLeavesTheMarkOfAChoiceAlone) {
+  desktop.Enter([&] { Smoking().cmdSwitchSins->UserClicks(); });
+  Activate(Of(program.Chooser()));
+  QWidget& option = Widget(program.Chooser(), "OptSwitchSins(3)");
+  option.setFocus();
+  const QImage picture = option.grab().toImage();
+  const int middle = picture.height() / 2;
+  EXPECT_EQ(picture.pixelColor(1, middle), Colour(Tone::Focus));
+  EXPECT_EQ(picture.pixelColor(3, middle), picture.pixelColor(picture.width() - 5, middle));
 }
 
 TEST_F(Windows, ListsShowATextThatIsNoEntry) {
