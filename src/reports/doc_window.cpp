@@ -10,10 +10,10 @@ namespace {
 
 // Twips. The frame of the layout options is narrow enough for all three buttons beside it in the smallest
 // window.
-constexpr int kFrameWidth = 2550, kFrameHeight = 1000;
-constexpr int kFrameGap = 100;
-constexpr Place kCsvPlace{30, 250, 2510, 300};
-constexpr Place kDocPlace{30, 600, 2510, 300};
+constexpr int kFrameWidth = 2600, kFrameHeight = 1000;
+constexpr int kFrameGap = 50;
+constexpr Place kCsvPlace{30, 160, 2560, 330};
+constexpr Place kDocPlace{30, 510, 2560, 330};
 
 }  // namespace
 

@@ -363,6 +363,16 @@ TEST_F(Windows, TheFocusLeavesTheMarkOfAChoiceAlone) {
   EXPECT_EQ(picture.pixelColor(3, middle), picture.pixelColor(picture.width() - 5, middle));
 }
 
+// Both layouts of the document are offered in letters of one size.
+TEST_F(Windows, OptionsOfOneGroupHaveRoomForTheirCaptions) {
+  Report<QWidget>(&SideControls::cmdAdvResultsDoc, program.Doc().Get<Option>("Opt_Csv"));
+  for (const char* name : {"Opt_Csv", "Opt_Doc"}) {
+    const QWidget& option = Widget(program.Doc(), name);
+    const QString caption = QString::fromStdString(program.Doc().Get<Option>(name).Caption());
+    EXPECT_GT(option.width(), 24 + option.fontMetrics().horizontalAdvance(caption)) << name;
+  }
+}
+
 TEST_F(Windows, ListsShowATextThatIsNoEntry) {
   desktop.Enter([&] { Smoking().Of(Side::Past).comStart->SetText("elsewhere"); });
   auto& list = dynamic_cast<BlueList&>(Widget(Smoking(), "comStartPast"));
