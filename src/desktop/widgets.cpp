@@ -191,6 +191,14 @@ int BlueList::Search(const QString& letter, int from) {
   return found;
 }
 
+// The letters of one that is typed into begin where those of the others do.
+void BlueList::resizeEvent(QResizeEvent* event) {
+  QComboBox::resizeEvent(event);
+  if (!isEditable()) return;
+  const int margin = ScaleOf(this).Of(kListMargin) - lineEdit()->x() - kLineEditMargin;
+  lineEdit()->setTextMargins(std::max(margin, 0), 0, 0, 0);
+}
+
 void BlueList::keyPressEvent(QKeyEvent* event) {
   if (!TakesLetter(*event)) return QComboBox::keyPressEvent(event);
   const int found = Search(event->text(), currentIndex());

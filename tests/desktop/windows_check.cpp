@@ -373,6 +373,13 @@ TEST_F(Windows, OptionsOfOneGroupHaveRoomForTheirCaptions) {
   }
 }
 
+TEST_F(Windows, ListsThatAreTypedIntoBeginWhereOthersDo) {
+  desktop.Enter([&] { program.Combined().Show(); });
+  const auto& list = dynamic_cast<BlueList&>(Widget(program.Combined(), "comDataRep"));
+  ASSERT_TRUE(list.isEditable());
+  EXPECT_EQ(list.lineEdit()->x() + list.lineEdit()->textMargins().left() + 2, ScaleOf(&list).Of(7));
+}
+
 TEST_F(Windows, ListsShowATextThatIsNoEntry) {
   desktop.Enter([&] { Smoking().Of(Side::Past).comStart->SetText("elsewhere"); });
   auto& list = dynamic_cast<BlueList&>(Widget(Smoking(), "comStartPast"));
