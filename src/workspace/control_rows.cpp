@@ -380,7 +380,7 @@ constexpr Row kSummaryRows[] = {
     Row(Text,   "txtResultsTotalSummary{Fut}",      kSummary,           { 2760, 2205,  1725,  375})
         .Is<&C::txtResultsTotalSummary>().NamedBy("lblResultsTotalSummary{Fut}", kSummaryOutOfPocket)
         .Balloon(14, kTotalHelp).Fades(15),
-    Row(Label,  "lblSummaryButtons{Fut}",           kSummary,           { 9285,  390,  2010,  705}, {"Detailed Results on {Future} {sin}", &SinRow::summaryWord}).Fades(18),
+    Row(Label,  "lblSummaryButtons{Fut}",           kSummary,           { 9285,  255,  2010,  795}, {"Detailed Results on {Future} {sin}", &SinRow::summaryWord}).Fades(18),
     Row(Button, "cmdAdvResultsDocSummary{Fut}",     kSummary,           { 9285, 1140,  2010,  675}, "Advanced Results (Document Style)")
         .Is<&C::cmdAdvResultsDocSummary>().Disabled().Balloon({15, 16}, kDocumentHelp).Fades(19),
     Row(Button, "cmdAdvResultsSpdSummary{Fut}",     kSummary,           { 9285, 1890,  2010,  675}, "Advanced Results (Spreadsheet Style)")
