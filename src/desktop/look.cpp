@@ -2,12 +2,16 @@
 #include "desktop/look.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QFontMetrics>
+#include <QHeaderView>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QScreen>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QToolButton>
+#include <QTreeView>
 
 #include "desktop/accessible.h"
 #include "desktop/themes.h"
@@ -16,6 +20,11 @@ namespace vicetoll {
 namespace {
 
 constexpr int kSmallestPart = 66;  // percent of its size to which a text shrinks to fit
+constexpr int kHeadingMargin = 3;  // pixels that the text of a column's heading keeps from its sides
+constexpr int kMenuMargin = 4;     // pixels above and below what is in a menu
+
+// The least size of a dialog for files, in letters and lines of its text.
+constexpr int kFileDialogLetters = 105, kFileDialogLines = 31;
 
 class DesktopStyle : public QProxyStyle {
  public:
@@ -28,6 +37,18 @@ class DesktopStyle : public QProxyStyle {
     if (hint == SH_Table_GridLineColor) return static_cast<int>(Colour(Tone::CellLine).rgba());
     return QProxyStyle::styleHint(hint, option, widget, data);
   }
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    if (metric == PM_MenuVMargin) return kMenuMargin;
+    return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+
+  // The toolkit's own dialog for files is made as small as its columns cannot be read.
+  void polish(QWidget* widget) override {
+    QProxyStyle::polish(widget);
+    if (auto* dialog = qobject_cast<QFileDialog*>(widget)) ShowWholeColumns(*dialog);
+  }
+  using QProxyStyle::polish;
 
   // Fusion derives these from the ground, and on a dark one they are hardly to be seen.
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -42,6 +63,12 @@ class DesktopStyle : public QProxyStyle {
   }
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override {
+    if (const auto* heading = qstyleoption_cast<const QStyleOptionHeader*>(option);
+        element == CE_HeaderLabel && heading != nullptr) {
+      QStyleOptionHeader inside(*heading);
+      inside.rect.adjust(kHeadingMargin, 0, -kHeadingMargin, 0);
+      return QProxyStyle::drawControl(element, &inside, painter, widget);
+    }
     const bool empty = element == CE_HeaderEmptyArea;
     if (element != CE_HeaderSection && !empty)
       return QProxyStyle::drawControl(element, option, painter, widget);
@@ -68,6 +95,16 @@ class DesktopStyle : public QProxyStyle {
   }
 
  private:
+  static void ShowWholeColumns(QFileDialog& dialog) {
+    auto* files = dialog.findChild<QTreeView*>();
+    if (files == nullptr) return;  // the desktop's own
+    QHeaderView& columns = *files->header();
+    columns.setSectionResizeMode(QHeaderView::ResizeToContents);
+    columns.setStretchLastSection(false);
+    const QFontMetrics metrics(dialog.font());
+    const QSize wanted(kFileDialogLetters * metrics.averageCharWidth(), kFileDialogLines * metrics.height());
+    dialog.setMinimumSize(wanted.boundedTo(dialog.screen()->availableSize() * 0.9));
+  }
   static bool IsBlack() { return CurrentTheme() == Theme::HighContrast; }
   static void DrawOutline(QPainter& painter, const QRect& room) {
     painter.setPen(Colour(Tone::FrameLine));

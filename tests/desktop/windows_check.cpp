@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -19,6 +20,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 #include <fstream>
 #include <set>
 
@@ -930,6 +932,21 @@ TEST(Dialogs, LeaveNoHistoryBehind) {
   const QDir settings(qEnvironmentVariable("XDG_CONFIG_HOME"));
   EXPECT_TRUE(settings.entryList(QDir::Files | QDir::Hidden).isEmpty())
       << settings.entryList(QDir::Files | QDir::Hidden).join(u' ').toStdString();
+}
+
+TEST(Dialogs, OfFilesShowSizesKindsAndDatesInFull) {
+  int asked = 0;
+  WhenUp<QFileDialog>([&](QFileDialog& dialog) {
+    const QHeaderView& columns = *dialog.findChild<QTreeView*>()->header();
+    for (const int column : {1, 2, 3}) {
+      EXPECT_EQ(columns.sectionResizeMode(column), QHeaderView::ResizeToContents);
+      asked += columns.sectionSize(column);
+    }
+    EXPECT_GT(dialog.width(), asked + 200);  // names, and the places beside them
+    dialog.reject();
+  });
+  EXPECT_EQ(QtPlatform().AskSavePath({}), std::nullopt);
+  EXPECT_GT(asked, 0);
 }
 
 // Without one the run would end.
