@@ -7,6 +7,7 @@
 #include <QCommandLineParser>
 #include <QContextMenuEvent>
 #include <QDir>
+#include <QEventLoop>
 #include <QHash>
 #include <QHelpEvent>
 #include <QImage>
@@ -135,6 +136,12 @@ class Pictures {
     for (int i = 0; i < 5; ++i) QApplication::processEvents();
     Write(window.grab().toImage(), name);
   }
+  // What is too large for the screen gets its size after a moment.
+  static void Settle() {
+    QEventLoop loop;
+    QTimer::singleShot(200, &loop, &QEventLoop::quit);
+    loop.exec();
+  }
   void Write(const QImage& picture, const char* name) {
     const QString path = folder_ + u'/' + QString::fromLatin1(name).toLower() + QStringLiteral(".png");
     const QImage image = WithFewColours(picture.convertToFormat(QImage::Format_RGB32));
@@ -213,7 +220,9 @@ class Pictures {
     Menu(program_.Spd(), "menu");
     SaveDialog(program_.Spd(), "save-dialog");
     Picture(program_.Doc(), "document-table", [&] { ws.cmdAdvResultsDocSummaryTot->UserClicks(); });
-    Picture(program_.Doc(), "document-table-wide", [&] { program_.Doc().UserResizes(19200, 12000); });
+    desktop_.Enter([&] { program_.Doc().UserResizes(19200, 12000); });
+    Settle();
+    Save(Window(program_.Doc()), "document-table-wide");
     Picture(program_.Doc(), "document-text", [&] { program_.Doc().Get<Option>("Opt_Doc").UserClicks(); });
     for (Form* form : {static_cast<Form*>(&program_.Spd()), static_cast<Form*>(&program_.Doc())})
       desktop_.Enter([&] { form->Get<Button>("cmdExit").UserClicks(); });
