@@ -26,14 +26,14 @@ namespace vicetoll {
 namespace {
 
 // Pixels of the design.
-constexpr int kArrowRoom = 20;      // at the right end of a list
-constexpr int kListMargin = 7;      // between a list's left end and its text
-constexpr int kButtonMargin = 5;    // between a button's sides and its caption
-constexpr int kBoxMargin = 1;       // between a box's line and its text
-constexpr int kIndicatorRoom = 21;  // in front of the caption of a choice
-constexpr int kIndicatorLeft = 4;   // in front of its mark, clear of the focus ring
-constexpr int kCorner = 3;          // the radius of corners
-constexpr int kIndicator = 14;      // across the mark of a choice
+constexpr int kArrowRoom = 20;     // at the right end of a list
+constexpr int kListMargin = 7;     // between a list's left end and its text
+constexpr int kButtonMargin = 5;   // between a button's sides and its caption
+constexpr int kBoxMargin = 1;      // between a box's line and its text
+constexpr int kIndicatorLeft = 4;  // in front of the mark of a choice, clear of the focus ring
+constexpr int kCorner = 3;         // the radius of corners
+constexpr int kIndicator = 14;     // across the mark of a choice
+constexpr int kIndicatorGap = 3;   // between it and the caption, at any scale
 constexpr int kTabHeight = 46, kTabTop = 8, kTabLeft = 8;
 constexpr int kTabWidth = 96, kTabPadding = 9;
 
@@ -349,8 +349,8 @@ void CaptionChoice<Base>::paintEvent(QPaintEvent*) {
   constexpr bool isRadio = std::is_same_v<Base, QRadioButton>;
   const Scale scale = ScaleOf(this);
   const int mark = scale.Of(kIndicator);
-  DrawIndicator(painter, QRect(scale.Of(kIndicatorLeft), (this->height() - mark) / 2, mark, mark), isRadio,
-                option);
+  const QRect place(scale.Of(kIndicatorLeft), (this->height() - mark) / 2, mark, mark);
+  DrawIndicator(painter, place, isRadio, option);
   QColor ink = this->palette().color(QPalette::WindowText);
   if (colour_ != -1) {
     ink = Readable(QColor(colour_ & 0xFF, colour_ >> 8 & 0xFF, colour_ >> 16 & 0xFF),
@@ -358,8 +358,9 @@ void CaptionChoice<Base>::paintEvent(QPaintEvent*) {
     if (!this->isEnabled()) ink.setAlpha(kFaint);
   }
   painter.setPen(ink);
-  DrawFitted(painter, this->rect().adjusted(scale.Of(kIndicatorRoom), 0, -2, 0),
-             Qt::AlignLeft | Qt::AlignVCenter, this->text(), this->font());
+  const int caption = place.right() + 1 + std::max(scale.Of(kIndicatorGap), kIndicatorGap);
+  DrawFitted(painter, this->rect().adjusted(caption, 0, -2, 0), Qt::AlignLeft | Qt::AlignVCenter,
+             this->text(), this->font());
   if (this->hasFocus()) DrawFocusRing(painter, this->rect());
 }
 
