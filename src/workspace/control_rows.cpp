@@ -328,7 +328,7 @@ constexpr Row kSideRows[] = {
     Row(Frame,  "frmResults{Fut}",                  kPanel,             { 6030, 4200,  5520, 3720}, "{Future} {title} Results"),
     Row(Label,  kOutOfPocket,                       "frmResults{Fut}",  { 2595,  315,  1365,  435}, "Out of Pocket Expense")
         .Aligned(kRight).Tip("Direct Out of Pocket Expense for Cigarrettes for Each Period"),
-    Row(Label,  kCumulative,                        "frmResults{Fut}",  { 4035,  315,  1365,  435}, "Cumulative Cost")
+    Row(Label,  kCumulative,                        "frmResults{Fut}",  { 4275,  315,  1125,  435}, "Cumulative Cost")
         .Aligned(kRight).Tip("Cumulative Out of Pocket Expense + Accrued Interest if Money Saved"),
     Row(Label,  "lblResultsPeriod{Fut}",            "frmResults{Fut}",  {  135,  780,  2430,  435}, "Period {n}: {Future} {title}")
         .Array(1, 4, 0, 450).Fades(12),

@@ -191,6 +191,19 @@ TEST_F(Sizes, LinesOnTheBareWindowKeepTheirPlaceAtAnyScale) {
   EXPECT_NEAR(lowestInk({1366, 690}), designed, 0.007);
 }
 
+// In one line the one on the right would run on from the one on the left.
+TEST_F(Sizes, HeadingsOfResultsStandInTwoLinesAtAnyScale) {
+  for (const QSize& screen : {QSize(960, 540), QSize(1024, 600), QSize(1366, 690), QSize(1920, 1080)}) {
+    SetScreen(screen);
+    for (const char* name : {"lblIndividualPeriodPast", "lblCumulativePeriodsPast"}) {
+      const auto& label = dynamic_cast<CaptionLabel&>(*Of(Smoking()).WidgetOf(*Smoking().Find(name)));
+      const QFontMetrics metrics(label.font());
+      EXPECT_GT(metrics.horizontalAdvance(label.text()), label.width()) << name << ' ' << screen.width();
+      EXPECT_LE(2 * metrics.height(), label.height()) << name << ' ' << screen.width();
+    }
+  }
+}
+
 TEST_F(Sizes, TheTableOverAllSinsFitsASmallScreen) {
   SetScreen({1024, 600});
   desktop.Enter([&] { program.Combined().Show(); });
