@@ -19,7 +19,8 @@
 namespace vicetoll {
 namespace {
 
-// Pixels.
+// Pixels, where letters are as high as those of the design.
+constexpr double kDesignLetters = 12;
 constexpr double kLineWidth = 2.2;
 constexpr int kHatchStep = 9;
 constexpr int kEndGap = 8;          // between the end of a line and its amount
@@ -35,6 +36,14 @@ constexpr double kHeadroom = 1.12;  // above the highest amount, where the bands
 
 constexpr int kLeastMonths = 4;  // in view
 constexpr int kMonthsOfAYear = 12;
+
+// A length as it is on a plot of larger letters; smaller ones leave it as it is.
+double Scaled(const QCustomPlot& plot, double pixels) {
+  return pixels * std::max(1.0, QFontInfo(plot.font()).pixelSize() / kDesignLetters);
+}
+int ScaledToPixel(const QCustomPlot& plot, double pixels) {
+  return static_cast<int>(std::lround(Scaled(plot, pixels)));
+}
 
 QColor Faint(QColor colour, double opacity) {
   colour.setAlphaF(static_cast<float>(opacity));
@@ -57,8 +66,8 @@ class MonthTicker : public QCPAxisTicker {
   }
   explicit MonthTicker(const QCustomPlot& plot) : plot_(plot) {
     const QFontMetrics metrics(plot.font());
-    monthWidth_ = metrics.horizontalAdvance(QStringLiteral("Mmm - 0000")) + kTickGap;
-    yearWidth_ = metrics.horizontalAdvance(QStringLiteral("0000")) + kTickGap;
+    monthWidth_ = metrics.horizontalAdvance(QStringLiteral("Mmm - 0000")) + ScaledToPixel(plot, kTickGap);
+    yearWidth_ = metrics.horizontalAdvance(QStringLiteral("0000")) + ScaledToPixel(plot, kTickGap);
   }
   QString LabelOf(int month) const { return months_.at(static_cast<std::size_t>(month)).label; }
 
@@ -91,7 +100,7 @@ class MonthTicker : public QCPAxisTicker {
   int StepFor(int months) const {
     constexpr int kSteps[] = {1, 2, 3, 6, 12, 24, 60, 120, 240, 600, 1200};
     // The axis does not know its own width yet.
-    const int room = plot_.viewport().width() - kBesideAxis;
+    const int room = plot_.viewport().width() - ScaledToPixel(plot_, kBesideAxis);
     for (const int step : kSteps)
       if (months * (step < kMonthsOfAYear ? monthWidth_ : yearWidth_) <= step * room) return step;
     return std::end(kSteps)[-1];
@@ -139,6 +148,7 @@ class PlotItem : public QCPAbstractItem {
   QRectF Area() const { return QRectF(mParentPlot->axisRect()->rect()); }
   double X(double month) const { return mParentPlot->xAxis->coordToPixel(month); }
   double Y(double amount) const { return mParentPlot->yAxis->coordToPixel(amount); }
+  double Length(double pixels) const { return Scaled(*mParentPlot, pixels); }
 };
 
 class BandItem : public PlotItem {
@@ -162,11 +172,11 @@ class BandItem : public PlotItem {
  private:
   // Line by line: not every kind of picture file knows hatched brushes or clipping.
   void Hatch(QCPPainter& painter, const QRectF& room) const {
-    painter.setPen(QPen(Faint(style_.hint, 0.35), 1));
+    painter.setPen(QPen(Faint(style_.hint, 0.35), Length(1)));
     const double height = room.height();
-    const int lines = static_cast<int>(std::ceil((room.width() + height) / kHatchStep));
+    const int lines = static_cast<int>(std::ceil((room.width() + height) / Length(kHatchStep)));
     for (int i = 0; i < lines; ++i) {
-      const double x = room.left() - height + i * kHatchStep;
+      const double x = room.left() - height + i * Length(kHatchStep);
       // From the lower end at x upwards to the right, as far as it lies in the room.
       const double from = std::max(x, room.left()), to = std::min(x + height, room.right());
       if (from < to)
@@ -182,7 +192,7 @@ class BandItem : public PlotItem {
     painter.setFont(mParentPlot->font());
     const QFontMetrics metrics(painter.font());
     for (const QString& name : {full + off, brief + off, brief, brief.section(u' ', -1)}) {
-      const QRectF text(room.left(), room.top() + kNameMargin, room.width(), metrics.height());
+      const QRectF text(room.left(), room.top() + Length(kNameMargin), room.width(), metrics.height());
       if (metrics.horizontalAdvance(name) + 2 * kNameMargin > text.width()) continue;
       painter.setPen(style_.hint);
       painter.drawText(text, Qt::AlignHCenter, name);
@@ -206,9 +216,9 @@ class PresentItem : public PlotItem {
   void draw(QCPPainter* painter) override {
     const double x = X(month_);
     if (x < Area().left() || x > Area().right()) return;
-    painter->setPen(QPen(style_.hint, 1, Qt::DotLine));
+    painter->setPen(QPen(style_.hint, Length(1), Qt::DotLine));
     const QFontMetrics metrics(mParentPlot->font());
-    const double top = Area().top() + 2 * kNameMargin + 2 * metrics.height();
+    const double top = Area().top() + Length(2 * kNameMargin) + 2 * metrics.height();
     painter->drawLine(QPointF(x, top), QPointF(x, Area().bottom()));
     const QString now = QStringLiteral("now");
     const double width = metrics.horizontalAdvance(now) + 2;
@@ -244,7 +254,7 @@ class EndItem : public PlotItem {
     for (const End& end : ends_)
       for (const QString& text : {end.name, end.amount})
         width = std::max(width, metrics.horizontalAdvance(text));
-    return width + kEndGap;
+    return width + ScaledToPixel(*mParentPlot, kEndGap);
   }
 
  protected:
@@ -260,7 +270,7 @@ class EndItem : public PlotItem {
     const double upperTop = Between(Y(upper.value) - height / 2, Area().top() - height / 2, lowest - height);
     const double lowerTop = Between(Y(lower.value) - height / 2, upperTop + height, lowest);
     for (const auto& [end, top] : {std::pair(&upper, upperTop), std::pair(&lower, lowerTop)}) {
-      const QRectF room(Area().right() + kEndGap, top, Width(), height);
+      const QRectF room(Area().right() + Length(kEndGap), top, Width(), height);
       painter->setFont(mParentPlot->font());
       painter->setPen(end->colour);
       painter->drawText(room, Qt::AlignLeft | Qt::AlignTop, end->name);
@@ -289,11 +299,11 @@ class CursorItem : public PlotItem {
  protected:
   void draw(QCPPainter* painter) override {
     if (month_ < 0 || !mParentPlot->xAxis->range().contains(month_)) return;
-    painter->setPen(QPen(line_, 1));
+    painter->setPen(QPen(line_, Length(1)));
     painter->drawLine(QPointF(X(month_), Area().top()), QPointF(X(month_), Area().bottom()));
     for (std::size_t i = 0; i < amounts_.size(); ++i) {
       painter->setBrush(colours_[i]);
-      painter->drawEllipse(QPointF(X(month_), Y(amounts_[i])), 4, 4);
+      painter->drawEllipse(QPointF(X(month_), Y(amounts_[i])), Length(4), Length(4));
     }
   }
 
@@ -317,8 +327,9 @@ class Scene {
     auto* title = new QCPTextElement(&plot_, ToQt(contents.title));
     title->setTextColor(style.text);
     title->setFont(plot_.font());
-    title->setMargins({0, kTitleTop, 0, 0});
-    plot_.axisRect()->setMinimumMargins({kLeastMargin, kTitleBottom, kLeastMargin, kLeastMargin});
+    title->setMargins({0, Length(kTitleTop), 0, 0});
+    const int side = Length(kLeastMargin);
+    plot_.axisRect()->setMinimumMargins({side, Length(kTitleBottom), side, side});
     plot_.plotLayout()->insertRow(0);
     plot_.plotLayout()->addElement(0, 0, title);
   }
@@ -332,8 +343,10 @@ class Scene {
   virtual QPoint PointOf(int) const { return {}; }
 
  protected:
+  int Length(double pixels) const { return ScaledToPixel(plot_, pixels); }
   void StyleAxis(QCPAxis& axis) const {
-    axis.setPadding(kAxisPadding);
+    axis.setPadding(Length(kAxisPadding));
+    axis.setTickLabelPadding(Length(axis.tickLabelPadding()));
     axis.setBasePen(style_.hint);
     axis.setTickPen(style_.hint);
     axis.setSubTicks(false);
@@ -477,7 +490,7 @@ class MonthScene : public Scene {
 
   QCPGraph* MakeLine(const QColor& colour, const QList<qreal>& dashes) {
     QCPGraph* line = plot_.addGraph();
-    QPen pen(colour, kLineWidth);
+    QPen pen(colour, Scaled(plot_, kLineWidth));
     if (!dashes.isEmpty()) pen.setDashPattern(dashes);
     pen.setCapStyle(Qt::FlatCap);
     line->setPen(pen);
@@ -513,7 +526,7 @@ class MonthScene : public Scene {
     }
     if (places[0].size() == 1)
       for (QCPGraph* line : {cost_, grown_})
-        line->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, line->pen().color(), 9));
+        line->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, line->pen().color(), Length(9)));
   }
 
   void MakeEnds() {
@@ -528,7 +541,7 @@ class MonthScene : public Scene {
                              style_);
     QCPAxisRect* area = plot_.axisRect();
     area->setAutoMargins(QCP::msLeft | QCP::msTop | QCP::msBottom);
-    area->setMargins(QMargins(0, 0, ends->Width() + kAxisPadding, 0));
+    area->setMargins(QMargins(0, 0, ends->Width() + Length(kAxisPadding), 0));
   }
 
   QSharedPointer<MonthTicker> monthTicker_{new MonthTicker(plot_)};
@@ -582,7 +595,7 @@ class BarScene : public Scene {
     auto* bars = new QCPBars(plot_.yAxis, plot_.xAxis);
     bars->setName(QString::fromLatin1(name));
     bars->setWidth(0.36);
-    bars->setPen(QPen(colour, 1.2));
+    bars->setPen(QPen(colour, Scaled(plot_, 1.2)));
     bars->setBrush(Faint(colour, opacity));
     if (above != nullptr) bars->moveAbove(above);
     return bars;
@@ -618,7 +631,7 @@ class BarScene : public Scene {
     text->setColor(style_.text);
     text->setFont(plot_.font());
     text->setPositionAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    text->setPadding(QMargins(5, 0, 0, 0));
+    text->setPadding(QMargins(Length(5), 0, 0, 0));
     text->position->setCoords(std::max(amount, 0.0), place);
   }
 
@@ -630,6 +643,9 @@ class BarScene : public Scene {
     plot_.legend->setBrush(Qt::NoBrush);
     plot_.legend->setTextColor(style_.text);
     plot_.legend->setFont(plot_.font());
+    const QSize icon = plot_.legend->iconSize();
+    plot_.legend->setIconSize(Length(icon.width()), Length(icon.height()));
+    plot_.legend->setIconTextPadding(Length(plot_.legend->iconTextPadding()));
     plot_.legend->setWrap(2);
     plot_.legend->setFillOrder(QCPLegend::foRowsFirst);
     plot_.axisRect()->insetLayout()->take(plot_.legend);

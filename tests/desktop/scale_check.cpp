@@ -128,6 +128,29 @@ TEST_F(Sizes, LettersOfAChartFollowTheZoom) {
   for (const QWidget* part : chart.findChildren<QWidget*>()) EXPECT_EQ(part->font().pixelSize(), 24);
 }
 
+// So do its lines.
+TEST_F(Sizes, LinesOfAChartFollowTheZoom) {
+  desktop.Enter([&] { Smoking().Of(Side::Past).cmdSetPeriodParams->UserClicks(); });
+  desktop.Enter([&] { Smoking().Get<Button>("cmdGrowthChart").UserClicks(); });
+  QWidget& chart = *Of(program.Growth()).WidgetOf(program.Growth().GetChart());
+  const QColor colour = Colour(Tone::ChartLine2);
+  // In the middle of the chart, from above.
+  const auto thickness = [&] {
+    const QImage picture = chart.grab().toImage();
+    int thickest = 0;
+    for (int x = picture.width() / 4; x < picture.width() * 3 / 4; ++x) {
+      int pixels = 0;
+      for (int y = 0; y < picture.height(); ++y) pixels += picture.pixelColor(x, y) == colour;
+      thickest = std::max(thickest, pixels);
+    }
+    return thickest;
+  };
+  const int before = thickness();
+  EXPECT_GT(before, 0);
+  desktop.ZoomBy(5);  // 200 percent
+  EXPECT_GT(thickness(), before);
+}
+
 // A chart over months zooms in time by them; where there is no time to zoom into, they are the windows' own.
 TEST_F(Sizes, KeysAndWheelZoomTheWindowOfAChartWithoutMonths) {
   desktop.Enter([&] { Smoking().Of(Side::Past).cmdSetPeriodParams->UserClicks(); });
