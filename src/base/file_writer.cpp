@@ -3,6 +3,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -23,6 +24,9 @@
 namespace vicetoll {
 namespace {
 
+// How long the reader of a pipe may read nothing before a user's windows go on, in milliseconds.
+constexpr int kReadersTime = 3000;
+
 // The operations return 0 or the error number.
 class OpenFile {
  public:
@@ -34,10 +38,12 @@ class OpenFile {
   bool Good() const { return descriptor_ != -1; }
   int Descriptor() const { return descriptor_; }
 
-  int Write(std::string_view bytes) const {
+  // Where nothing can be written at once, waits for so many milliseconds (-1: as long as it takes).
+  int Write(std::string_view bytes, int patience = 0) const {
     while (!bytes.empty()) {
       const ssize_t written = write(descriptor_, bytes.data(), bytes.size());
       if (written == -1 && errno == EINTR) continue;
+      if (written == -1 && errno == EAGAIN && WaitForRoom(patience)) continue;
       if (written == -1) return errno;
       bytes.remove_prefix(static_cast<std::size_t>(written));
     }
@@ -55,6 +61,14 @@ class OpenFile {
   }
 
  private:
+  // Sets errno where there is none in time.
+  bool WaitForRoom(int patience) const {
+    pollfd room{descriptor_, POLLOUT, 0};
+    const int ready = poll(&room, 1, patience);
+    if (ready == 0) errno = ETIMEDOUT;
+    return ready > 0 || (ready == -1 && errno == EINTR);
+  }
+
   int descriptor_;
 };
 
@@ -75,12 +89,12 @@ std::string FolderOf(const std::string& path) {
   return path.substr(0, slash + 1);
 }
 
-int WriteAsItIs(const std::string& path, std::string_view bytes) {
+int WriteAsItIs(const std::string& path, std::string_view bytes, FileKind kind) {
   OpenFile file(open(path.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
   if (!file.Good()) return errno;
-  // A reader that is there may take its time: a pipe holds no more than a part of a report.
-  if (fcntl(file.Descriptor(), F_SETFL, 0) == -1) return errno;
-  if (const int error = file.Write(bytes)) return error;
+  // A pipe holds no more than a part of a report, and its reader may take its time. But one that reads
+  // nothing must not hold a user's windows for ever.
+  if (const int error = file.Write(bytes, kind == FileKind::Own ? kReadersTime : -1)) return error;
   return file.Close();
 }
 
@@ -143,16 +157,20 @@ int FillAndRename(OpenFile& file, const std::string& beside, const std::string& 
 
 }  // namespace
 
-NoKillByFileSize::NoKillByFileSize() : before_(std::signal(SIGXFSZ, SIG_IGN)) {}
-NoKillByFileSize::~NoKillByFileSize() { std::signal(SIGXFSZ, before_); }
+NoKillByWriting::NoKillByWriting()
+    : fileSizeBefore_(std::signal(SIGXFSZ, SIG_IGN)), pipeBefore_(std::signal(SIGPIPE, SIG_IGN)) {}
+NoKillByWriting::~NoKillByWriting() {
+  std::signal(SIGXFSZ, fileSizeBefore_);
+  std::signal(SIGPIPE, pipeBefore_);
+}
 
 int ReplaceFile(const std::string& name, std::string_view bytes, FileKind kind) {
-  const NoKillByFileSize noKill;
+  const NoKillByWriting noKill;
   const std::string path = Followed(name);
   struct stat old;
   const bool exists = stat(path.c_str(), &old) == 0;
   if (exists && S_ISDIR(old.st_mode)) return EISDIR;
-  if (exists && !S_ISREG(old.st_mode)) return WriteAsItIs(path, bytes);
+  if (exists && !S_ISREG(old.st_mode)) return WriteAsItIs(path, bytes, kind);
   if (exists && access(path.c_str(), W_OK) != 0) return errno;  // a file that is not to be changed
   if (path.empty()) return ENOENT;
 

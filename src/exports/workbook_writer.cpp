@@ -275,6 +275,6 @@ class WorkbookWriter {
 extern "C" __attribute__((visibility("default"))) void WriteWorkbook(const vicetoll::Workbook& workbook,
                                                                      std::string& bytes) {
   const vicetoll::PlainNumbers plainNumbers;
-  const vicetoll::NoKillByFileSize noKill;  // files in memory have the limit too
+  const vicetoll::NoKillByWriting noKill;  // files in memory have the limit too
   bytes = vicetoll::WorkbookWriter(workbook).Write();
 }

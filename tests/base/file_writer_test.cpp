@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/file_writer.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <thread>
 
 #include "base/fault.h"
 
@@ -109,6 +112,57 @@ TEST_F(ReplacingAFile, DoesNotWaitForAReader) {
   EXPECT_EQ(ReplaceFile("/dev/null", "x"), 0);
   EXPECT_EQ(ReplaceFile(folder, "x"), EISDIR);
   EXPECT_EQ(ReplaceFile("", "x"), ENOENT);
+}
+
+// Reads a pipe slowly, and no more than so many bytes.
+class Reader {
+ public:
+  Reader(const std::string& path, std::size_t atMost)
+      : descriptor_(open(path.c_str(), O_RDONLY | O_NONBLOCK)), thread_([this, atMost] { Read(atMost); }) {}
+  ~Reader() {
+    done_ = true;
+    thread_.join();
+    close(descriptor_);
+  }
+  std::size_t Arrived() const { return arrived_; }
+
+ private:
+  void Read(std::size_t atMost) {
+    char block[1 << 15];
+    while (!done_ && arrived_ < atMost) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+      if (const ssize_t got = read(descriptor_, block, sizeof block); got > 0)
+        arrived_ += static_cast<std::size_t>(got);
+    }
+  }
+
+  std::atomic<bool> done_ = false;
+  std::atomic<std::size_t> arrived_ = 0;
+  int descriptor_;
+  std::thread thread_;
+};
+
+TEST_F(ReplacingAFile, WaitsForAReaderButNotForEver) {
+  const std::string report(300'000, 'x');
+  ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+  {
+    const Reader slow(Path("pipe"), report.size());
+    EXPECT_EQ(ReplaceFile(Path("pipe"), report), 0);
+    EXPECT_GT(slow.Arrived(), report.size() / 2);  // the rest is in the pipe
+  }
+  const Reader idle(Path("pipe"), 0);
+  EXPECT_EQ(ReplaceFile(Path("pipe"), report), ETIMEDOUT);
+}
+
+TEST_F(ReplacingAFile, OutlivesAReaderThatGoes) {
+  ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+  const int reader = open(Path("pipe").c_str(), O_RDONLY | O_NONBLOCK);
+  std::thread leaving([reader] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    close(reader);
+  });
+  EXPECT_EQ(ReplaceFile(Path("pipe"), std::string(300'000, 'x')), EPIPE);
+  leaving.join();
 }
 
 TEST_F(ReplacingAFile, NamesFileAndReasonInUtf8) {
