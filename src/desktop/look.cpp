@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFontMetrics>
+#include <QHash>
 #include <QHeaderView>
 #include <QPainter>
 #include <QProxyStyle>
@@ -177,9 +178,9 @@ QString AsItStands(QString plain) { return plain.replace(u'&', QStringLiteral("&
 
 namespace {
 
-// The part of the room, in its middle, in which the text takes no more lines, but all about as long.
-QRect Balanced(const QString& text, const QRect& room, const QFontMetrics& metrics) {
-  if (metrics.horizontalAdvance(text) < room.width()) return room;
+// What is left free on either side where the text takes no more lines than it must, but all about as long.
+int SpareBeside(const QString& text, const QSize& room, const QFontMetrics& metrics) {
+  if (metrics.horizontalAdvance(text) < room.width()) return 0;
   const auto taken = [&](int width) {
     return metrics.boundingRect(QRect(0, 0, width, 1 << 16), Qt::TextWordWrap | Qt::AlignLeft, text).size();
   };
@@ -190,17 +191,47 @@ QRect Balanced(const QString& text, const QRect& room, const QFontMetrics& metri
     const QSize size = taken(middle);
     (size.height() > height || size.width() > middle ? narrow : wide) = middle;
   }
-  const int spare = (room.width() - wide) / 2;
-  return room.adjusted(spare, 0, -spare, 0);
+  return (room.width() - wide) / 2;
+}
+
+struct Fitting {
+  QString text, family;
+  QSize room;
+  int pixels = 0, weight = 0;
+  bool centred = false;
+
+  bool operator==(const Fitting&) const = default;
+};
+
+std::size_t qHash(const Fitting& f, std::size_t seed) {
+  return qHashMulti(seed, f.text, f.family, f.room.width(), f.room.height(), f.pixels, f.weight, f.centred);
+}
+
+struct Fitted {
+  int pixels = 0;
+  int spare = 0;  // on either side of a text in the middle
+};
+
+// Measuring costs more than drawing, and a window draws the same texts again and again.
+Fitted FittedInto(const QString& text, const QSize& room, const QFont& font, bool centred) {
+  constexpr qsizetype kMost = 2000;
+  static QHash<Fitting, Fitted> known;
+  const Fitting asked{text, font.family(), room, font.pixelSize(), font.weight(), centred};
+  if (const auto found = known.constFind(asked); found != known.constEnd()) return *found;
+  const QFont fitted = FittedFont(text, room, font);
+  if (known.size() >= kMost) known.clear();
+  const int spare = centred ? SpareBeside(text, room, QFontMetrics(fitted)) : 0;
+  return *known.insert(asked, {fitted.pixelSize(), spare});
 }
 
 }  // namespace
 
 void DrawFitted(QPainter& painter, const QRect& room, int alignment, const QString& text, const QFont& font) {
-  const QString plain = WithoutAccessKey(text);
-  const bool centred = alignment & Qt::AlignHCenter;
-  painter.setFont(FittedFont(plain, room.size(), font));
-  painter.drawText(centred ? Balanced(plain, room, painter.fontMetrics()) : room,
+  const Fitted fitted = FittedInto(WithoutAccessKey(text), room.size(), font, alignment & Qt::AlignHCenter);
+  QFont letters = font;
+  letters.setPixelSize(fitted.pixels);
+  painter.setFont(letters);
+  painter.drawText(room.adjusted(fitted.spare, 0, -fitted.spare, 0),
                    alignment | Qt::TextWordWrap | Qt::TextShowMnemonic, text);
 }
 
