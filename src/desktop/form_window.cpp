@@ -668,9 +668,11 @@ void FormWindow::ExplainFocus() {
   }
 }
 
+// Qt may be on its way through all that stands in the window, to hide it, and comes by the balloon yet.
 void FormWindow::HideBalloon() {
-  delete balloon_;
-  balloon_ = nullptr;
+  if (balloon_ == nullptr) return;
+  balloon_->hide();
+  std::exchange(balloon_, nullptr)->deleteLater();
 }
 
 // ---- The bare window ----

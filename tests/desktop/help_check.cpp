@@ -2,6 +2,7 @@
 // The help that windows give: balloons and their places, the line at the foot, windows beside a workspace.
 #include <gtest/gtest.h>
 
+#include <QPointer>
 #include <QWindow>
 
 #include "desktop/balloon.h"
@@ -54,6 +55,20 @@ TEST_F(Help, NeverCoversTheNextControlOrTheMouse) {
     }
   }
   EXPECT_GT(balloons, 40);
+}
+
+// Qt goes through all that stands in the window then: a balloon that was deleted on the way would be met
+// with.
+TEST_F(Help, BalloonsGoBehindAWindowThatIsMinimised) {
+  Hover(Widget(Smoking(), "comInterestRate1Past"));
+  const QPointer<const QWidget> balloon = Balloon();
+  ASSERT_FALSE(balloon.isNull());
+  Of(Smoking()).showMinimized();
+  EXPECT_EQ(Balloon(), nullptr);
+  ASSERT_FALSE(balloon.isNull());
+  EXPECT_FALSE(balloon->isVisibleTo(&Of(Smoking())));
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(balloon.isNull());
 }
 
 // ---- Where a balloon goes ----
