@@ -15,6 +15,7 @@
 #include "charts/chart_text.h"
 #include "desktop/chart_widget.h"
 #include "desktop/text.h"
+#include "desktop/zoom_input.h"
 
 namespace vicetoll {
 namespace {
@@ -789,8 +790,10 @@ class PlotWidget : public ChartWidget {
   }
   void mouseDoubleClickEvent(QMouseEvent*) override { ShowAll(); }
   void wheelEvent(QWheelEvent* event) override {
-    if (!event->modifiers().testFlag(Qt::ControlModifier) || contents_.months.empty()) return event->ignore();
-    Zoom(std::pow(0.8, event->angleDelta().y() / 120.0), scene_->MonthAt(event->position().x()));
+    if (!ZoomWheel::Zooms(*event) || contents_.months.empty()) return event->ignore();
+    // By whole notches: a fraction would change few months by less than one.
+    if (const int steps = wheel_.Turn(*event))
+      Zoom(std::pow(0.8, steps), scene_->MonthAt(event->position().x()));
   }
 
  private:
@@ -837,6 +840,7 @@ class PlotWidget : public ChartWidget {
   bool stale_ = true;
   std::optional<Span> inView_;  // none: all months
   std::optional<double> pressedAt_;
+  ZoomWheel wheel_;
   QRubberBand* drag_;
 };
 

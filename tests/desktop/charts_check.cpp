@@ -45,6 +45,13 @@ class Charts : public testing::Test {
     QMouseEvent move(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, buttons, Qt::NoModifier);
     QApplication::sendEvent(widget, &move);
   }
+  void TurnWheel(int month, int delta) {
+    const QPoint at = widget->PointOf(month);
+    QWheelEvent wheel(at, widget->mapToGlobal(at), {}, QPoint(0, delta), Qt::NoButton, Qt::ControlModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(widget, &wheel);
+  }
+  int MonthsSeen() { return widget->MonthsInView().last - widget->MonthsInView().first + 1; }
   int Last() { return chart.Count() - 1; }
 
   ScriptedPlatform platform{[](const std::string&) {}};
@@ -103,14 +110,22 @@ TEST_F(Charts, ZoomInTime) {
   EXPECT_EQ(widget->MonthsInView(), (ChartWidget::Span{0, 36}));
   QTest::keyClick(widget, Qt::Key_0, Qt::ControlModifier);
   EXPECT_EQ(widget->MonthsInView(), all);
-  const QPoint at = widget->PointOf(50);
-  QWheelEvent wheel(at, widget->mapToGlobal(at), {}, QPoint(0, 240), Qt::NoButton, Qt::ControlModifier,
-                    Qt::NoScrollPhase, false);
-  QApplication::sendEvent(widget, &wheel);
-  EXPECT_LT(widget->MonthsInView().last - widget->MonthsInView().first, Last() * 3 / 4);
+  TurnWheel(50, 240);
+  EXPECT_LT(MonthsSeen(), Last() * 3 / 4);
   EXPECT_GT(widget->MonthsInView().first, 0);
-  QTest::mouseDClick(widget, Qt::LeftButton, {}, at);
+  QTest::mouseDClick(widget, Qt::LeftButton, {}, widget->PointOf(50));
   EXPECT_EQ(widget->MonthsInView(), all);
+}
+
+// A touch pad turns the wheel by an eighth of a notch at a time: of a few months that is less than one.
+TEST_F(Charts, ZoomByATouchPad) {
+  TurnWheel(50, 240 * 5);
+  const int few = MonthsSeen();
+  ASSERT_LT(few, 20);
+  for (int turn = 0; turn < 16; ++turn) TurnWheel(50, -15);
+  EXPECT_GT(MonthsSeen(), few * 5 / 4);
+  for (int turn = 0; turn < 16; ++turn) TurnWheel(50, 15);
+  EXPECT_NEAR(MonthsSeen(), few, 2);
 }
 
 TEST_F(Charts, MakePicturesOfEachFormat) {
