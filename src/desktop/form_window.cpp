@@ -13,6 +13,7 @@
 #include <QToolTip>
 #include <QWindow>
 #include <algorithm>
+#include <map>
 
 #include "controls/spoken_name.h"
 #include "desktop/accessible.h"
@@ -42,6 +43,8 @@ constexpr int kCanvasStretch = 72;
 
 // Pixels that a window's title takes before the window manager has said so.
 constexpr int kTitleHeight = 28;
+
+constexpr double kNarrowestHint = 120;  // pixels of the design
 
 constexpr int kEveryPage = 3;  // of a button that stands on no tab
 
@@ -677,15 +680,26 @@ void FormWindow::HideBalloon() {
 
 // ---- The bare window ----
 
-// At the foot, two lines high, up to the first control that stands there.
+// At the foot, two lines high: the widest gap between the controls that stand there. None that is too narrow
+// for words.
 QRect FormWindow::RoomOfHint() const {
   const Scale& scale = GetScale();
   const int margin = scale.Of(8);
-  QRect room(margin, sheet_->height() - scale.Of(36), sheet_->width() - 2 * margin, scale.Of(34));
+  const QRect foot(margin, sheet_->height() - scale.Of(36), sheet_->width() - 2 * margin, scale.Of(34));
+  std::map<int, int> taken;  // from the left edge to behind the right one
   for (const auto& view : views_)
     if (const QWidget* widget = view->Widget();
-        widget->parentWidget() == sheet_ && !widget->isHidden() && widget->geometry().intersects(room))
-      room.setRight(std::max(room.left(), widget->x() - margin));
+        widget->parentWidget() == sheet_ && !widget->isHidden() && widget->geometry().intersects(foot))
+      taken[widget->x()] = std::max(taken[widget->x()], widget->x() + widget->width());
+  taken[foot.right() + 1 + margin] = 0;
+  QRect room(foot.topLeft(), QSize(0, foot.height()));
+  int left = foot.left();
+  for (const auto& [begin, end] : taken) {
+    const int width = begin - margin - left;
+    if (width > std::max(room.width(), scale.Of(kNarrowestHint)))
+      room = QRect(left, foot.top(), width, foot.height());
+    left = std::max(left, end + margin);
+  }
   return room;
 }
 

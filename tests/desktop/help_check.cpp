@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QPointer>
+#include <QPushButton>
 #include <QWindow>
 
+#include "desktop/accessible.h"
 #include "desktop/balloon.h"
 #include "desktop/balloon_place.h"
 #include "windows_fixture.h"
@@ -141,6 +143,24 @@ TEST_F(Help, TellsOfWhatThePointerComesTo) {
   QEvent leave(QEvent::Leave);
   QApplication::sendEvent(&Widget(Smoking(), "comStartPast"), &leave);
   EXPECT_EQ(Smoking().Hint(), "Choose dates, amount and cost, then press Set Past Period 1 Parameters");
+}
+
+// Where a row of buttons stands at the foot, between them: nothing is said unseen, or over a button.
+TEST_F(Help, HasRoomBetweenTheButtonsOfAChart) {
+  desktop.Enter([&] { Smoking().Of(Side::Past).cmdSetPeriodParams->UserClicks(); });
+  desktop.Enter([&] { Smoking().Get<Button>("cmdGrowthChart").UserClicks(); });
+  desktop.Enter([&] { program.Growth().Say("Saved in chart.png"); });
+  FormWindow& window = Of(program.Growth());
+  int said = 0;
+  for (const QWidget* text : window.GetSheet().findChildren<QWidget*>()) {
+    if (dynamic_cast<const SpokenText*>(text) == nullptr || text->accessibleName() != "Saved in chart.png")
+      continue;
+    ++said;
+    EXPECT_GT(text->width(), 150);
+    for (const QPushButton* button : window.GetSheet().findChildren<QPushButton*>())
+      EXPECT_FALSE(button->geometry().intersects(text->geometry())) << button->objectName().toStdString();
+  }
+  EXPECT_EQ(said, 1);
 }
 
 }  // namespace
