@@ -341,6 +341,16 @@ void CaptionChoice<Base>::SetColour(int colour) {
   this->update();
 }
 
+// In small windows the gap gives way before the letters do: a caption smaller than those beside it is worse.
+template <class Base>
+QRect CaptionChoice<Base>::CaptionBeside(const QRect& mark, int gap) const {
+  const QString plain = WithoutAccessKey(this->text());
+  for (gap = std::max(gap, kIndicatorGap);; --gap) {
+    const QRect room = this->rect().adjusted(mark.right() + 1 + gap, 0, gap > 1 ? -2 : 0, 0);
+    if (gap <= 1 || FittedFont(plain, room.size(), this->font()) == this->font()) return room;
+  }
+}
+
 template <class Base>
 void CaptionChoice<Base>::paintEvent(QPaintEvent*) {
   QPainter painter(this);
@@ -358,8 +368,7 @@ void CaptionChoice<Base>::paintEvent(QPaintEvent*) {
     if (!this->isEnabled()) ink.setAlpha(kFaint);
   }
   painter.setPen(ink);
-  const int caption = place.right() + 1 + std::max(scale.Of(kIndicatorGap), kIndicatorGap);
-  DrawFitted(painter, this->rect().adjusted(caption, 0, -2, 0), Qt::AlignLeft | Qt::AlignVCenter,
+  DrawFitted(painter, CaptionBeside(place, scale.Of(kIndicatorGap)), Qt::AlignLeft | Qt::AlignVCenter,
              this->text(), this->font());
   if (this->hasFocus()) DrawFocusRing(painter, this->rect());
 }

@@ -113,6 +113,8 @@ class CaptionChoice : public Base {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QRect CaptionBeside(const QRect& mark, int gap) const;
+
   int colour_ = -1;
 };
 using RadioWidget = CaptionChoice<QRadioButton>;

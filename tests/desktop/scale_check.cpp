@@ -167,6 +167,29 @@ TEST_F(Sizes, KeysAndWheelZoomTheWindowOfAChartWithoutMonths) {
   EXPECT_EQ(desktop.GetScaling().Zoom(), 125);
 }
 
+// How far to the right something is drawn.
+int InkEndsAt(QWidget& widget) {
+  const QImage picture = widget.grab().toImage();
+  const int middle = picture.height() / 2;
+  for (int x = picture.width() - 1; x > 0; --x)
+    for (int y = middle - 2; y <= middle + 2; ++y)
+      if (qGray(picture.pixel(x, y)) < 160) return x;
+  return 0;
+}
+
+// The room beside the mark of an option is short where windows are small; its letters are those of all
+// others.
+TEST_F(Sizes, OptionsOfSmallWindowsHaveTheLettersOfTheOthers) {
+  for (int height = 480; height <= 760; height += 20) {
+    SetScreen({1920, height});
+    FormWindow& window = Of(Smoking());
+    QWidget& option = *window.WidgetOf(*Smoking().Find("optFineDateStartPast"));
+    const int mark = window.GetScale().Of(4 + 14);
+    const int letters = QFontMetrics(option.font()).horizontalAdvance("Fine: 1 Month");
+    EXPECT_GT(InkEndsAt(option) - mark, letters * 95 / 100) << height;
+  }
+}
+
 TEST_F(Sizes, ReportsKeepTheirWindowAndZoomTheirText) {
   desktop.Enter([&] { program.Info().ShowHelpFile(); });
   FormWindow& help = Of(program.Info());
